@@ -1,0 +1,61 @@
+import { supportKey } from '../hosts.mjs';
+import { BadRequest } from '../server/exchange.mjs';
+import { endpoints } from './endpoints/index.mjs';
+import { BackendError } from './errors.mjs';
+import { parseMultipart } from './multipart.mjs';
+
+const widgetPrefix = '/api/support/widget';
+const publicPrefix = '/api/pub';
+const uploadLimit = 16 * 1024 * 1024;
+
+/** The backend's host: JSON by POST, reading by GET, uploads as multipart. */
+export class BackendSite {
+  #store;
+  #journal;
+  #routes;
+
+  constructor({ store, journal, routes = endpoints }) {
+    this.#store = store;
+    this.#journal = journal;
+    this.#routes = new Map(routes.map((endpoint) => [(endpoint.public ? publicPrefix : widgetPrefix) + endpoint.path, endpoint]));
+  }
+
+  async handle(exchange) {
+    try {
+      const answer = await this.#call(exchange);
+      if (!exchange.finished) exchange.sendJson(200, answer ?? {});
+    } catch (error) {
+      if (!(error instanceof BackendError)) throw error;
+      exchange.sendJson(error.status, { code: error.code, message: error.message });
+    }
+  }
+
+  async #call(exchange) {
+    const widget = exchange.path.startsWith(`${widgetPrefix}/`);
+    const call = await readCall(exchange);
+    if (widget && call.input.publicKey !== supportKey) throw new BackendError(404, 'WIDGET_NOT_FOUND', 'No widget has this key');
+    const endpoint = this.#routes.get(exchange.path);
+    if (!endpoint) {
+      this.#journal.unknownPath(exchange);
+      throw new BackendError(404, 'NOT_FOUND', `There is no ${exchange.path}`);
+    }
+    if (!endpoint.methods.includes(exchange.method)) {
+      throw new BackendError(405, 'METHOD_NOT_ALLOWED', `${endpoint.path} does not take ${exchange.method}`);
+    }
+    return endpoint.handle(call, this.#store);
+  }
+}
+
+/** What was sent, in one shape whether it came as a query, as JSON or as a form. */
+async function readCall(exchange) {
+  const query = Object.fromEntries(exchange.query);
+  if (exchange.method !== 'POST') return { input: query, files: {}, query, exchange };
+  const type = exchange.headers['content-type'] ?? '';
+  if (/^multipart\/form-data/i.test(type)) {
+    const { fields, files } = parseMultipart(await exchange.body(uploadLimit), type);
+    return { input: fields, files, query, exchange };
+  }
+  const input = await exchange.json();
+  if (input === null || typeof input !== 'object' || Array.isArray(input)) throw new BadRequest('the body is not a JSON object');
+  return { input, files: {}, query, exchange };
+}

@@ -1,0 +1,71 @@
+export const skirt = {
+  drawing: 'skirt',
+  productType: 'Skirts',
+  noun: 'skirt',
+  collections: ['skirts'],
+  departments: ['women'],
+  sizes: 'continental',
+  table: 'skirt',
+  price: [108, 320],
+  styles: [
+    { name: 'pleated midi skirt', fabrics: ['crepe', 'twill'] },
+    { name: 'knife-pleat skirt', fabrics: ['twill', 'crepe'] },
+    { name: 'pleated mini skirt', fabrics: ['twill', 'hopsack'], length: 70 },
+    { name: 'sunray skirt', fabrics: ['satin', 'silk'] },
+    { name: 'pleated wool skirt', fabrics: ['twill'], length: 90 },
+  ],
+  openings: [
+    'Twenty-four pleats, set with steam and here to stay.',
+    'A skirt that arrives a moment after you do.',
+    'Made to be walked in, quickly, on a day with some wind.',
+    'Pleated flat over the hip and free from there on.',
+  ],
+  cut: [
+    'A narrow waistband that sits at the natural waist, with a hidden zip at the side.',
+    'The pleats are stitched down for a hand’s width before they open, which keeps the line clean.',
+    'Lined to the knee, so that it never rides up over tights.',
+  ],
+  styling: [
+    'With a cable knit tucked in at the front only.',
+    'A striped shirt, a belt, a flat shoe: done before the coffee is.',
+    'Boots and bare knees, or tights and a long coat.',
+  ],
+  highlights: ['Permanent pleats', 'Hidden side zip', 'Lined to the knee', 'Contrast waistband', 'Packs rolled'],
+  praise: ['The pleats survive a suitcase', 'Swings when I walk', 'The waistband does not dig in'],
+};
+
+export const trousers = {
+  drawing: 'trousers',
+  productType: 'Trousers',
+  noun: 'trousers',
+  collections: ['trousers'],
+  departments: ['women', 'men'],
+  sizes: 'continental',
+  table: 'trousers',
+  price: [128, 340],
+  styles: [
+    { name: 'wide-leg wool trousers', fabrics: ['twill'] },
+    { name: 'high-rise trousers', fabrics: ['crepe', 'twill'] },
+    { name: 'sailor trousers', fabrics: ['gabardine', 'linen'] },
+    { name: 'wide linen trousers', fabrics: ['linen'] },
+    { name: 'cropped wide trousers', fabrics: ['hopsack', 'linen'], length: 88 },
+  ],
+  openings: [
+    'Wide where it is elegant, narrow where it counts.',
+    'The trousers that ended an argument about trousers.',
+    'They make you taller. We measured.',
+    'Tailored like a suit, worn like a pair of pyjamas.',
+  ],
+  cut: [
+    'A high rise with two buttons, belt loops and slanted pockets that lie flat. The leg falls straight from the hip.',
+    'Pressed with a single crease and left unhemmed by two centimetres for your tailor.',
+    'A curved waistband, cut in two pieces so that it can be let out or taken in.',
+  ],
+  styling: [
+    'With the shirt tucked in and the shoes barely visible.',
+    'A fine knit and a belt for the office; a vest and sandals for the rest of the year.',
+    'Let the hem touch the shoe and stop there.',
+  ],
+  highlights: ['High rise', 'Curved two-piece waistband', 'Extra hem allowance', 'Flat slanted pockets', 'Pressed crease'],
+  praise: ['Finally long enough', 'Hang like a dream', 'Dressy and comfortable at once'],
+};

@@ -1,0 +1,72 @@
+export const trench = {
+  drawing: 'trench',
+  productType: 'Coats',
+  noun: 'coat',
+  collections: ['coats'],
+  departments: ['women', 'men'],
+  sizes: 'letters',
+  table: 'coat',
+  price: [340, 720],
+  styles: [
+    { name: 'belted trench coat', fabrics: ['gabardine'] },
+    { name: 'double-breasted trench', fabrics: ['gabardine', 'twill'] },
+    { name: 'storm-flap coat', fabrics: ['gabardine'] },
+    { name: 'wool trench coat', fabrics: ['twill'] },
+    { name: 'short trench jacket', fabrics: ['gabardine', 'hopsack'], length: 82 },
+  ],
+  openings: [
+    'The coat that makes whatever is under it look intended.',
+    'Everything a trench needs and nothing it has picked up since.',
+    'Rain was a good idea after all.',
+    'Drawn from a pattern of the thirties, shortened a hand and let out at the back.',
+  ],
+  cut: [
+    'Double-breasted with a wide collar that stands when you want it to. The belt is long enough to knot.',
+    'Raglan sleeves take a thick knit without complaint. A deep vent at the back keeps the stride free.',
+    'Horn buttons, each sewn with a shank and a spare inside the hem.',
+  ],
+  styling: [
+    'Over a slip dress, over a suit, over pyjamas on the way to the bakery.',
+    'Leave it open and push the sleeves up; it was never meant to be neat.',
+    'Tie the belt behind your back on dry days.',
+  ],
+  highlights: ['Shower-proof without fluorocarbons', 'Horn buttons', 'Deep back vent', 'Inner pocket for a passport', 'Fully lined'],
+  praise: ['Survived a week of proper rain', 'The collar stands up by itself', 'Enough room for a heavy knit'],
+};
+
+export const blazer = {
+  drawing: 'blazer',
+  productType: 'Blazers',
+  noun: 'blazer',
+  collections: ['blazers'],
+  departments: ['women', 'men'],
+  sizes: 'letters',
+  table: 'coat',
+  evening: true,
+  price: [260, 560],
+  styles: [
+    { name: 'tailored blazer', fabrics: ['twill', 'hopsack'] },
+    { name: 'single-button blazer', fabrics: ['hopsack', 'twill'] },
+    { name: 'linen blazer', fabrics: ['linen'] },
+    { name: 'relaxed blazer', fabrics: ['hopsack', 'crepe'] },
+    { name: 'evening jacket', fabrics: ['satin', 'twill'] },
+  ],
+  openings: [
+    'A blazer with its shoulders down.',
+    'Tailored by people who make men’s suits in the morning and would rather be making this.',
+    'One button, two pockets, no opinion about the occasion.',
+    'Half-canvassed, so that in a year it fits you better than it does today.',
+  ],
+  cut: [
+    'A single button at the natural waist, a gently notched lapel and sleeves set by hand.',
+    'The shoulder is unpadded and the back is cut in one piece, which is why it feels like a cardigan.',
+    'Flap pockets that open, a chest pocket that holds a pen, and working cuffs.',
+  ],
+  styling: [
+    'With the matching trousers when you have to, with denim when you do not.',
+    'Over a slip dress it turns evening into late evening.',
+    'Roll the sleeve once to show the lining.',
+  ],
+  highlights: ['Half-canvassed', 'Unpadded shoulder', 'Working cuffs', 'Three inner pockets', 'Natural horn button'],
+  praise: ['The shoulder line is perfect', 'Soft like a cardigan', 'My tailor asked where it came from'],
+};

@@ -1,0 +1,73 @@
+export const knit = {
+  drawing: 'knit',
+  productType: 'Knitwear',
+  noun: 'knit',
+  collections: ['knitwear', 'tops'],
+  departments: ['women', 'men'],
+  sizes: 'letters',
+  table: 'top',
+  alpine: true,
+  price: [118, 380],
+  styles: [
+    { name: 'cable rollneck', fabrics: ['lambswool', 'merino'] },
+    { name: 'cable pullover', fabrics: ['lambswool', 'cashmere'] },
+    { name: 'fisherman knit', fabrics: ['lambswool'] },
+    { name: 'cashmere rollneck', fabrics: ['cashmere'] },
+    { name: 'ribbed-hem pullover', fabrics: ['merino', 'cashmere'] },
+  ],
+  openings: [
+    'Six cables, three weeks of winter, one very good jumper.',
+    'Knitted on machines older than anyone who runs them.',
+    'Heavy enough to be a jacket, soft enough not to be one.',
+    'The pattern came from a photograph of somebody’s grandfather, mending a net and looking pleased.',
+  ],
+  cut: [
+    'A straight body with a tall collar that folds once, and cuffs deep enough to turn back.',
+    'Fully fashioned, which means every panel is knitted to shape and linked stitch by stitch.',
+    'The cables run the whole way up and close at the shoulder, where most stop short.',
+  ],
+  styling: [
+    'With wide trousers and boots; the proportions sort themselves out.',
+    'Over a poplin shirt with the cuffs showing.',
+    'Let it slide off one shoulder of a slip dress, and stay by the fire.',
+  ],
+  highlights: ['Fully fashioned', 'Knitted in one mill', 'Mending yarn included', 'Does not itch', 'Tall folding collar'],
+  praise: ['Warm without being bulky', 'Not scratchy at all', 'Looks hand-knitted'],
+};
+
+export const shirt = {
+  drawing: 'shirt',
+  productType: 'Shirts',
+  noun: 'shirt',
+  collections: ['tops'],
+  departments: ['women', 'men'],
+  sizes: 'letters',
+  table: 'top',
+  price: [88, 240],
+  styles: [
+    { name: 'striped poplin shirt', fabrics: ['poplin'] },
+    { name: 'striped shirt', fabrics: ['poplin', 'oxford'] },
+    { name: 'silk shirt', fabrics: ['silk'], plain: true },
+    { name: 'Oxford shirt', fabrics: ['oxford'], plain: true },
+    { name: 'pocket shirt', fabrics: ['poplin', 'linen'] },
+    { name: 'linen shirt', fabrics: ['linen'], plain: true },
+  ],
+  openings: [
+    'A shirt you can sleep in and still wear to the meeting.',
+    'The collar is soft, the cuff is not, and that is the whole idea.',
+    'Borrowed-looking from the first day.',
+    'Stripes that match at the placket, the pocket and the shoulder, because someone cared to.',
+  ],
+  cut: [
+    'A relaxed body with a dropped shoulder and a curved hem, long enough to tuck and stay tucked.',
+    'Single-needle stitching throughout and a split yoke that follows the back.',
+    'One chest pocket, pattern-matched. The cuffs take a turn without arguing.',
+  ],
+  styling: [
+    'Half tucked into wide trousers, sleeves to the elbow.',
+    'Open over a swimsuit, closed under a blazer.',
+    'Two buttons open, always two.',
+  ],
+  highlights: ['Pattern-matched stripes', 'Single-needle seams', 'Mother-of-pearl buttons', 'Curved hem', 'Softens with every wash'],
+  praise: ['The collar sits right with or without a jacket', 'Crisp but never stiff', 'Generous in the best way'],
+};

@@ -1,0 +1,80 @@
+import { once } from 'node:events';
+import { join } from 'node:path';
+
+import { BackendSite } from './backend/site.mjs';
+import { Tracker } from './backend/endpoints/track.mjs';
+import { Catalog } from './catalog/catalog.mjs';
+import { domain, hostNames, hosts, storefrontToken, supportKey } from './hosts.mjs';
+import { PictureSite } from './pictures/site.mjs';
+import { Studio } from './pictures/studio.mjs';
+import { loadCertificates } from './server/certificates.mjs';
+import { createControl } from './server/control.mjs';
+import { Faults } from './server/faults.mjs';
+import { Journal } from './server/journal.mjs';
+import { createProxy } from './server/proxy.mjs';
+import { createSecureStore } from './server/secure.mjs';
+import { Carts } from './storefront/carts.mjs';
+import { StorefrontSite } from './storefront/site.mjs';
+import { BareWebSite, WebSite } from './web/site.mjs';
+
+/**
+ * Starts the whole store and resolves once it answers: {ready, catalog, close}. ready is what an application needs to
+ * know to shop here.
+ */
+export async function startStore({ seed = 'loomstreet', pieces = 420, stateDir, port = 0, controlPort = 0, startedAt, log = null }) {
+  const certificatesLoaded = loadCertificates(stateDir, { domain, hostNames });
+  const journal = new Journal({ log });
+  const faults = new Faults();
+  const carts = new Carts();
+  const tracker = new Tracker();
+  const catalog = new Catalog({ seed, count: pieces, startedAt });
+  const pictures = new PictureSite({ catalog, studio: new Studio(join(stateDir, 'pictures')), journal });
+  const storefront = new StorefrontSite({ catalog, carts, journal });
+  const sites = new Map([
+    [hosts.shop, storefront],
+    [hosts.service, new BackendSite({ store: { catalog, carts, tracker }, journal })],
+    [hosts.cdn, pictures],
+    [hosts.web, new WebSite({ catalog, storefront, pictures, journal })],
+    [hosts.bareWeb, new BareWebSite()],
+  ]);
+
+  const reset = () => {
+    faults.clear();
+    carts.clear();
+    tracker.clear();
+    journal.clear();
+  };
+  const certificates = await certificatesLoaded;
+  const secure = createSecureStore({ certificates, sites, journal, faults });
+  const proxy = createProxy({ secureServer: secure, hostNames, journal });
+  const control = createControl({ journal, faults, tracker, reset });
+  const [proxyPort, ownControlPort] = await Promise.all([listen(proxy, port), listen(control, controlPort)]);
+
+  return {
+    catalog,
+    ready: {
+      pid: process.pid,
+      proxy: `http://127.0.0.1:${proxyPort}`,
+      control: `http://127.0.0.1:${ownControlPort}`,
+      caFile: certificates.caFile,
+      shopifyDomain: hosts.shop,
+      storefrontToken,
+      supportBase: `https://${hosts.service}`,
+      supportKey,
+      storeWebURL: `https://${hosts.web}`,
+    },
+    async close() {
+      faults.clear();
+      proxy.endTunnels();
+      secure.endSessions();
+      control.closeAllConnections?.();
+      await Promise.all([proxy, control].map((server) => new Promise((resolve) => server.close(resolve))));
+    },
+  };
+}
+
+async function listen(server, port) {
+  server.listen(port, '127.0.0.1');
+  await once(server, 'listening');
+  return server.address().port;
+}
