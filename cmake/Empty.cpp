@@ -1,0 +1,1 @@
+// Carries the precompiled header that the libraries below ui/ share.

@@ -1,0 +1,146 @@
+#pragma once
+
+#include "base/KeyedText.h"
+
+#include <QObject>
+#include <QVariant>
+
+#include <array>
+#include <functional>
+
+namespace loom
+{
+
+class WindowSession;
+
+namespace AppCommand
+{
+Q_NAMESPACE
+
+enum class Id {
+    NewTab,
+    NewWindow,
+    CloseTab,
+    CloseOtherTabs,
+    TakeScreenshot,
+    Settings,
+    Quit,
+    Back,
+    Forward,
+    Reload,
+    GoToSectionHome,
+    NextTab,
+    PreviousTab,
+    Search,
+    ToggleSidebar,
+    ToggleFullScreen,
+    HelpCenter,
+    Agreements,
+};
+Q_ENUM_NS(Id)
+
+enum class Menu { File, View, Go, Help };
+Q_ENUM_NS(Menu)
+} // namespace AppCommand
+
+/// What a command is called, where it stands and which keys bring it. The first key is the one a menu shows.
+struct AppCommandEntry {
+    AppCommand::Id id;
+    AppCommand::Menu menu;
+    KeyedText title;
+    std::array<const char*, 3> shortcuts{};
+    const char* accessibilityId = nullptr;
+};
+
+/// The commands in the order of their menus.
+inline constexpr std::array<AppCommandEntry, 18> appCommandEntries{{
+    {AppCommand::Id::NewTab, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "New Tab")}, {"Ctrl+T"}},
+    {AppCommand::Id::NewWindow, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "New Window")}, {"Ctrl+N"}},
+    {AppCommand::Id::CloseTab, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "Close Tab")}, {"Ctrl+W"}},
+    {AppCommand::Id::CloseOtherTabs,
+     AppCommand::Menu::File,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Close Other Tabs")},
+     {"Ctrl+Alt+W"}},
+    {AppCommand::Id::TakeScreenshot,
+     AppCommand::Menu::File,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Take a Screenshot")},
+     {"Ctrl+Shift+S"}},
+    {AppCommand::Id::Settings, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "Settings")}, {"Ctrl+,"}},
+    {AppCommand::Id::Quit, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "Quit")}, {"Ctrl+Q"}},
+    {AppCommand::Id::Reload,
+     AppCommand::Menu::View,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Reload This Page")},
+     {"Ctrl+R", "F5"}},
+    {AppCommand::Id::ToggleSidebar,
+     AppCommand::Menu::View,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Collapse Sidebar")},
+     {"Ctrl+B"}},
+    {AppCommand::Id::ToggleFullScreen,
+     AppCommand::Menu::View,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Full Screen")},
+     {"F11"}},
+    {AppCommand::Id::Back,
+     AppCommand::Menu::Go,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Back")},
+     {"Ctrl+[", "Alt+Left"},
+     "nav.back"},
+    {AppCommand::Id::Forward,
+     AppCommand::Menu::Go,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Forward")},
+     {"Ctrl+]", "Alt+Right"},
+     "nav.forward"},
+    {AppCommand::Id::GoToSectionHome,
+     AppCommand::Menu::Go,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Go to Section Home")},
+     {"Ctrl+Up"}},
+    {AppCommand::Id::Search,
+     AppCommand::Menu::Go,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Search")},
+     {"Ctrl+K", "Ctrl+L", "Ctrl+F"}},
+    {AppCommand::Id::NextTab, AppCommand::Menu::Go, {QT_TRANSLATE_NOOP("Loomstreet", "Next Tab")}, {"Ctrl+Tab"}},
+    {AppCommand::Id::PreviousTab,
+     AppCommand::Menu::Go,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Previous Tab")},
+     {"Ctrl+Shift+Tab"}},
+    {AppCommand::Id::HelpCenter,
+     AppCommand::Menu::Help,
+     {QT_TRANSLATE_NOOP("Loomstreet", "LOOMSTREET Help Center")},
+     {"F1"}},
+    {AppCommand::Id::Agreements, AppCommand::Menu::Help, {QT_TRANSLATE_NOOP("Loomstreet", "Agreements")}, {}},
+}};
+
+/// What the commands need beyond the window they act on.
+struct AppCommandActions {
+    std::function<void()> openWindow;
+    std::function<void()> openSettings;
+    std::function<void()> quit;
+};
+
+/// The commands of one window: each acts on its session and the selected tab. Main thread; owned by the window.
+class AppCommands final : public QObject
+{
+    Q_OBJECT
+
+public:
+    AppCommands(WindowSession& session, AppCommandActions actions, QObject* parent = nullptr);
+
+    /// The commands of a menu as {"id", "title", "shortcut", "shortcuts", "accessibilityId"}, in order.
+    [[nodiscard]] Q_INVOKABLE QVariantList commands(loom::AppCommand::Menu menu) const;
+    /// Those of every menu.
+    [[nodiscard]] Q_INVOKABLE QVariantList allCommands() const;
+    [[nodiscard]] Q_INVOKABLE bool isEnabled(loom::AppCommand::Id id) const;
+    Q_INVOKABLE void perform(loom::AppCommand::Id id);
+
+Q_SIGNALS:
+    /// What isEnabled() answers may have changed.
+    void availabilityChanged();
+
+private:
+    void watchSelectedTab();
+
+    WindowSession& m_session;
+    AppCommandActions m_actions;
+    QMetaObject::Connection m_watched;
+};
+
+} // namespace loom

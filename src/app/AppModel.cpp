@@ -1,0 +1,154 @@
+#include "app/AppModel.h"
+
+#include "app/WindowHost.h"
+#include "base/Clock.h"
+#include "base/Random.h"
+#include "catalog/Department.h"
+#include "catalog/StorefrontLanguage.h"
+
+#include <QStandardPaths>
+
+namespace loom
+{
+
+namespace
+{
+
+/// Every collection of the built-in departments, each once.
+QStringList allCollections()
+{
+    QStringList handles;
+    for (const Department& department : departments())
+        handles.append(department.collections);
+    handles.removeDuplicates();
+    return handles;
+}
+
+} // namespace
+
+AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
+    : QObject(parent)
+    , m_config(std::move(config))
+    , m_platform(std::move(platform))
+    , m_folder(m_platform.dataFolder)
+    , m_preferences(m_folder)
+    , m_settings(m_preferences)
+    , m_transport(m_platform.clock, m_platform.network)
+    , m_storefrontClient(m_config.shopifyDomain, m_config.storefrontToken, m_platform.locale, m_transport,
+                         m_platform.clock)
+    , m_storefront(m_storefrontClient)
+    , m_widget(m_config.supportBase, m_config.supportKey, m_transport, m_noSession, m_platform.random)
+    , m_tracker(
+          m_widget, m_platform.clock, [this] { return m_settings.sharesUsage(); }, [this] { return visitorID(); })
+    , m_session(m_platform.network)
+    , m_money(appLanguageFor(m_platform.locale))
+    , m_market({.country = defaultCountry(m_platform.locale), .language = appLanguageFor(m_platform.locale)},
+               m_storefrontClient, m_storefront, m_folder, m_preferences, m_platform.clock)
+    , m_services{.clock = m_platform.clock,
+                 .random = m_platform.random,
+                 .resolver = LinkResolver(StorePages(m_config.storeWebURL).storeHost()),
+                 .storePages = StorePages(m_config.storeWebURL),
+                 .openExternally = m_platform.openExternally,
+                 .heldKeys = m_platform.heldKeys}
+{
+}
+
+AppModel::~AppModel() = default;
+
+bool AppModel::claim(const QString& key)
+{
+    if (m_claimed.contains(key))
+        return false;
+    m_claimed.insert(key);
+    return true;
+}
+
+void AppModel::bootstrap()
+{
+    if (std::exchange(m_didBootstrap, true))
+        return;
+    m_market.load();
+    m_tracker.report(Tracker::AppOpened{});
+}
+
+QString AppModel::visitorID()
+{
+    if (m_preferences.value(preferences::visitorId).isEmpty())
+        m_preferences.set(preferences::visitorId, m_platform.random.uuid().toString(QUuid::WithoutBraces));
+    return m_preferences.value(preferences::visitorId);
+}
+
+WindowSession& AppModel::openWindow(const WindowSeed& seed)
+{
+    bootstrap();
+    WindowSession& session = *m_sessions.emplace_back(std::make_unique<WindowSession>(m_services, seed));
+    m_keyOrder.prepend(&session);
+    m_windows->show(session);
+    return session;
+}
+
+void AppModel::closeWindow(WindowSession* session)
+{
+    m_keyOrder.removeAll(session);
+    const auto found = std::ranges::find(m_sessions, session, &std::unique_ptr<WindowSession>::get);
+    if (found == m_sessions.end())
+        return;
+    // The call may come out of the session itself.
+    WindowSession* const closed = found->release();
+    closed->setParent(this);
+    closed->deleteLater();
+    m_sessions.erase(found);
+}
+
+void AppModel::windowBecameKey(WindowSession* session)
+{
+    if (m_keyOrder.removeAll(session) > 0)
+        m_keyOrder.prepend(session);
+}
+
+WindowSession* AppModel::keySession() const
+{
+    return m_keyOrder.value(0);
+}
+
+CollectionModel* AppModel::makeCollection(QObject* owner, const QString& handle, const QString& fallbackTitle)
+{
+    m_tracker.report(Tracker::CollectionViewed{.handle = handle});
+    return new CollectionModel(handle, fallbackTitle, m_storefront, m_market, m_money, m_platform.clock, owner);
+}
+
+ProductModel* AppModel::makeProduct(QObject* owner, const QString& handle, const QVariant& item)
+{
+    m_tracker.report(Tracker::ProductViewed{.handle = handle});
+    const auto card = item.canConvert<ProductListItem>() ? std::optional(item.value<ProductListItem>()) : std::nullopt;
+    return new ProductModel(handle, card, AppConfig::freeShippingThreshold, m_storefront, m_market, m_preferences,
+                            m_money, m_platform.clock, owner);
+}
+
+CollectionTilesModel* AppModel::makeDepartment(QObject* owner, const QString& id)
+{
+    const Department* const department = findDepartment(id);
+    return new CollectionTilesModel(department ? department->collections : allCollections(), m_storefront, m_market,
+                                    owner);
+}
+
+QString AppModel::screenshotPath() const
+{
+    const QString name = m_platform.clock.now().toLocalTime().toString(QStringLiteral("yyyy-MM-dd 'at' HH.mm.ss"));
+    return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + QStringLiteral("/LOOMSTREET ") + name +
+           QStringLiteral(".png");
+}
+
+AppCommands* AppModel::makeCommands(QObject* owner, WindowSession* session)
+{
+    return new AppCommands(*session,
+                           {.openWindow = [this] { openWindow({}); },
+                            .openSettings = [this] { m_windows->showSettings(); },
+                            .quit =
+                                [this] {
+                                    Q_EMIT quitRequested();
+                                }},
+                           owner);
+}
+
+} // namespace loom

@@ -1,0 +1,128 @@
+#pragma once
+
+#include "app/AppCommands.h"
+#include "app/AppConfig.h"
+#include "app/AppSession.h"
+#include "app/AppSettings.h"
+#include "app/WindowServices.h"
+#include "app/WindowSession.h"
+#include "base/FeatureGates.h"
+#include "catalog/CollectionModel.h"
+#include "catalog/CollectionTilesModel.h"
+#include "catalog/MarketStore.h"
+#include "catalog/MoneyFormat.h"
+#include "catalog/ProductModel.h"
+#include "catalog/StorefrontAPI.h"
+#include "net/HttpTransport.h"
+#include "net/SessionSource.h"
+#include "net/Tracker.h"
+#include "net/WidgetClient.h"
+#include "storage/DataFolder.h"
+#include "storage/Preferences.h"
+
+#include <QSet>
+
+namespace loom
+{
+
+class WindowHost;
+
+/// What the application takes from the system it runs on. Everything outlives the model.
+struct AppPlatform {
+    Clock& clock;
+    Random& random;
+    NetworkStatus& network;
+    FeatureGates& features;
+    QString dataFolder;
+    SystemLocale locale;
+    std::function<void(const QUrl&)> openExternally;
+    std::function<Qt::KeyboardModifiers()> heldKeys;
+};
+
+/// The root: creates every long-lived client and store once, in order, hands each what it needs, and owns the open
+/// windows' sessions. The one object the pages receive. Main thread.
+class AppModel final : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(loom::MarketStore* market READ market CONSTANT)
+    Q_PROPERTY(loom::AppSettings* settings READ settings CONSTANT)
+    Q_PROPERTY(loom::AppSession* session READ session CONSTANT)
+    Q_PROPERTY(QString version READ version CONSTANT)
+    Q_PROPERTY(QString storeWebAddress READ storeWebAddress CONSTANT)
+
+public:
+    AppModel(AppConfig config, AppPlatform platform, QObject* parent = nullptr);
+    ~AppModel() override;
+
+    [[nodiscard]] const AppConfig& config() const { return m_config; }
+    [[nodiscard]] StorefrontAPI& storefront() { return m_storefront; }
+    [[nodiscard]] WidgetClient& widget() { return m_widget; }
+    [[nodiscard]] AppSession* session() { return &m_session; }
+    [[nodiscard]] MarketStore* market() { return &m_market; }
+    [[nodiscard]] AppSettings* settings() { return &m_settings; }
+    [[nodiscard]] Preferences& preferences() { return m_preferences; }
+    [[nodiscard]] Tracker& tracker() { return m_tracker; }
+    /// The address of the store's own site.
+    [[nodiscard]] const QString& storeWebAddress() const { return m_config.storeWebURL; }
+    [[nodiscard]] static QString version() { return AppConfig::appVersion(); }
+
+    /// True for the first who asks in this process.
+    [[nodiscard]] bool claim(const QString& key);
+
+    /// What has to be begun once per process, however many windows are opened.
+    void bootstrap();
+    [[nodiscard]] bool didBootstrap() const { return m_didBootstrap; }
+
+    /// The anonymous identifier of this installation.
+    [[nodiscard]] QString visitorID();
+
+    /// Who shows windows; must be set before the first is opened, and outlive the model's use.
+    void setWindowHost(WindowHost* host) { m_windows = host; }
+    WindowSession& openWindow(const WindowSeed& seed);
+    /// The session's window is gone.
+    Q_INVOKABLE void closeWindow(loom::WindowSession* session);
+    /// The session's window came to the front.
+    Q_INVOKABLE void windowBecameKey(loom::WindowSession* session);
+    /// The window in front, or the one that was last; null when there is none.
+    [[nodiscard]] WindowSession* keySession() const;
+    [[nodiscard]] const std::vector<std::unique_ptr<WindowSession>>& windows() const { return m_sessions; }
+
+    /// The models of pages; each belongs to `owner` and ends with it.
+    [[nodiscard]] Q_INVOKABLE loom::CollectionModel* makeCollection(QObject* owner, const QString& handle,
+                                                                    const QString& fallbackTitle);
+    [[nodiscard]] Q_INVOKABLE loom::ProductModel* makeProduct(QObject* owner, const QString& handle,
+                                                              const QVariant& item);
+    /// The collections of a department, or with an empty id those of all departments.
+    [[nodiscard]] Q_INVOKABLE loom::CollectionTilesModel* makeDepartment(QObject* owner, const QString& id);
+    [[nodiscard]] Q_INVOKABLE loom::AppCommands* makeCommands(QObject* owner, loom::WindowSession* session);
+
+    /// Where a picture of the window taken now is to be saved.
+    [[nodiscard]] Q_INVOKABLE QString screenshotPath() const;
+
+Q_SIGNALS:
+    void quitRequested();
+
+private:
+    AppConfig m_config;
+    AppPlatform m_platform;
+    DataFolder m_folder;
+    Preferences m_preferences;
+    AppSettings m_settings;
+    NoSession m_noSession;
+    HttpTransport m_transport;
+    StorefrontClient m_storefrontClient;
+    StorefrontAPI m_storefront;
+    WidgetClient m_widget;
+    Tracker m_tracker;
+    AppSession m_session;
+    QSet<QString> m_claimed;
+    MoneyFormat m_money;
+    MarketStore m_market;
+    bool m_didBootstrap = false;
+    WindowServices m_services;
+    WindowHost* m_windows = nullptr;
+    std::vector<std::unique_ptr<WindowSession>> m_sessions;
+    QList<WindowSession*> m_keyOrder; ///< the one in front first
+};
+
+} // namespace loom

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "navigation/Routes.h"
+#include "navigation/SidebarItem.h"
+
+#include <QObject>
+#include <QUrl>
+
+namespace loom
+{
+
+class StorePages;
+
+namespace PageKind
+{
+Q_NAMESPACE
+
+enum class Kind {
+    Explore,
+    Department, ///< of the department whose id is the handle
+    Collection,
+    Product,
+    StorePage, ///< the store's own web page
+    Unknown,
+};
+Q_ENUM_NS(Kind)
+} // namespace PageKind
+
+/// One page of a tab as the window has to build it.
+struct PageEntry {
+    Q_GADGET
+    Q_PROPERTY(loom::PageKind::Kind kind MEMBER kind)
+    Q_PROPERTY(QString handle MEMBER handle)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(QString symbol MEMBER symbol)
+    Q_PROPERTY(QVariant item READ itemVariant)
+    Q_PROPERTY(QUrl address MEMBER address)
+
+public:
+    PageKind::Kind kind = PageKind::Kind::Unknown;
+    QString handle;
+    QString title; ///< English or the store's own; until the page knows better
+    QString symbol;
+    std::optional<ProductListItem> item;
+    QUrl address;
+
+    [[nodiscard]] QVariant itemVariant() const { return item ? QVariant::fromValue(*item) : QVariant(); }
+
+    bool operator==(const PageEntry&) const = default;
+};
+
+/// The page at the root of a section.
+[[nodiscard]] PageEntry pageFor(SidebarItem item, const StorePages& storePages);
+
+/// The page of a pushed route.
+[[nodiscard]] PageEntry pageFor(const Route& route, const StorePages& storePages);
+
+} // namespace loom
+
+Q_DECLARE_METATYPE(loom::PageEntry)

@@ -1,0 +1,28 @@
+#pragma once
+
+namespace loom
+{
+
+class WindowSession;
+
+/// Shows windows for sessions. What the application model knows of the user interface. Main thread.
+class WindowHost
+{
+public:
+    WindowHost() = default;
+    WindowHost(const WindowHost&) = delete;
+    WindowHost& operator=(const WindowHost&) = delete;
+    virtual ~WindowHost() = default;
+
+    /// Makes and shows the window of a session.
+    virtual void show(WindowSession& session) = 0;
+    /// Brings a window to the front.
+    virtual void raise(WindowSession& session) = 0;
+    virtual void showSettings() = 0;
+    /// Whether any main window can be seen.
+    [[nodiscard]] virtual bool hasVisibleWindow() const = 0;
+    /// Gives every open window the application's style.
+    virtual void applyWindowStyle() = 0;
+};
+
+} // namespace loom

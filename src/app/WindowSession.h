@@ -1,0 +1,139 @@
+#pragma once
+
+#include "app/TabsModel.h"
+#include "app/WindowSeed.h"
+#include "navigation/CheckoutRequest.h"
+#include "navigation/LightboxRequest.h"
+
+#include <QPointer>
+
+namespace loom
+{
+
+enum class TabActivation { Activate, Background };
+
+/// One open window: its tabs, its panels, and what lies over its page. Main thread; owned by the application model.
+class WindowSession final : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(loom::TabsModel* tabs READ tabs CONSTANT)
+    Q_PROPERTY(loom::Router* selected READ selected NOTIFY selectedChanged)
+    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedChanged)
+    Q_PROPERTY(bool isCartOpen READ isCartOpen WRITE setCartOpen NOTIFY panelsChanged)
+    Q_PROPERTY(bool isHistoryOpen READ isHistoryOpen WRITE setHistoryOpen NOTIFY panelsChanged)
+    Q_PROPERTY(bool isInboxOpen READ isInboxOpen WRITE setInboxOpen NOTIFY panelsChanged)
+    Q_PROPERTY(bool isSupportOpen READ isSupportOpen WRITE setSupportOpen NOTIFY panelsChanged)
+    Q_PROPERTY(bool isSignInPresented READ isSignInPresented WRITE setSignInPresented NOTIFY panelsChanged)
+    Q_PROPERTY(bool isMiraDocked READ isMiraDocked WRITE setMiraDocked NOTIFY panelsChanged)
+    Q_PROPERTY(QVariant lightbox READ lightboxVariant NOTIFY lightboxChanged)
+    Q_PROPERTY(
+        bool pendingSearchFocus READ pendingSearchFocus WRITE setPendingSearchFocus NOTIFY pendingSearchFocusChanged)
+    Q_PROPERTY(bool isWindowFullScreen READ isWindowFullScreen WRITE setWindowFullScreen NOTIFY layoutChanged)
+    Q_PROPERTY(bool isSidebarCollapsed READ isSidebarCollapsed WRITE setSidebarCollapsed NOTIFY layoutChanged)
+    Q_PROPERTY(double windowWidth READ windowWidth WRITE setWindowWidth NOTIFY layoutChanged)
+    Q_PROPERTY(QObject* window READ window WRITE setWindow NOTIFY windowChanged)
+
+public:
+    WindowSession(const WindowServices& services, const WindowSeed& seed, QObject* parent = nullptr);
+    ~WindowSession() override;
+
+    [[nodiscard]] const QUuid& id() const { return m_id; }
+    [[nodiscard]] TabsModel* tabs() { return &m_tabs; }
+    [[nodiscard]] const QUuid& selectedID() const { return m_selectedID; }
+    /// The tabs by when they were last selected, the selected one first.
+    [[nodiscard]] const QList<QUuid>& recency() const { return m_recency; }
+    [[nodiscard]] Router* selected() const { return m_tabs.at(selectedIndex()); }
+    [[nodiscard]] int selectedIndex() const { return m_tabs.indexOf(m_selectedID); }
+
+    /// Opens a tab behind the last one.
+    Router* openTab(SidebarItem section, TabActivation activation);
+    Q_INVOKABLE void newTab();
+    /// Opens a tab directly to the right of the one with this number.
+    Q_INVOKABLE void newTabToTheRight(int index);
+    Q_INVOKABLE void selectTab(int index);
+    /// The most recently used tab comes to the front. Closing the last one asks for the window to be closed.
+    Q_INVOKABLE void closeTab(int index);
+    /// Pinned tabs stay.
+    Q_INVOKABLE void closeOtherTabs(int index);
+    Q_INVOKABLE void selectNextTab();
+    Q_INVOKABLE void selectPreviousTab();
+
+    [[nodiscard]] bool isCartOpen() const { return m_panels.cart; }
+    void setCartOpen(bool isOpen) { setPanel(m_panels.cart, isOpen); }
+    [[nodiscard]] bool isHistoryOpen() const { return m_panels.history; }
+    void setHistoryOpen(bool isOpen) { setPanel(m_panels.history, isOpen); }
+    [[nodiscard]] bool isInboxOpen() const { return m_panels.inbox; }
+    void setInboxOpen(bool isOpen) { setPanel(m_panels.inbox, isOpen); }
+    [[nodiscard]] bool isSupportOpen() const { return m_panels.support; }
+    void setSupportOpen(bool isOpen) { setPanel(m_panels.support, isOpen); }
+    [[nodiscard]] bool isSignInPresented() const { return m_isSignInPresented; }
+    void setSignInPresented(bool isPresented);
+    [[nodiscard]] bool isMiraDocked() const { return m_isMiraDocked; }
+    void setMiraDocked(bool isDocked);
+
+    [[nodiscard]] const std::optional<CheckoutRequest>& pendingCheckout() const { return m_pendingCheckout; }
+    void setPendingCheckout(const std::optional<CheckoutRequest>& request);
+    [[nodiscard]] const std::optional<LightboxRequest>& lightbox() const { return m_lightbox; }
+    Q_INVOKABLE void openLightbox(const QStringList& images, int index, const QString& title);
+    Q_INVOKABLE void closeLightbox();
+    [[nodiscard]] bool pendingSearchFocus() const { return m_pendingSearchFocus; }
+    void setPendingSearchFocus(bool isPending);
+
+    /// An embedded page of the store comes to life; whichever else lives in this window ends.
+    Q_INVOKABLE void claimWebPage(QObject* page) { Q_EMIT webPageClaimed(page); }
+
+    [[nodiscard]] bool isWindowFullScreen() const { return m_isWindowFullScreen; }
+    void setWindowFullScreen(bool isFullScreen);
+    [[nodiscard]] bool isSidebarCollapsed() const { return m_isSidebarCollapsed; }
+    void setSidebarCollapsed(bool isCollapsed);
+    [[nodiscard]] double windowWidth() const { return m_windowWidth; }
+    void setWindowWidth(double width);
+    [[nodiscard]] QObject* window() const { return m_window; }
+    void setWindow(QObject* window);
+
+Q_SIGNALS:
+    void selectedChanged();
+    void panelsChanged();
+    void lightboxChanged();
+    void pendingCheckoutChanged();
+    void pendingSearchFocusChanged();
+    void layoutChanged();
+    void windowChanged();
+    void closeRequested();
+    void screenshotRequested();
+    void webPageClaimed(QObject* owner);
+
+private:
+    struct Panels {
+        bool cart = false;
+        bool history = false;
+        bool inbox = false;
+        bool support = false;
+
+        bool operator==(const Panels&) const = default;
+    };
+
+    Router* insertTab(int index, SidebarItem section, TabActivation activation);
+    void select(const QUuid& id);
+    void setPanel(bool& panel, bool isOpen);
+    void dropTab(int index);
+    [[nodiscard]] QVariant lightboxVariant() const;
+
+    const WindowServices& m_services;
+    QUuid m_id;
+    TabsModel m_tabs;
+    QUuid m_selectedID;
+    QList<QUuid> m_recency;
+    Panels m_panels;
+    bool m_isSignInPresented = false;
+    std::optional<CheckoutRequest> m_pendingCheckout;
+    std::optional<LightboxRequest> m_lightbox;
+    bool m_pendingSearchFocus = false;
+    bool m_isMiraDocked = false;
+    bool m_isWindowFullScreen = false;
+    bool m_isSidebarCollapsed = false;
+    QPointer<QObject> m_window;
+    double m_windowWidth = 0;
+};
+
+} // namespace loom

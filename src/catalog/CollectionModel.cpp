@@ -1,0 +1,163 @@
+#include "catalog/CollectionModel.h"
+
+#include "catalog/MarketStore.h"
+#include "catalog/StorefrontAPI.h"
+
+#include <QCoreApplication>
+
+namespace loom
+{
+
+CollectionModel::CollectionModel(QString handle, QString fallbackTitle, StorefrontAPI& api, const MarketStore& market,
+                                 const MoneyFormat& money, const Clock& clock, QObject* parent)
+    : QObject(parent)
+    , m_handle(std::move(handle))
+    , m_fallbackTitle(std::move(fallbackTitle))
+    , m_api(api)
+    , m_market(market)
+    , m_products(money, clock)
+    , m_loading([this] { Q_EMIT changed(); })
+    , m_loadingMore([this] { Q_EMIT changed(); })
+{
+    connect(&market, &MarketStore::revisionChanged, this, [this] {
+        if (!m_loadedKey.isEmpty() || isLoading())
+            reload();
+    });
+}
+
+QString CollectionModel::title() const
+{
+    return m_info ? m_info->title : m_fallbackTitle;
+}
+
+CollectionModel::Phase CollectionModel::phase() const
+{
+    if (m_products.count() > 0)
+        return Phase::Loaded;
+    if (isLoading())
+        return Phase::Loading;
+    if (m_failure)
+        return Phase::Failed;
+    if (m_isMissing)
+        return Phase::Missing;
+    return m_loadedKey.isEmpty() ? Phase::Idle : Phase::Empty;
+}
+
+QString CollectionModel::errorText() const
+{
+    return m_failure ? errorDescription(*m_failure) : QString();
+}
+
+bool CollectionModel::isOffline() const
+{
+    return m_failure && m_failure->as<APIError::Offline>();
+}
+
+QStringList CollectionModel::sortLabels()
+{
+    QStringList labels;
+    for (const CollectionSortOrder& order : collectionSortOrders)
+        labels.append(QCoreApplication::translate("Loomstreet", order.label));
+    return labels;
+}
+
+QString CollectionModel::key() const
+{
+    return QStringLiteral("%1|%2|%3").arg(m_handle, QLatin1String(orderOf(m_sort).rawValue)).arg(m_market.revision());
+}
+
+CollectionRequest CollectionModel::request(const std::optional<QString>& after) const
+{
+    return {.handle = m_handle, .first = pageSize, .after = after, .filters = {}, .sort = m_sort};
+}
+
+void CollectionModel::setSort(CollectionSort sort)
+{
+    if (sort == m_sort)
+        return;
+    m_sort = sort;
+    Q_EMIT changed();
+    reload();
+}
+
+void CollectionModel::setSortIndex(int index)
+{
+    if (index >= 0 && index < static_cast<int>(collectionSortOrders.size()))
+        setSort(static_cast<CollectionSort>(index));
+}
+
+void CollectionModel::load()
+{
+    if (m_loadedKey != key() && !isLoading())
+        static_cast<void>(loadFirst());
+}
+
+void CollectionModel::reload()
+{
+    static_cast<void>(loadFirst());
+}
+
+void CollectionModel::loadMore()
+{
+    if (m_hasNextPage && !isLoadingMore() && !isLoading())
+        static_cast<void>(loadNext());
+}
+
+QCoro::Task<> CollectionModel::loadFirst()
+{
+    const Work::Run run = m_loading.begin();
+    m_loadingMore.stop();
+    const QString loadedKey = key();
+    auto page = co_await m_api.collectionProducts(request(std::nullopt), run.stop());
+    if (run.isStopped())
+        co_return;
+    m_loadMoreFailure.reset();
+    if (!page) {
+        m_failure = page.error().error();
+        co_return; // the end of the run tells of the change
+    }
+    m_failure.reset();
+    m_loadedKey = loadedKey;
+    m_isMissing = !page->collection;
+    m_info = std::move(page->collection);
+    m_filters = std::move(page->filters);
+    m_cursor = page->endCursor;
+    m_hasNextPage = page->hasNextPage;
+    m_totalCount.reset();
+    m_products.replace(std::move(page->products));
+    if (m_isMissing)
+        co_return;
+    if (m_hasNextPage)
+        static_cast<void>(count());
+    else
+        m_totalCount = m_products.count();
+}
+
+QCoro::Task<> CollectionModel::loadNext()
+{
+    const Work::Run run = m_loadingMore.begin();
+    m_loadMoreFailure.reset();
+    auto page = co_await m_api.collectionProducts(request(m_cursor), run.stop());
+    if (run.isStopped())
+        co_return;
+    if (!page) {
+        m_loadMoreFailure = page.error().error();
+        co_return;
+    }
+    m_cursor = page->endCursor;
+    m_hasNextPage = page->hasNextPage;
+    m_products.append(std::move(page->products));
+}
+
+QCoro::Task<> CollectionModel::count()
+{
+    const Work::Run run = m_counting.begin();
+    const auto counted = co_await m_api.collectionProductCount(m_handle, {}, run.stop());
+    // Without an exact number the page simply names none.
+    if (run.isStopped() || !counted)
+        co_return;
+    m_totalCount = *counted;
+    Q_EMIT changed();
+}
+
+} // namespace loom

@@ -1,0 +1,121 @@
+#include "catalog/ProductListItem.h"
+
+#include "base/Dates.h"
+#include "catalog/StorefrontReading.h"
+
+#include <QJsonArray>
+
+namespace loom
+{
+
+namespace
+{
+
+std::optional<Money> minimumPrice(const JsonReader& json, std::string_view key)
+{
+    const auto range = json.optionalObject(key);
+    const auto price = range ? range->optionalObject("minVariantPrice") : std::nullopt;
+    if (!price)
+        return std::nullopt;
+    return Money{.amount = price->optionalDecimal("amount").value_or(0),
+                 .currencyCode = price->optionalText("currencyCode").value_or(QString())};
+}
+
+/// The Storefront writes "no former price" as an amount of zero.
+std::optional<Money> unlessZero(std::optional<Money> money)
+{
+    return money && money->amount > 0 ? money : std::nullopt;
+}
+
+std::optional<Money> storedMoney(const JsonReader& json, std::string_view key)
+{
+    const auto object = json.optionalObject(key);
+    return object ? std::optional(decodeMoney(*object)) : std::nullopt;
+}
+
+} // namespace
+
+ProductListItem decodeListItem(const JsonReader& json)
+{
+    ProductListItem item;
+    item.id = json.text("id");
+    item.handle = json.text("handle");
+    item.title = json.text("title");
+    item.vendor = json.optionalText("vendor").value_or(QString());
+    item.tags = json.textList("tags");
+    item.availableForSale = json.optionalBoolean("availableForSale");
+    item.imageURL = readImageAddress(json, "featuredImage");
+    item.createdAt = json.optionalDate("createdAt");
+    item.price = decodeMoney(json.object("priceRange").object("minVariantPrice"));
+    item.compareAtPrice = unlessZero(minimumPrice(json, "compareAtPriceRange"));
+    for (const JsonReader& variant : readNodes(json, "styleVariants")) {
+        if (const auto address = readImageAddress(variant, "image"))
+            item.styleImages.append(*address);
+    }
+    for (const JsonReader& image : readNodes(json, "cardImages")) {
+        if (const auto address = readImageAddress(image))
+            item.cardImages.append(*address);
+    }
+    return item;
+}
+
+ProductListItem decodeStoredItem(const JsonReader& json)
+{
+    ProductListItem item;
+    item.id = json.text("id");
+    item.handle = json.text("handle");
+    item.title = json.text("title");
+    item.vendor = json.optionalText("vendor").value_or(QString());
+    item.imageURL = json.optionalText("imageURL");
+    item.price = decodeMoney(json.object("price"));
+    item.compareAtPrice = storedMoney(json, "compareAtPrice");
+    item.tags = json.textList("tags");
+    item.createdAt = json.optionalDate("createdAt");
+    item.styleImages = json.textList("styleImages");
+    item.cardImages = json.textList("cardImages");
+    item.availableForSale = json.optionalBoolean("availableForSale");
+    item.recoReason = json.optionalText("recoReason");
+    item.seenPrice = json.optionalDecimal("seenPrice");
+    item.seenAt = json.optionalDate("seenAt");
+    item.seenCurrency = json.optionalText("seenCurrency");
+    return item;
+}
+
+QJsonObject toJson(const ProductListItem& item)
+{
+    QJsonObject json{
+        {QStringLiteral("id"), item.id},
+        {QStringLiteral("handle"), item.handle},
+        {QStringLiteral("title"), item.title},
+        {QStringLiteral("vendor"), item.vendor},
+        {QStringLiteral("price"), toJson(item.price)},
+        {QStringLiteral("tags"), QJsonArray::fromStringList(item.tags)},
+        {QStringLiteral("styleImages"), QJsonArray::fromStringList(item.styleImages)},
+        {QStringLiteral("cardImages"), QJsonArray::fromStringList(item.cardImages)},
+    };
+    const auto insert = [&json](const char* key, const auto& value, auto encode) {
+        if (value)
+            json.insert(QLatin1String(key), encode(*value));
+    };
+    const auto plain = [](const auto& value) {
+        return QJsonValue(value);
+    };
+    insert("imageURL", item.imageURL, plain);
+    insert("compareAtPrice", item.compareAtPrice, [](const Money& money) { return QJsonValue(toJson(money)); });
+    insert("createdAt", item.createdAt, [](const QDateTime& date) { return QJsonValue(formatDate(date)); });
+    insert("availableForSale", item.availableForSale, plain);
+    insert("recoReason", item.recoReason, plain);
+    insert("seenPrice", item.seenPrice, plain);
+    insert("seenAt", item.seenAt, [](const QDateTime& date) { return QJsonValue(formatDate(date)); });
+    insert("seenCurrency", item.seenCurrency, plain);
+    return json;
+}
+
+std::optional<Money> formerPrice(const Money& price, const std::optional<Money>& compareAtPrice)
+{
+    const bool isAbove =
+        compareAtPrice && compareAtPrice->amount > price.amount && compareAtPrice->currencyCode == price.currencyCode;
+    return isAbove ? compareAtPrice : std::nullopt;
+}
+
+} // namespace loom

@@ -1,0 +1,246 @@
+#include "catalog/ProductModel.h"
+
+#include "base/Clock.h"
+#include "catalog/MarketStore.h"
+#include "catalog/MoneyFormat.h"
+#include "catalog/ProductListModel.h"
+#include "catalog/ServiceWording.h"
+#include "catalog/SizeTable.h"
+#include "catalog/StorefrontAPI.h"
+#include "storage/Preferences.h"
+
+#include <QCoreApplication>
+
+namespace loom
+{
+
+namespace
+{
+
+/// Fewer than this are worth a word.
+constexpr qint64 fewLeft = 4;
+
+const QString imperial = QStringLiteral("imperial");
+
+} // namespace
+
+ProductModel::ProductModel(QString handle, std::optional<ProductListItem> item, double freeShippingThreshold,
+                           StorefrontAPI& api, const MarketStore& market, Preferences& preferences,
+                           const MoneyFormat& money, const Clock& clock, QObject* parent)
+    : QObject(parent)
+    , m_handle(std::move(handle))
+    , m_item(std::move(item))
+    , m_freeShippingThreshold(freeShippingThreshold)
+    , m_api(api)
+    , m_market(market)
+    , m_preferences(preferences)
+    , m_money(money)
+    , m_clock(clock)
+    , m_loading([this] { Q_EMIT stateChanged(); })
+{
+    connect(&market, &MarketStore::revisionChanged, this, [this] {
+        if (m_product || isLoading())
+            reload();
+    });
+    connect(&market, &MarketStore::rateChanged, this, &ProductModel::rateChanged);
+    connect(&preferences, &Preferences::changed, this, [this](const QString& key) {
+        if (key == QLatin1String(preferences::sizeUnit.key))
+            Q_EMIT sizeTablesChanged();
+    });
+}
+
+ProductModel::Phase ProductModel::phase() const
+{
+    if (m_isMissing)
+        return Phase::Missing;
+    if (m_product)
+        return Phase::Loaded;
+    if (isLoading())
+        return Phase::Loading;
+    return m_failure ? Phase::Failed : Phase::Idle;
+}
+
+const ProductListItem* ProductModel::item() const
+{
+    if (m_product)
+        return &m_product->item;
+    return m_item ? &*m_item : nullptr;
+}
+
+QString ProductModel::title() const
+{
+    return item() ? item()->title : QString();
+}
+
+QString ProductModel::designer() const
+{
+    return item() ? item()->vendor : QString();
+}
+
+QString ProductModel::label() const
+{
+    return item() ? pictureLabel(*item(), m_clock.now()) : QString();
+}
+
+QString ProductModel::price() const
+{
+    if (m_product) {
+        if (const ProductVariant* const variant = shownVariant(*m_product, m_selection))
+            return m_money.text(variant->price);
+    }
+    return item() ? m_money.text(item()->price) : QString();
+}
+
+QString ProductModel::formerPriceText() const
+{
+    std::optional<Money> former;
+    const ProductVariant* const variant = m_product ? shownVariant(*m_product, m_selection) : nullptr;
+    if (variant)
+        former = loom::formerPrice(variant->price, variant->compareAtPrice);
+    else if (item())
+        former = loom::formerPrice(item()->price, item()->compareAtPrice);
+    return former ? m_money.text(*former) : QString();
+}
+
+bool ProductModel::isSoldOut() const
+{
+    if (m_product) {
+        if (const ProductVariant* const variant = selectedVariant(*m_product, m_selection))
+            return !variant->availableForSale;
+    }
+    return item() && item()->availableForSale == false;
+}
+
+QString ProductModel::stockText() const
+{
+    const ProductVariant* const variant = m_product ? selectedVariant(*m_product, m_selection) : nullptr;
+    if (!variant || !variant->availableForSale || !variant->quantityAvailable)
+        return {};
+    const qint64 left = *variant->quantityAvailable;
+    if (left <= 0 || left >= fewLeft)
+        return {};
+    return left == 1 ? QCoreApplication::translate("Loomstreet", "Only one left")
+                     : QCoreApplication::translate("Loomstreet", "Only %n left", nullptr, static_cast<int>(left));
+}
+
+QStringList ProductModel::pictures() const
+{
+    if (m_product && !m_product->images.isEmpty())
+        return m_product->images;
+    return item() ? cardPictures(*item()) : QStringList();
+}
+
+int ProductModel::pictureIndex() const
+{
+    const ProductVariant* const variant = m_product ? shownVariant(*m_product, m_selection) : nullptr;
+    return variant && variant->imageURL ? static_cast<int>(pictures().indexOf(*variant->imageURL)) : -1;
+}
+
+QVariantMap ProductModel::service() const
+{
+    const ServiceWording wording = serviceWording(m_details.serviceClass);
+    return {{QStringLiteral("returns"), wording.returns},
+            {QStringLiteral("note"), wording.note},
+            {QStringLiteral("service"), wording.service}};
+}
+
+bool ProductModel::isMetric() const
+{
+    return m_preferences.value(preferences::sizeUnit) != imperial;
+}
+
+void ProductModel::setMetric(bool isMetric)
+{
+    m_preferences.set(preferences::sizeUnit, isMetric ? QStringLiteral("metric") : imperial);
+}
+
+QVariantList ProductModel::sizeTables() const
+{
+    return sizeTableList(m_details, isMetric() ? SizeUnit::Metric : SizeUnit::Imperial);
+}
+
+bool ProductModel::hasSizeUnits() const
+{
+    return std::ranges::any_of(m_details.metafields.sizeSections, hasUnits);
+}
+
+QVariantList ProductModel::options() const
+{
+    QVariantList list;
+    if (m_product) {
+        for (const OptionGroup& group : optionGroups(*m_product, m_selection))
+            list.append(QVariant::fromValue(group));
+    }
+    return list;
+}
+
+QString ProductModel::freeShippingFrom() const
+{
+    const ConvertedAmount amount = m_market.convertUSDollars(m_freeShippingThreshold);
+    return m_money.text({.amount = amount.text.toDouble(), .currencyCode = amount.currencyCode});
+}
+
+void ProductModel::load()
+{
+    if (!m_product && !m_isMissing && !isLoading())
+        reload();
+}
+
+void ProductModel::reload()
+{
+    static_cast<void>(fetch());
+}
+
+QCoro::Task<> ProductModel::fetch()
+{
+    const Work::Run run = m_loading.begin();
+    auto answer = co_await m_api.product(m_handle, run.stop());
+    if (run.isStopped())
+        co_return;
+    if (!answer) {
+        m_failure = answer.error().error();
+        co_return; // the end of the run tells of the change
+    }
+    m_failure.reset();
+    m_isMissing = !answer->has_value();
+    if (m_isMissing)
+        co_return;
+    Product product = **std::move(answer);
+    ProductDetails details = co_await QtConcurrent::run(productDetails, product);
+    if (run.isStopped())
+        co_return;
+    adopt(std::move(product), std::move(details));
+}
+
+void ProductModel::adopt(Product product, ProductDetails details)
+{
+    // A reload, perhaps in another market, keeps what the shopper chose as far as it still exists.
+    Selection selection = initialSelection(product);
+    for (const ProductOption& option : product.options) {
+        const QString chosen = m_selection.value(option.name);
+        if (option.values.contains(chosen))
+            selection.insert(option.name, chosen);
+    }
+    m_product = std::move(product);
+    m_details = std::move(details);
+    m_selection = std::move(selection);
+    Q_EMIT productChanged();
+    Q_EMIT selectionChanged();
+    Q_EMIT sizeTablesChanged();
+}
+
+void ProductModel::choose(const QString& option, const QString& value)
+{
+    if (!m_product)
+        return;
+    const auto found = std::ranges::find(m_product->options, option, &ProductOption::name);
+    if (found == m_product->options.end() || !found->values.contains(value))
+        return;
+    if (m_selection.value(option) != value)
+        m_selection.insert(option, value);
+    else if (found->values.size() > 1)
+        m_selection.remove(option);
+    Q_EMIT selectionChanged();
+}
+
+} // namespace loom

@@ -1,0 +1,332 @@
+#include "catalog/StorefrontAPI.h"
+
+#include "catalog/StorefrontQueries.h"
+#include "catalog/StorefrontReading.h"
+
+namespace loom
+{
+
+namespace
+{
+
+const QString productIDPrefix = QStringLiteral("gid://shopify/Product/");
+
+std::optional<Product> readProduct(const JsonReader& data)
+{
+    const auto product = data.optionalObject("product");
+    return product ? std::optional(decodeProduct(*product)) : std::nullopt;
+}
+
+/// A null node fails to decode as an item, and so is left out.
+std::vector<ProductListItem> readProductNodes(const JsonReader& data)
+{
+    return JsonReader::decodeEach(data.list("nodes"), decodeListItem);
+}
+
+QHash<QString, LivePrice> readLivePrices(const JsonReader& data)
+{
+    QHash<QString, LivePrice> prices;
+    for (const JsonReader& node : data.list("nodes")) {
+        const auto handle = node.optionalText("handle");
+        const auto range = node.optionalObject("priceRange");
+        const auto price = range ? range->optionalObject("minVariantPrice") : std::nullopt;
+        const auto amount = price ? price->optionalDecimal("amount") : std::nullopt;
+        if (handle && amount) {
+            prices.insert(*handle,
+                          {.available = node.optionalBoolean("availableForSale").value_or(false), .amount = *amount});
+        }
+    }
+    return prices;
+}
+
+std::vector<ProductListItem> readRecommendations(const JsonReader& data)
+{
+    return JsonReader::decodeEach(data.optionalList("productRecommendations"), decodeListItem);
+}
+
+ProductsPage readProductsPage(const JsonReader& data)
+{
+    const JsonReader products = data.object("products");
+    const JsonReader pageInfo = products.object("pageInfo");
+    ProductsPage page;
+    page.products = JsonReader::decodeEach(products.list("nodes"), decodeListItem);
+    page.endCursor = pageInfo.optionalText("endCursor");
+    page.hasNextPage = pageInfo.boolean("hasNextPage") && page.endCursor;
+    return page;
+}
+
+std::optional<SkuImages> readSkuImages(const JsonReader& data)
+{
+    const auto product = data.optionalObject("product");
+    if (!product)
+        return std::nullopt;
+    SkuImages images{.productImage = readImageAddress(*product, "featuredImage"), .variantImages = {}};
+    for (const JsonReader& variant : readNodes(*product, "variants")) {
+        const auto title = variant.optionalText("title");
+        const auto address = readImageAddress(variant, "image");
+        if (title && address)
+            images.variantImages.insert(*title, *address);
+    }
+    return images;
+}
+
+QHash<QString, bool> readAvailability(const JsonReader& data)
+{
+    QHash<QString, bool> availability;
+    for (const auto& [alias, product] : data.members()) {
+        const auto handle = product.optionalText("handle");
+        const auto isAvailable = product.optionalBoolean("availableForSale");
+        if (handle && isAvailable)
+            availability.insert(*handle, *isAvailable);
+    }
+    return availability;
+}
+
+QHash<QString, QStringList> readCardImages(const JsonReader& data)
+{
+    QHash<QString, QStringList> images;
+    for (const auto& [alias, product] : data.members()) {
+        const auto handle = product.optionalText("handle");
+        if (!handle)
+            continue;
+        QStringList addresses;
+        for (const JsonReader& image : readNodes(product, "images")) {
+            if (const auto address = readImageAddress(image))
+                addresses.append(*address);
+        }
+        images.insert(*handle, addresses);
+    }
+    return images;
+}
+
+std::vector<CollectionTile> readTiles(const JsonReader& data)
+{
+    std::vector<CollectionTile> tiles;
+    for (const auto& [alias, collection] : data.members()) {
+        const auto handle = collection.optionalText("handle");
+        const auto title = collection.optionalText("title");
+        if (!handle || !title)
+            continue;
+        CollectionTile tile{.handle = *handle, .title = *title, .imageURL = readImageAddress(collection, "image")};
+        for (const JsonReader& product : readNodes(collection, "firstProduct")) {
+            if (!tile.imageURL)
+                tile.imageURL = readImageAddress(product, "featuredImage");
+        }
+        tiles.push_back(std::move(tile));
+    }
+    return tiles;
+}
+
+struct CountPage {
+    bool exists = false;
+    qint64 count = 0;
+    std::optional<QString> nextCursor;
+};
+
+CountPage readCountPage(const JsonReader& data)
+{
+    const auto collection = data.optionalObject("collection");
+    if (!collection)
+        return {};
+    const JsonReader products = collection->object("products");
+    const JsonReader pageInfo = products.object("pageInfo");
+    return {.exists = true,
+            .count = static_cast<qint64>(products.list("nodes").size()),
+            .nextCursor = pageInfo.boolean("hasNextPage") ? pageInfo.optionalText("endCursor") : std::nullopt};
+}
+
+MarketCountry readCountry(const JsonReader& json)
+{
+    return {.isoCode = json.text("isoCode"),
+            .name = json.text("name"),
+            .currency = json.object("currency").text("isoCode")};
+}
+
+std::vector<MarketCountry> readCountries(const JsonReader& data)
+{
+    return JsonReader::decodeEach(data.object("localization").list("availableCountries"), readCountry);
+}
+
+std::optional<MarketSample> readRateSample(const JsonReader& data)
+{
+    MarketSample sample;
+    for (const JsonReader& node : data.object("products").list("nodes")) {
+        const auto range = node.optionalObject("priceRange");
+        const auto price = range ? range->optionalObject("minVariantPrice") : std::nullopt;
+        if (!price)
+            continue;
+        sample.sum += price->optionalDecimal("amount").value_or(0);
+        sample.currency = price->optionalText("currencyCode").value_or(QString());
+    }
+    return sample.sum > 0 ? std::optional(sample) : std::nullopt;
+}
+
+QJsonValue orNull(const std::optional<QString>& text)
+{
+    return text ? QJsonValue(*text) : QJsonValue();
+}
+
+/// Consecutive pieces of at most `size`.
+std::vector<QStringList> chunks(const QStringList& list, qsizetype size)
+{
+    std::vector<QStringList> result;
+    for (qsizetype i = 0; i < list.size(); i += size)
+        result.push_back(list.mid(i, size));
+    return result;
+}
+
+QJsonObject handleVariables(const QStringList& handles)
+{
+    QJsonObject variables;
+    for (qsizetype i = 0; i < handles.size(); ++i)
+        variables.insert(QStringLiteral("h%1").arg(i), handles.at(i));
+    return variables;
+}
+
+} // namespace
+
+QCoro::Task<ApiResult<std::optional<Product>>> StorefrontAPI::product(QString handle, std::stop_token stop)
+{
+    co_return co_await m_client.send(queries::product(), {{QStringLiteral("handle"), handle}}, Retry::Transient,
+                                     readProduct, stop);
+}
+
+QCoro::Task<ApiResult<std::vector<ProductListItem>>> StorefrontAPI::productsByIDs(QStringList ids, std::stop_token stop)
+{
+    std::vector<ProductListItem> items;
+    for (const QStringList& chunk : chunks(ids, maximumIDs)) {
+        LOOM_CO_TRY(some, co_await m_client.send(queries::productsByIDs(),
+                                                 {{QStringLiteral("ids"), QJsonArray::fromStringList(chunk)}},
+                                                 Retry::Transient, readProductNodes, stop));
+        items.insert(items.end(), std::make_move_iterator(some.begin()), std::make_move_iterator(some.end()));
+    }
+    co_return items;
+}
+
+QCoro::Task<ApiResult<QHash<QString, LivePrice>>> StorefrontAPI::livePrices(QStringList ids, std::stop_token stop)
+{
+    for (QString& id : ids) {
+        if (!id.startsWith(QLatin1String("gid://")))
+            id.prepend(productIDPrefix);
+    }
+    QHash<QString, LivePrice> prices;
+    for (const QStringList& chunk : chunks(ids, maximumIDs)) {
+        LOOM_CO_TRY(some, co_await m_client.send(queries::livePrices(),
+                                                 {{QStringLiteral("ids"), QJsonArray::fromStringList(chunk)}},
+                                                 Retry::Transient, readLivePrices, stop));
+        prices.insert(some);
+    }
+    co_return prices;
+}
+
+QCoro::Task<ApiResult<std::vector<ProductListItem>>> StorefrontAPI::recommendations(QString productId,
+                                                                                    std::stop_token stop)
+{
+    co_return co_await m_client.send(queries::recommendations(), {{QStringLiteral("productId"), productId}},
+                                     Retry::Transient, readRecommendations, stop);
+}
+
+QCoro::Task<ApiResult<ProductsPage>> StorefrontAPI::products(ProductsRequest request, std::stop_token stop)
+{
+    co_return co_await m_client.send(queries::products(),
+                                     {{QStringLiteral("first"), request.first},
+                                      {QStringLiteral("after"), orNull(request.after)},
+                                      {QStringLiteral("query"), orNull(request.query)},
+                                      {QStringLiteral("sortKey"), orNull(request.sortKey)},
+                                      {QStringLiteral("reverse"), request.reverse}},
+                                     Retry::Transient, readProductsPage, stop);
+}
+
+QCoro::Task<ApiResult<SearchSuggestions>> StorefrontAPI::suggest(QString text, std::stop_token stop)
+{
+    co_return co_await m_client.send(queries::suggest(), {{QStringLiteral("q"), text}}, Retry::Transient,
+                                     decodeSuggestions, stop);
+}
+
+QCoro::Task<ApiResult<std::optional<SkuImages>>> StorefrontAPI::skuImages(QString handle, std::stop_token stop)
+{
+    co_return co_await m_client.send(queries::skuImage(), {{QStringLiteral("handle"), handle}}, Retry::Transient,
+                                     readSkuImages, stop);
+}
+
+QCoro::Task<ApiResult<QHash<QString, bool>>> StorefrontAPI::cardAvailability(QStringList handles, std::stop_token stop)
+{
+    QHash<QString, bool> availability;
+    for (const QStringList& chunk : chunks(handles, maximumBatch)) {
+        LOOM_CO_TRY(some, co_await m_client.send(queries::cardAvailability(chunk.size()), handleVariables(chunk),
+                                                 Retry::Transient, readAvailability, stop));
+        availability.insert(some);
+    }
+    co_return availability;
+}
+
+QCoro::Task<ApiResult<QHash<QString, QStringList>>> StorefrontAPI::searchCardImages(QStringList handles,
+                                                                                    std::stop_token stop)
+{
+    QHash<QString, QStringList> images;
+    for (const QStringList& chunk : chunks(handles, maximumBatch)) {
+        LOOM_CO_TRY(some, co_await m_client.send(queries::searchCardImages(chunk.size()), handleVariables(chunk),
+                                                 Retry::Transient, readCardImages, stop));
+        images.insert(some);
+    }
+    co_return images;
+}
+
+QCoro::Task<ApiResult<std::vector<CollectionTile>>> StorefrontAPI::collectionProbe(QStringList handles,
+                                                                                   std::stop_token stop)
+{
+    std::vector<CollectionTile> tiles;
+    for (const QStringList& chunk : chunks(handles, maximumBatch)) {
+        LOOM_CO_TRY(some,
+                    co_await m_client.send(queries::collectionProbe(chunk), {}, Retry::Transient, readTiles, stop));
+        tiles.insert(tiles.end(), std::make_move_iterator(some.begin()), std::make_move_iterator(some.end()));
+    }
+    co_return tiles;
+}
+
+QCoro::Task<ApiResult<CollectionPage>> StorefrontAPI::collectionProducts(CollectionRequest request,
+                                                                         std::stop_token stop)
+{
+    const CollectionSortOrder& order = orderOf(request.sort);
+    co_return co_await m_client.send(queries::collectionProducts(),
+                                     {{QStringLiteral("handle"), request.handle},
+                                      {QStringLiteral("first"), request.first},
+                                      {QStringLiteral("after"), orNull(request.after)},
+                                      {QStringLiteral("filters"), request.filters},
+                                      {QStringLiteral("sortKey"), QLatin1String(order.sortKey)},
+                                      {QStringLiteral("reverse"), order.reverse}},
+                                     Retry::Transient, decodeCollectionPage, stop);
+}
+
+QCoro::Task<ApiResult<std::optional<qint64>>> StorefrontAPI::collectionProductCount(QString handle, QJsonArray filters,
+                                                                                    std::stop_token stop)
+{
+    qint64 count = 0;
+    std::optional<QString> after;
+    do {
+        LOOM_CO_TRY(page, co_await m_client.send(queries::collectionProductCount(),
+                                                 {{QStringLiteral("handle"), handle},
+                                                  {QStringLiteral("after"), orNull(after)},
+                                                  {QStringLiteral("filters"), filters}},
+                                                 Retry::Transient, readCountPage, stop));
+        if (!page.exists)
+            co_return std::optional<qint64>();
+        count += page.count;
+        // A cursor that does not move would walk for ever.
+        after = page.nextCursor != after ? page.nextCursor : std::nullopt;
+    } while (after);
+    co_return std::optional(count);
+}
+
+QCoro::Task<ApiResult<std::vector<MarketCountry>>> StorefrontAPI::countries(std::stop_token stop)
+{
+    co_return co_await m_client.send(queries::countries(), {}, Retry::Transient, readCountries, stop);
+}
+
+QCoro::Task<ApiResult<std::optional<MarketSample>>> StorefrontAPI::rateSample(QString country, std::stop_token stop)
+{
+    co_return co_await m_client.send(queries::rateSample(), {{QStringLiteral("country"), country}}, Retry::Transient,
+                                     readRateSample, stop);
+}
+
+} // namespace loom

@@ -1,0 +1,140 @@
+#include "app/AppLifecycle.h"
+#include "app/AppModel.h"
+#include "base/FeatureGates.h"
+#include "base/Log.h"
+#include "base/Random.h"
+#include "base/SystemClock.h"
+#include "platform/DesktopAppearance.h"
+#include "platform/LaunchOptions.h"
+#include "platform/SingleInstance.h"
+#include "platform/SystemLocaleReading.h"
+#include "platform/SystemNetworkStatus.h"
+#include "ui/components/ImageProviders.h"
+#include "ui/shell/EventLoopProbe.h"
+#include "ui/shell/PictureLoading.h"
+#include "ui/shell/StartReport.h"
+#include "ui/shell/WindowManager.h"
+#include "ui/theme/Fonts.h"
+
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QStandardPaths>
+
+using namespace loom;
+
+namespace
+{
+
+const QString applicationID = QStringLiteral("com.loomstreet.Loomstreet");
+
+/// Where this user's files of the application live.
+QString dataFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/LOOMSTREET");
+}
+
+QString pictureCacheFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+           QStringLiteral("/LOOMSTREET/pictures");
+}
+
+void prepareApplication()
+{
+    installRedactingLog();
+    // The web engine, which comes in only with the first web page, needs both from the start.
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+    QGuiApplication::setApplicationName(QStringLiteral("LOOMSTREET"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(LOOM_VERSION));
+    QGuiApplication::setDesktopFileName(applicationID);
+    // Quitting is for the shopper to ask for.
+    QGuiApplication::setQuitOnLastWindowClosed(AppLifecycle::shouldTerminateAfterLastWindowClosed());
+}
+
+void prepareEngine(QQmlEngine& engine, PictureLoading& pictures)
+{
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
+    engine.setNetworkAccessManagerFactory(&pictures);
+    addImageProviders(engine);
+    QObject::connect(&engine, &QQmlEngine::quit, QCoreApplication::instance(), &QCoreApplication::quit);
+}
+
+int runShop(const AppConfig& config, const LaunchOptions& options, QQmlEngine& engine, SystemAppearance& appearance)
+{
+    SystemClock clock;
+    SystemRandom random;
+    SystemNetworkStatus network;
+    AllFeatures features;
+    AppModel model(config, {.clock = clock,
+                            .random = random,
+                            .network = network,
+                            .features = features,
+                            .dataFolder = dataFolder(),
+                            .locale = readSystemLocale(),
+                            .openExternally = [](const QUrl& url) { QDesktopServices::openUrl(url); },
+                            .heldKeys =
+                                [] {
+                                    return QGuiApplication::queryKeyboardModifiers();
+                                }});
+    WindowManager windows(engine, model, appearance);
+    model.setWindowHost(&windows);
+    AppLifecycle lifecycle(model, windows, clock);
+
+    SingleInstance instance(applicationID);
+    if (instance.claim(options.links) == SingleInstance::Role::Second)
+        return 0;
+    QObject::connect(&instance, &SingleInstance::activated, &lifecycle, &AppLifecycle::handleReopen);
+    QObject::connect(&instance, &SingleInstance::linksOpened, &lifecycle, [&lifecycle](const QStringList& links) {
+        for (const QString& link : links)
+            lifecycle.handleOpen(link);
+    });
+    QObject::connect(&model, &AppModel::quitRequested, &lifecycle, [&lifecycle] {
+        if (lifecycle.shouldTerminate())
+            QCoreApplication::quit();
+    });
+    QObject::connect(
+        qGuiApp, &QGuiApplication::applicationStateChanged, model.session(),
+        [&model](Qt::ApplicationState state) { model.session()->setActive(state == Qt::ApplicationActive); });
+
+    const EventLoopProbe probe;
+    lifecycle.didFinishLaunching(
+        {.link = options.links.isEmpty() ? std::nullopt : std::optional(options.links.first())});
+    StartReport report(options.startReportFile, options.screenshotFile);
+    if (const WindowSession* const session = model.keySession())
+        report.watch(windows.windowOf(*session));
+    const int status = QCoreApplication::exec();
+    if (!options.eventLoopReportFile.isEmpty())
+        writeReport(options.eventLoopReportFile, probe.report());
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    prepareApplication();
+    QGuiApplication application(argc, argv);
+    const LaunchOptions options = readLaunchOptions(QCoreApplication::arguments());
+    if (!options.authorityFile.isEmpty() && !addCertificateAuthority(options.authorityFile))
+        return 1;
+    registerFonts();
+
+    PictureLoading pictures(pictureCacheFolder());
+    DesktopAppearance appearance;
+    QQmlEngine engine;
+    prepareEngine(engine, pictures);
+
+    const std::optional<AppConfig> config = AppConfig::load();
+    if (!config) {
+        const auto window = WindowManager::showConfigurationMissing(engine, appearance);
+        return QCoreApplication::exec();
+    }
+    return runShop(*config, options, engine, appearance);
+}

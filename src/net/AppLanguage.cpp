@@ -1,0 +1,38 @@
+#include "net/AppLanguage.h"
+
+namespace loom
+{
+
+QString appLanguageCode(AppLanguage language)
+{
+    return QString::fromLatin1(appLanguageCodes.at(static_cast<std::size_t>(language)));
+}
+
+std::optional<AppLanguage> appLanguageFromCode(const QString& code)
+{
+    for (std::size_t i = 0; i < appLanguageCodes.size(); ++i) {
+        if (code == QLatin1String(appLanguageCodes.at(i)))
+            return static_cast<AppLanguage>(i);
+    }
+    return std::nullopt;
+}
+
+AppLanguage appLanguageFor(const SystemLocale& locale)
+{
+    if (locale.language == QLatin1String("zh")) {
+        if (locale.script == QLatin1String("Hant"))
+            return AppLanguage::ZhHant;
+        if (locale.script == QLatin1String("Hans"))
+            return AppLanguage::ZhHans;
+        const bool writesTraditional = locale.region == QLatin1String("HK") || locale.region == QLatin1String("MO") ||
+                                       locale.region == QLatin1String("TW");
+        return writesTraditional ? AppLanguage::ZhHant : AppLanguage::ZhHans;
+    }
+    if (locale.language == QLatin1String("no"))
+        return AppLanguage::NorwegianBokmal;
+    if (locale.language == QLatin1String("tl"))
+        return AppLanguage::Filipino;
+    return appLanguageFromCode(locale.language).value_or(AppLanguage::English);
+}
+
+} // namespace loom

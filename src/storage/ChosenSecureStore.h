@@ -1,0 +1,35 @@
+#pragma once
+
+#include "storage/SecureStore.h"
+
+#include <memory>
+
+namespace loom
+{
+
+class Preferences;
+
+/// Keeps secrets in the system's credential store when one answers at the first use, otherwise in files. The choice
+/// is made once for an installation and remembered; it never changes silently, because a secret written to one place
+/// would then not be found in the other. Owns both stores.
+class ChosenSecureStore final : public SecureStore
+{
+public:
+    ChosenSecureStore(Preferences& preferences, std::unique_ptr<SecureStore> system,
+                      std::unique_ptr<SecureStore> files);
+
+    [[nodiscard]] QCoro::Task<Result<void, QString>> store(QString key, QByteArray bytes) override;
+    [[nodiscard]] QCoro::Task<Result<std::optional<QByteArray>, QString>> read(QString key) override;
+    [[nodiscard]] QCoro::Task<Result<void, QString>> remove(QString key) override;
+
+private:
+    [[nodiscard]] QCoro::Task<SecureStore*> choose();
+    [[nodiscard]] QCoro::Task<bool> systemStoreWorks();
+
+    Preferences& m_preferences;
+    std::unique_ptr<SecureStore> m_system;
+    std::unique_ptr<SecureStore> m_files;
+    std::optional<QCoro::Task<bool>> m_probe; ///< shared by the calls that come before the choice
+};
+
+} // namespace loom

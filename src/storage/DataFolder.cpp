@@ -1,0 +1,142 @@
+#include "storage/DataFolder.h"
+
+#include "base/Log.h"
+#include "storage/AtomicFile.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace loom
+{
+
+namespace
+{
+
+QString setAsidePath(const QString& path)
+{
+    return path + QStringLiteral(".unreadable");
+}
+
+QByteArray encode(const QJsonValue& value)
+{
+    if (value.isArray())
+        return QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact);
+    if (value.isObject())
+        return QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact);
+    // Qt writes no bare values: take the brackets off a list of one.
+    const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return list.mid(1, list.size() - 2);
+}
+
+/// Runs on the writer's thread.
+void setAside(const QString& path, bool isKnownUnreadable)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    const QByteArray bytes = file.readAll();
+    if (!isKnownUnreadable && JsonDocument::parse(bytes))
+        return;
+    if (const auto kept = writeFileAtomically(setAsidePath(path), bytes); !kept)
+        qCWarning(logStorage) << "cannot set aside" << path << kept.error();
+}
+
+} // namespace
+
+DataFolder::DataFolder(QString path)
+    : m_path(std::move(path))
+{
+}
+
+QString DataFolder::fileName(const QString& name)
+{
+    const QString ending = QStringLiteral(".json");
+    return name.endsWith(ending) ? name : name + ending;
+}
+
+QString DataFolder::filePath(const QString& name) const
+{
+    return m_path + QLatin1Char('/') + fileName(name);
+}
+
+void DataFolder::save(const QString& name, const QJsonValue& value)
+{
+    const bool isKnownUnreadable = m_unreadable.remove(fileName(name));
+    m_writer.write(filePath(name), encode(value),
+                   [isKnownUnreadable](const QString& path) { setAside(path, isKnownUnreadable); });
+}
+
+void DataFolder::saveSnapshot(const QString& name, const QJsonValue& value, const QDateTime& savedAt)
+{
+    save(name, QJsonObject{{QStringLiteral("value"), value}, {QStringLiteral("savedAt"), formatDate(savedAt)}});
+}
+
+void DataFolder::remove(const QString& name)
+{
+    m_unreadable.remove(fileName(name));
+    m_writer.remove(filePath(name));
+    m_writer.remove(setAsidePath(filePath(name)));
+}
+
+std::optional<QByteArray> DataFolder::read(const QString& name)
+{
+    const QString path = filePath(name);
+    if (auto pending = m_writer.pending(path))
+        return *std::move(pending);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return file.readAll();
+}
+
+void DataFolder::markUnreadable(const QString& name, const QString& reason)
+{
+    qCWarning(logStorage) << fileName(name) << "does not decode:" << reason;
+    m_unreadable.insert(fileName(name));
+}
+
+std::vector<QByteArray> DataFolder::completeElements(const QByteArray& list, bool* isWhole)
+{
+    std::vector<QByteArray> elements;
+    qsizetype start = -1;
+    int depth = 0;
+    bool isInText = false;
+    bool isClosed = false;
+    const QByteArray trimmed = list.trimmed();
+    for (qsizetype i = 0; i < trimmed.size() && !isClosed; ++i) {
+        const char c = trimmed[i];
+        if (isInText) {
+            if (c == '\\')
+                ++i;
+            else if (c == '"')
+                isInText = false;
+            continue;
+        }
+        if (c == '"')
+            isInText = true;
+        const bool isSeparator = depth == 1 && (c == ',' || c == ']');
+        if (isSeparator && start >= 0) {
+            elements.push_back(trimmed.mid(start, i - start));
+            start = -1;
+        } else if (depth == 1 && start < 0 && !isSeparator && !QChar::isSpace(static_cast<uchar>(c))) {
+            start = i;
+        }
+        if (c == '[' || c == '{')
+            ++depth;
+        else if (c == ']' || c == '}')
+            isClosed = --depth <= 0;
+        if (depth == 0 && !isClosed)
+            break; // not a list
+    }
+    *isWhole = isClosed && trimmed.startsWith('[') && trimmed.endsWith(']');
+    // An element that was closed before the cut is whole even without the separator behind it. A number is never
+    // closed.
+    const bool endsClosed = trimmed.endsWith('}') || trimmed.endsWith(']') || trimmed.endsWith('"');
+    if (!isClosed && start >= 0 && depth == 1 && !isInText && endsClosed)
+        elements.push_back(trimmed.mid(start));
+    return elements;
+}
+
+} // namespace loom

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QMutex>
+#include <QString>
+#include <QThreadPool>
+
+#include <functional>
+#include <optional>
+
+namespace loom
+{
+
+/// Writes and removes files one after the other on a thread of its own, so that the main thread never waits for a
+/// disk. Of several changes to one file that are still waiting only the last is carried out. The destructor waits
+/// until everything is written.
+class FileWriter
+{
+public:
+    /// Runs on the writer's thread just before a file is replaced.
+    using BeforeReplacing = std::function<void(const QString& path)>;
+
+    FileWriter();
+    FileWriter(const FileWriter&) = delete;
+    FileWriter& operator=(const FileWriter&) = delete;
+    ~FileWriter();
+
+    void write(const QString& path, const QByteArray& bytes, BeforeReplacing before = {});
+    /// A file that does not exist or cannot be removed is ignored.
+    void remove(const QString& path);
+
+    /// What the file will hold once the waiting changes are carried out; nothing when none waits for it. An empty
+    /// inner value means that it will be removed.
+    [[nodiscard]] std::optional<std::optional<QByteArray>> pending(const QString& path) const;
+
+    void waitUntilWritten();
+
+private:
+    struct Change {
+        std::optional<QByteArray> bytes; ///< none removes the file
+        BeforeReplacing before;
+        quint64 number = 0;
+    };
+    void enqueue(const QString& path, Change change);
+    void carryOut(const QString& path);
+
+    mutable QMutex m_mutex;
+    QHash<QString, Change> m_waiting;
+    quint64 m_changes = 0;
+    QThreadPool m_thread;
+};
+
+} // namespace loom

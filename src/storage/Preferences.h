@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QObject>
+#include <QString>
+
+#include <concepts>
+
+namespace loom
+{
+
+class DataFolder;
+
+/// A setting's key and what holds while it is absent or of another type.
+template <typename T>
+struct Preference {
+    const char* key;
+    T fallback;
+};
+
+/// The one table of settings.
+namespace preferences
+{
+inline constexpr Preference<const char*> appearance{"lst_appearance", "system"}; ///< "system", "light" or "dark"
+inline constexpr Preference<const char*> marketCountry{"lst_market_country", ""};
+inline constexpr Preference<const char*> marketCurrency{"lst_market_currency", ""};
+inline constexpr Preference<const char*> privacyConsent{"lst_privacy_consent", "essential"}; ///< or "all"
+inline constexpr Preference<const char*> secureStore{"lst_secure_store", ""}; ///< "system" or "file" once chosen
+inline constexpr Preference<const char*> settingsTab{"lst_settings_tab", "appearance"};
+inline constexpr Preference<const char*> shopGender{"lst_shop_gender_v1", "women"};
+inline constexpr Preference<const char*> sizeUnit{"lst_size_unit", "metric"}; ///< or "imperial"
+inline constexpr Preference<bool> splitPreview{"lst_split_preview", true};
+inline constexpr Preference<double> splitPreviewWidth{"lst_split_preview_width_v2", 0};
+inline constexpr Preference<const char*> visitorId{"lst_visitor_id", ""};
+inline constexpr Preference<const char*> windowFrame{"lst_window_frame", "own"}; ///< or "desktop"
+} // namespace preferences
+
+/// The shopper's settings, kept in one file of the data folder. Main thread.
+class Preferences final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Preferences(DataFolder& folder, QObject* parent = nullptr);
+
+    [[nodiscard]] bool value(const Preference<bool>& preference) const;
+    [[nodiscard]] double value(const Preference<double>& preference) const;
+    [[nodiscard]] QString value(const Preference<const char*>& preference) const;
+
+    void set(const Preference<bool>& preference, bool value);
+    void set(const Preference<double>& preference, double value);
+    void set(const Preference<const char*>& preference, const QString& value);
+
+    template <typename T>
+    void remove(const Preference<T>& preference)
+    {
+        setJson(QString::fromLatin1(preference.key), QJsonValue(QJsonValue::Undefined));
+    }
+
+Q_SIGNALS:
+    void changed(const QString& key);
+
+private:
+    void setJson(const QString& key, const QJsonValue& value);
+
+    DataFolder& m_folder;
+    QJsonObject m_values;
+};
+
+} // namespace loom

@@ -1,0 +1,72 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Theme
+
+// The colours a piece comes in: four at most, each with a ring that keeps pale ones apart from the page.
+Row {
+    id: dots
+
+    property var colours: []
+    // Where the colours are not known: a picture of the piece in each, of which a dot shows the middle.
+    property var pictures: []
+    property color backdrop: Theme.paper
+    property string names // for assistive tools: the colours in words
+
+    readonly property color ring: Qt.alpha(Theme.ink, Theme.dark ? 0.4 : 0.2)
+
+    spacing: 5
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: names
+    Accessible.ignored: names === ""
+
+    Repeater {
+        model: dots.colours.slice(0, 4)
+
+        Rectangle {
+            required property color modelData
+
+            width: 11
+            height: 11
+            radius: 5.5
+            color: modelData
+            border.width: Theme.strokeHairline
+            border.color: dots.ring
+        }
+    }
+    Repeater {
+        model: dots.pictures.slice(0, 4)
+
+        Item {
+            id: dot
+
+            required property string modelData
+
+            width: 11
+            height: 11
+
+            Image {
+                anchors.fill: parent
+                asynchronous: true
+                source: PictureAddress.at(dot.modelData, 1)
+                sourceSize.width: 32
+                // The middle of a garment is cloth; its edges are ground.
+                sourceClipRect: Qt.rect(13, 16, 6, 6)
+            }
+            // The corners: a thick ring in the colour of the page, whose inner edge is the dot's.
+            Rectangle {
+                anchors { fill: parent; margins: -3 }
+                radius: width / 2
+                color: "transparent"
+                border { width: 3; color: dots.backdrop }
+            }
+            Rectangle {
+                anchors.fill: parent
+                radius: width / 2
+                color: "transparent"
+                border { width: Theme.strokeHairline; color: Qt.alpha(Theme.ink, Theme.dark ? 0.4 : 0.2) }
+            }
+        }
+    }
+}

@@ -1,0 +1,35 @@
+import QtQuick
+import Loomstreet.Theme
+
+// One size of a piece. A sold-out one can still be reached and asked about.
+Choice {
+    id: control
+
+    property bool soldOut: false
+
+    horizontalPadding: Theme.space1_5
+    accessibleName: soldOut ? qsTranslate("Loomstreet", "%1, sold out").arg(text) : text
+
+    contentItem: TextLabel {
+        objectName: "label"
+        text: control.text
+        type: Theme.type.control
+        figures: true
+        color: control.soldOut ? Theme.muted : Theme.ink
+        font.strikeout: control.soldOut
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+    background: Rectangle {
+        implicitWidth: 48
+        implicitHeight: Theme.targetControl
+        radius: Theme.radiusControl
+        color: control.down ? Theme.pressed
+                            : control.soldOut ? Theme.sunken : control.hovered ? Theme.hover : "transparent"
+        border.width: control.selected ? Theme.strokeSelected : Theme.strokeControl
+        border.color: control.selected ? Theme.ink : control.soldOut ? Theme.hairline : Theme.border
+
+        FocusRing { target: control }
+    }
+}

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "app/AppModel.h"
+#include "app/SystemAppearance.h"
+
+#include <QtQml/qqmlregistration.h>
+
+// Declares to pages the types they receive from the application model. None of them is made in QML. Written out,
+// because moc expands no macro that holds Q_GADGET.
+
+struct AppModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AppModel)
+    QML_NAMED_ELEMENT(AppModel)
+    QML_UNCREATABLE("made by the application")
+};
+
+struct AppCommandsForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AppCommands)
+    QML_NAMED_ELEMENT(AppCommands)
+    QML_UNCREATABLE("made by the application model")
+};
+
+namespace AppCommandForQml
+{
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(loom::AppCommand)
+QML_NAMED_ELEMENT(AppCommand)
+} // namespace AppCommandForQml
+
+struct AppSessionForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AppSession)
+    QML_NAMED_ELEMENT(AppSession)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct AppSettingsForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AppSettings)
+    QML_NAMED_ELEMENT(AppSettings)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct CollectionModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::CollectionModel)
+    QML_NAMED_ELEMENT(CollectionModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct CollectionTilesModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::CollectionTilesModel)
+    QML_NAMED_ELEMENT(CollectionTilesModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct MarketStoreForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::MarketStore)
+    QML_NAMED_ELEMENT(MarketStore)
+    QML_UNCREATABLE("made by the application model")
+};
+
+namespace PageKindForQml
+{
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(loom::PageKind)
+QML_NAMED_ELEMENT(PageKind)
+} // namespace PageKindForQml
+
+struct PageEntryForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::PageEntry)
+    QML_VALUE_TYPE(pageEntry)
+};
+
+struct ProductListModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::ProductListModel)
+    QML_NAMED_ELEMENT(ProductListModel)
+    QML_UNCREATABLE("made by the model of a page")
+};
+
+struct ProductModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::ProductModel)
+    QML_NAMED_ELEMENT(ProductModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct RouterForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::Router)
+    QML_NAMED_ELEMENT(Router)
+    QML_UNCREATABLE("made by a window session")
+};
+
+struct SystemAppearanceForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::SystemAppearance)
+    QML_NAMED_ELEMENT(SystemAppearance)
+    QML_UNCREATABLE("made by the application")
+};
+
+struct TabsModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::TabsModel)
+    QML_NAMED_ELEMENT(TabsModel)
+    QML_UNCREATABLE("made by a window session")
+};
+
+struct WindowSessionForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::WindowSession)
+    QML_NAMED_ELEMENT(WindowSession)
+    QML_UNCREATABLE("made by the application model")
+};

@@ -1,0 +1,125 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Model
+import Loomstreet.Theme
+
+// What one chooses of a piece and what it costs, and what else is worth knowing before.
+Column {
+    id: box
+
+    property ProductModel product
+
+    readonly property var reviews: product?.reviews ?? ({})
+    readonly property var service: product?.service ?? ({})
+
+    spacing: Theme.space2
+
+    Column {
+        width: parent.width
+        spacing: Theme.spaceHalf
+
+        TextLabel {
+            objectName: "designer"
+            width: parent.width
+            visible: text !== ""
+            text: box.product.designer
+            type: Theme.type.overline
+            color: Theme.muted
+        }
+        TextLabel {
+            objectName: "title"
+            width: parent.width
+            text: box.product.title
+            type: Theme.type.heading
+            wrapMode: Text.Wrap
+            maximumLineCount: 3
+            Accessible.role: Accessible.Heading
+        }
+        StarRating {
+            objectName: "rating"
+            visible: (box.reviews.rating ?? 0) > 0
+            value: box.reviews.rating ?? 0
+            note: {
+                const rating = Number(box.reviews.rating ?? 0).toFixed(1)
+                const count = box.reviews.count ?? 0
+                return count === 1 ? qsTranslate("Loomstreet", "%1  1 review").arg(rating)
+                                   : qsTranslate("Loomstreet", "%1  %2 reviews").arg(rating).arg(count)
+            }
+        }
+    }
+    PriceLabel {
+        objectName: "price"
+        price: box.product.price
+        formerPrice: box.product.formerPrice
+        type: Theme.type.priceLarge
+        room: box.width
+    }
+    FactRow {
+        objectName: "presale"
+        width: parent.width
+        visible: title !== ""
+        iconName: "calendar"
+        title: box.product.presale === "" ? "" : qsTranslate("Loomstreet", "Presale")
+        note: box.product.presale
+        divided: false
+    }
+
+    Repeater {
+        model: box.product.options
+
+        OptionRow {
+            required property var modelData
+
+            width: box.width
+            group: modelData
+            hint: modelData.isSwatch || box.product.sizeHint === "" || modelData.name.toLowerCase() !== "size" ? ""
+                  : qsTranslate("Loomstreet", "Most chosen: %1").arg(box.product.sizeHint)
+            onChosen: value => box.product.choose(modelData.name, value)
+        }
+    }
+    TextLabel {
+        objectName: "stock"
+        width: parent.width
+        visible: text !== ""
+        text: box.product.isSoldOut ? qsTranslate("Loomstreet", "Sold out") : box.product.stockText
+        type: Theme.type.small
+        color: box.product.isSoldOut ? Theme.muted : Theme.warning
+    }
+
+    Column {
+        width: parent.width
+
+        FactRow {
+            width: parent.width
+            iconName: "truck"
+            title: qsTranslate("Loomstreet", "FREE worldwide shipping")
+            note: qsTranslate("Loomstreet", "On carts of %1 or more").arg(box.product.freeShippingFrom)
+        }
+        FactRow {
+            objectName: "returns"
+            width: parent.width
+            iconName: "return"
+            title: box.service.returns ?? ""
+            note: box.service.note ?? ""
+        }
+        FactRow {
+            objectName: "service"
+            width: parent.width
+            visible: title !== ""
+            iconName: "info"
+            title: (box.service.service ?? "") === "" ? "" : qsTranslate("Loomstreet", "Good to know")
+            note: box.service.service ?? ""
+        }
+        FactRow {
+            width: parent.width
+            iconName: "shield"
+            title: qsTranslate("Loomstreet", "Import duties included")
+            note: qsTranslate("Loomstreet", "Shipping calculated at checkout")
+        }
+        ProductStory {
+            width: parent.width
+            product: box.product
+        }
+    }
+}

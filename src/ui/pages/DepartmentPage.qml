@@ -1,0 +1,89 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Model
+import Loomstreet.Theme
+
+// A department: the collections it is made of.
+PageBase {
+    id: page
+
+    readonly property string name: context.entry.title
+    readonly property CollectionTilesModel collections: context.model
+    readonly property bool failed: collections ? collections.count === 0 && collections.errorText !== "" : false
+    readonly property bool empty: collections ? collections.isLoaded && collections.count === 0 : false
+
+    title: name
+    settled: tiles.decoded > 0 || failed || empty
+    scrollY: flick.contentY
+
+    function scrollTo(y: real): void { flick.contentY = y }
+    function takeFocus(): void { flick.forceActiveFocus() }
+    function reload(): void { collections.reload() }
+
+    onShownChanged: if (shown && collections) collections.load()
+    Component.onCompleted: if (shown && collections) collections.load()
+
+    OfflineStrip {
+        id: strip
+
+        objectName: "strip"
+        width: parent.width
+        visible: !page.failed && text !== ""
+        text: page.collections ? page.collections.errorText : ""
+    }
+    Flickable {
+        id: flick
+
+        objectName: "flick"
+        anchors { left: parent.left; right: parent.right; top: strip.visible ? strip.bottom : parent.top; bottom: parent.bottom }
+        visible: !page.failed && !page.empty
+        contentHeight: column.height + Theme.space3 + Theme.space8
+        boundsBehavior: Flickable.StopAtBounds
+        ScrollBar.vertical: ScrollBar {}
+
+        Column {
+            id: column
+
+            anchors { left: parent.left; right: parent.right; top: parent.top; leftMargin: page.padding; rightMargin: page.padding; topMargin: Theme.space3 }
+            spacing: Theme.space3
+
+            SectionHeader {
+                width: parent.width
+                type: page.narrow ? Theme.type.heading : Theme.type.title
+                title: page.name
+            }
+            TileGrid {
+                id: tiles
+
+                objectName: "tiles"
+                width: parent.width
+                collections: page.collections
+                onOpened: (handle, title) => page.router.openCollection(handle, title)
+            }
+        }
+    }
+    ErrorState {
+        objectName: "error"
+        anchors.centerIn: parent
+        visible: page.failed
+        width: Math.min(parent.width, 480)
+        sentence: page.collections?.errorText ?? ""
+        takesFocus: page.shown
+        onRetry: page.collections.reload()
+    }
+    EmptyState {
+        objectName: "missing"
+        anchors.centerIn: parent
+        visible: page.empty
+        width: Math.min(parent.width, 480)
+        iconName: "info"
+        title: qsTranslate("Loomstreet", "Nothing here yet")
+        sentence: qsTranslate("Loomstreet", "New pieces arrive every week.")
+
+        PushButton {
+            text: qsTranslate("Loomstreet", "Explore")
+            onClicked: page.router.selectItem(0)
+        }
+    }
+}

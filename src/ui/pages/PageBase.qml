@@ -1,0 +1,36 @@
+import QtQuick
+import Loomstreet.Model
+import Loomstreet.Theme
+
+// What every page is given, and what it tells the host it stands in.
+FocusScope {
+    id: page
+
+    required property PageContext context
+
+    readonly property AppModel app: context.app
+    readonly property WindowSession session: context.session
+    readonly property Router router: context.router
+    readonly property bool shown: context.shown
+
+    // Where it is scrolled to; the host keeps this too.
+    property real scrollY: 0
+    property string title
+    // The first pictures of the page have been decoded.
+    property bool settled: false
+
+    readonly property int measuredWidth: session.windowWidth - Theme.layoutSidebarRegular
+    readonly property bool narrow: measuredWidth < Theme.breakpointNarrow
+    readonly property int padding: {
+        const least = narrow ? Theme.layoutPagePaddingNarrow : Theme.layoutPagePaddingRegular
+        return Math.max(least, Math.floor((width - Theme.layoutMaximumPage) / 2))
+    }
+
+    // A page gives the focus to what it is about.
+    function takeFocus(): void { page.forceActiveFocus() }
+    function scrollTo(y: real): void {}
+    function reload(): void {}
+
+    onTitleChanged: router.setPageTitle(context.depth, title)
+    Component.onCompleted: if (title !== "") router.setPageTitle(context.depth, title)
+}

@@ -1,0 +1,169 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Model
+import Loomstreet.Theme
+
+// The pictures of a piece: a column of small ones, and beside it as many large ones as fit. The arrow keys go
+// through them, Enter and a click enlarge.
+FocusScope {
+    id: gallery
+
+    property ProductModel product
+    property bool narrow: false
+
+    readonly property var pictures: product ? product.pictures : []
+    readonly property int perView: pictures.length > 1 && !narrow && main.width >= 520 ? 2 : 1
+    readonly property int thumbWidth: 64
+    readonly property real pictureWidth: (main.width - (perView - 1) * Theme.space1_5) / perView
+    readonly property bool settled: main.decoded > 0
+
+    signal enlarged(int index)
+
+    function show(index: int): void {
+        if (index >= 0 && index < pictures.length)
+            main.currentIndex = index
+    }
+
+    implicitHeight: Math.round(pictureWidth / Theme.cardPictureRatio)
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.List
+    Accessible.name: qsTranslate("Loomstreet", "Pictures")
+
+    Keys.onLeftPressed: show(main.currentIndex + (LayoutMirroring.enabled ? 1 : -1))
+    Keys.onRightPressed: show(main.currentIndex + (LayoutMirroring.enabled ? -1 : 1))
+    Keys.onReturnPressed: enlarged(main.currentIndex)
+    Keys.onEnterPressed: enlarged(main.currentIndex)
+
+    // A colour's picture comes forward when the colour is chosen.
+    Connections {
+        target: gallery.product
+        function onSelectionChanged(): void {
+            if (gallery.product.pictureIndex >= 0)
+                gallery.show(gallery.product.pictureIndex)
+        }
+    }
+
+    ListView {
+        id: thumbs
+
+        objectName: "thumbs"
+        width: gallery.thumbWidth
+        height: parent.height
+        visible: gallery.pictures.length > 1 && !gallery.narrow
+        spacing: Theme.space1
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        model: gallery.pictures
+        currentIndex: main.currentIndex
+        highlightMoveDuration: Theme.durationPage
+
+        delegate: Pressable {
+            id: thumb
+
+            required property string modelData
+            required property int index
+
+            objectName: "thumb" + index
+            width: gallery.thumbWidth
+            height: small.implicitHeight
+            focusPolicy: Qt.NoFocus
+            accessibleName: qsTranslate("Loomstreet", "Picture %1 of %2").arg(index + 1).arg(gallery.pictures.length)
+            onClicked: gallery.show(index)
+
+            contentItem: Picture {
+                id: small
+
+                width: thumb.width
+                address: thumb.modelData
+            }
+            Rectangle {
+                anchors { fill: parent; margins: 0 }
+                visible: thumb.index === main.currentIndex
+                radius: Theme.radiusPicture
+                color: "transparent"
+                border { width: Theme.strokeSelected; color: Theme.ink }
+            }
+        }
+    }
+
+    ListView {
+        id: main
+
+        // Pictures in view that have been decoded.
+        property int decoded: 0
+
+        objectName: "main"
+        anchors { left: thumbs.visible ? thumbs.right : parent.left; leftMargin: thumbs.visible ? Theme.space1_5 : 0; right: parent.right }
+        height: parent.height
+        orientation: ListView.Horizontal
+        spacing: Theme.space1_5
+        clip: true
+        model: gallery.pictures
+        boundsBehavior: Flickable.StopAtBounds
+        snapMode: ListView.SnapToItem
+        highlightRangeMode: ListView.ApplyRange
+        preferredHighlightBegin: 0
+        preferredHighlightEnd: gallery.pictureWidth
+        highlightMoveDuration: Theme.durationPanel
+        cacheBuffer: Math.max(0, width)
+        onMovementEnded: currentIndex = indexAt(contentX + gallery.pictureWidth / 2, 0)
+
+        delegate: Picture {
+            id: large
+
+            required property string modelData
+            required property int index
+            readonly property bool decodedNow: ready || broken || missing
+
+            objectName: "picture" + index
+            width: gallery.pictureWidth
+            height: main.height
+            address: modelData
+            description: qsTranslate("Loomstreet", "%1, picture %2").arg(gallery.product.title).arg(index + 1)
+            onDecodedNowChanged: if (decodedNow) ++main.decoded
+
+            TapHandler {
+                onTapped: {
+                    main.currentIndex = large.index
+                    gallery.enlarged(large.index)
+                }
+            }
+            HoverHandler { cursorShape: Qt.PointingHandCursor }
+        }
+    }
+    Picture {
+        anchors.fill: main
+        visible: gallery.pictures.length === 0
+        address: ""
+    }
+    FocusRing {
+        target: gallery
+        anchors.fill: main
+        controlRadius: Theme.radiusPicture
+    }
+    PictureLabel {
+        objectName: "label"
+        anchors { left: main.left; top: main.top; margins: Theme.space1_5 }
+        text: gallery.product ? (gallery.product.isSoldOut ? qsTranslate("Loomstreet", "Sold out") : gallery.product.label) : ""
+    }
+    Rectangle {
+        objectName: "counter"
+        anchors { right: main.right; bottom: main.bottom; margins: Theme.space1_5 }
+        visible: gallery.pictures.length > 1
+        width: counter.implicitWidth + Theme.space2 + 4
+        height: 24
+        radius: height / 2
+        color: Theme.surface
+
+        TextLabel {
+            id: counter
+
+            anchors.centerIn: parent
+            text: "%1 / %2".arg(main.currentIndex + 1).arg(gallery.pictures.length)
+            type: Theme.type.captionStrong
+            figures: true
+        }
+    }
+}

@@ -1,0 +1,127 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Model
+import Loomstreet.Theme
+
+// The cards of a list: as many columns as fit, recycled while they scroll, moved through by the arrow keys.
+GridView {
+    id: grid
+
+    property ProductListModel products
+    property int padding: Theme.layoutPagePaddingRegular
+
+    readonly property int room: width - 2 * padding
+    readonly property int columns: Math.max(1, Math.floor((room + Theme.cardGapX) / (Theme.cardMinimumWidth + Theme.cardGapX)))
+    readonly property real cardWidth: Math.floor((room + Theme.cardGapX) / columns) - Theme.cardGapX
+    // Pictures of the first cards that have been decoded.
+    property int decoded: 0
+    readonly property bool settled: count > 0 && decoded >= Math.min(count, 8)
+
+    signal opened(string handle, var item, int modifiers)
+    signal nearEnd()
+
+    function noteNearEnd(): void {
+        if (count > 0 && contentHeight - contentY - height < 2 * height)
+            nearEnd()
+    }
+
+    model: products
+    leftMargin: padding
+    rightMargin: padding - Theme.cardGapX
+    cellWidth: cardWidth + Theme.cardGapX
+    cellHeight: measure.implicitHeight + Theme.cardGapY
+    cacheBuffer: cellHeight
+    reuseItems: true
+    activeFocusOnTab: count > 0
+    keyNavigationEnabled: true
+    boundsBehavior: Flickable.StopAtBounds
+    highlightFollowsCurrentItem: true
+    // A card scrolled to by the keys does not stick to the edge.
+    preferredHighlightBegin: Theme.space4
+    preferredHighlightEnd: height - Theme.space4
+    highlightMoveDuration: Theme.durationPage
+
+    // What stands above the first row and below the last one, and scrolls with them.
+    property Item head: null
+    property Item foot: null
+
+    // Where the list is scrolled to, from the top of its head.
+    property real scrollY: 0
+    // A place to come back to, until there is enough of the list to go there.
+    property real awaitedY: -1
+
+    function scrollTo(y: real): void {
+        awaitedY = y
+        comeBack()
+    }
+    function comeBack(): void {
+        if (awaitedY < 0 || contentHeight + topMargin + bottomMargin < awaitedY + height)
+            return
+        contentY = originY - topMargin + awaitedY
+        awaitedY = -1
+    }
+
+    topMargin: head?.height ?? 0
+    bottomMargin: foot?.height ?? 0
+    // At the top it stays at the top while the head grows.
+    onTopMarginChanged: if (contentY <= originY) contentY = originY - topMargin
+
+    Binding {
+        when: grid.head !== null
+        target: grid.head
+        property: "parent"
+        value: grid.contentItem
+    }
+    Binding {
+        when: grid.head !== null
+        target: grid.head
+        property: "y"
+        value: grid.originY - (grid.head?.height ?? 0)
+    }
+    Binding {
+        when: grid.foot !== null
+        target: grid.foot
+        property: "parent"
+        value: grid.contentItem
+    }
+    Binding {
+        when: grid.foot !== null
+        target: grid.foot
+        property: "y"
+        value: grid.originY + grid.contentHeight
+    }
+    onContentYChanged: {
+        scrollY = contentY - originY + topMargin
+        noteNearEnd()
+    }
+    onContentHeightChanged: {
+        comeBack()
+        noteNearEnd()
+    }
+    onHeightChanged: noteNearEnd()
+
+    Accessible.role: Accessible.List
+    Accessible.name: qsTranslate("Loomstreet", "Pieces")
+
+    // What a card measures at this width; never shown.
+    ProductCard {
+        id: measure
+
+        width: grid.cardWidth
+        visible: false
+    }
+
+    delegate: PieceCard {
+        id: card
+
+        width: grid.cardWidth
+        focus: GridView.isCurrentItem
+        onOpened: (handle, item, modifiers) => {
+            grid.currentIndex = card.index
+            grid.opened(handle, item, modifiers)
+        }
+        onPictureSettledChanged: if (pictureSettled) ++grid.decoded
+        Component.onCompleted: if (pictureSettled) ++grid.decoded
+    }
+}

@@ -1,0 +1,168 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Model
+import Loomstreet.Theme
+
+// A piece: its pictures and tables on the left, what one chooses and pays in a column of its own that stays.
+// Narrow windows stack them.
+PageBase {
+    id: page
+
+    readonly property ProductModel product: context.model
+    readonly property int phase: product ? product.phase : ProductModel.Idle
+    // A card it was opened from is enough to begin with.
+    readonly property bool hasContent: product ? product.title !== "" && phase !== ProductModel.Missing : false
+    readonly property int gap: narrow ? Theme.layoutPagePaddingNarrow : Theme.layoutPagePaddingBesidePane
+
+    title: product ? product.title : ""
+    settled: gallery.settled || phase === ProductModel.Missing || phase === ProductModel.Failed
+    scrollY: left.contentY
+
+    function scrollTo(y: real): void { left.contentY = y }
+    function takeFocus(): void { gallery.forceActiveFocus() }
+    function reload(): void { product.reload() }
+
+    onShownChanged: if (shown && product) product.load()
+    Component.onCompleted: if (shown && product) product.load()
+
+    OfflineStrip {
+        id: strip
+
+        objectName: "strip"
+        width: parent.width
+        visible: page.hasContent && page.product.errorText !== ""
+        text: page.product ? page.product.errorText : ""
+    }
+
+    Flickable {
+        id: left
+
+        objectName: "left"
+        anchors { left: parent.left; right: page.narrow ? parent.right : buy.left; top: strip.visible ? strip.bottom : parent.top; bottom: parent.bottom }
+        visible: page.hasContent
+        contentHeight: body.height + 2 * page.gap
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        ScrollBar.vertical: ScrollBar {}
+
+        Column {
+            id: body
+
+            x: page.gap
+            y: page.narrow ? page.gap : Theme.space2
+            width: left.width - 2 * page.gap
+            spacing: Theme.space3
+
+            ProductGallery {
+                id: gallery
+
+                width: parent.width
+                product: page.product
+                narrow: page.narrow
+                focus: true
+                onEnlarged: index => page.session.openLightbox(page.product.pictures, index, page.product.title)
+            }
+            Item {
+                id: stacked
+
+                width: parent.width
+                height: page.narrow ? box.height : 0
+                visible: page.narrow
+            }
+            Grid {
+                id: facts
+
+                readonly property bool beside: columns > 1
+
+                width: parent.width
+                columns: reviews.visible && sizes.visible && width >= 640 ? 2 : 1
+                columnSpacing: Theme.space4
+                rowSpacing: Theme.space4
+
+                readonly property real cellWidth: (width - (columns - 1) * columnSpacing) / columns
+
+                SizeTables {
+                    id: sizes
+
+                    width: facts.cellWidth
+                    visible: page.product ? page.product.sizeTables.length > 0 : false
+                    product: page.product
+                }
+                ProductReviews {
+                    id: reviews
+
+                    width: facts.cellWidth
+                    visible: page.product ? Object.keys(page.product.reviews).length > 0 : false
+                    summary: page.product ? page.product.reviews : ({})
+                    onPictureOpened: (pictures, index) => page.session.openLightbox(pictures, index, page.product.title)
+                }
+            }
+        }
+    }
+
+    Flickable {
+        id: buy
+
+        objectName: "buyColumn"
+        anchors { right: parent.right; top: left.top; bottom: parent.bottom }
+        visible: page.hasContent && !page.narrow
+        width: Theme.layoutBuyBox + page.gap
+        contentHeight: box.height + Theme.space2 + page.gap
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        ScrollBar.vertical: ScrollBar {}
+
+        Item {
+            id: column
+
+            anchors { left: parent.left; right: parent.right; top: parent.top; leftMargin: Theme.space2 + 4; rightMargin: page.gap; topMargin: Theme.space2 }
+            height: box.height
+        }
+    }
+    BuyBox {
+        id: box
+
+        parent: page.narrow ? stacked : column
+        width: parent.width
+        product: page.product
+    }
+    Hairline {
+        anchors { left: buy.left; top: buy.top; bottom: parent.bottom; topMargin: Theme.space2 }
+        visible: buy.visible
+    }
+
+    ProductSkeleton {
+        anchors.fill: parent
+        shown: !page.hasContent && (page.phase === ProductModel.Loading || page.phase === ProductModel.Idle)
+        padding: page.gap
+        narrow: page.narrow
+    }
+    ErrorState {
+        objectName: "error"
+        anchors.centerIn: parent
+        visible: page.phase === ProductModel.Failed && !page.hasContent
+        width: Math.min(parent.width, 480)
+        sentence: page.product?.errorText ?? ""
+        takesFocus: page.shown
+        onRetry: page.product.reload()
+    }
+    EmptyState {
+        objectName: "missing"
+        anchors.centerIn: parent
+        visible: page.phase === ProductModel.Missing
+        width: Math.min(parent.width, 480)
+        iconName: "hanger"
+        title: qsTranslate("Loomstreet", "This piece isn't available")
+        sentence: qsTranslate("Loomstreet", "It may be sold out for good, or isn't sold in %1.").arg(page.app.market.countryName)
+
+        PushButton {
+            text: qsTranslate("Loomstreet", "New In")
+            onClicked: page.router.selectItem(1)
+        }
+        PushButton {
+            text: qsTranslate("Loomstreet", "Explore")
+            onClicked: page.router.selectItem(0)
+        }
+    }
+}

@@ -1,0 +1,94 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Theme
+
+// What one buyer wrote.
+Column {
+    id: entry
+
+    property var review: ({})
+
+    signal pictureOpened(var pictures, int index)
+
+    topPadding: Theme.spaceHalf
+    spacing: Theme.spaceHalf
+
+    Item {
+        width: parent.width
+        implicitHeight: who.implicitHeight
+
+        Row {
+            id: who
+
+            width: parent.width - date.width - Theme.space1
+            spacing: Theme.space1
+            clip: true
+
+            StarRating {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: value > 0
+                value: entry.review.rating ?? 0
+            }
+            TextLabel {
+                text: entry.review.user ?? ""
+                type: Theme.type.captionStrong
+            }
+            TextLabel {
+                text: [entry.review.country, entry.review.sku].filter(part => part).join(" · ")
+                type: Theme.type.caption
+                color: Theme.muted
+            }
+        }
+        TextLabel {
+            id: date
+
+            anchors.right: parent.right
+            text: entry.review.date ?? ""
+            type: Theme.type.caption
+            figures: true
+            color: Theme.muted
+        }
+    }
+    TextLabel {
+        width: parent.width
+        visible: text !== ""
+        text: entry.review.content ?? ""
+        type: Theme.type.small
+        wrapMode: Text.Wrap
+    }
+    ReviewPictures {
+        pictures: entry.review.images ?? []
+        onOpened: index => entry.pictureOpened(entry.review.images, index)
+    }
+    TextLabel {
+        width: parent.width
+        visible: (entry.review.appendReview ?? "") !== ""
+        text: (entry.review.appendDays === 1 ? qsTranslate("Loomstreet", "After a day: %1")
+                                             : qsTranslate("Loomstreet", "After %1 days: %2").arg(entry.review.appendDays ?? 0))
+              .arg(entry.review.appendReview ?? "")
+        type: Theme.type.small
+        color: Theme.muted
+        wrapMode: Text.Wrap
+    }
+    ReviewPictures {
+        pictures: entry.review.appendImages ?? []
+        onOpened: index => entry.pictureOpened(entry.review.appendImages, index)
+    }
+    Repeater {
+        model: entry.review.replies ?? []
+
+        TextLabel {
+            required property string modelData
+
+            width: entry.width
+            leftPadding: Theme.space2
+            text: qsTranslate("Loomstreet", "The store answered: %1").arg(modelData)
+            type: Theme.type.small
+            color: Theme.muted
+            wrapMode: Text.Wrap
+        }
+    }
+    Item { width: 1; height: Theme.spaceHalf }
+    Hairline { width: parent.width }
+}

@@ -1,0 +1,137 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Model
+import Loomstreet.Theme
+
+// A window on the shop: tabs above, destinations at the side, the page of the selected tab between.
+Window {
+    id: window
+
+    required property AppModel app
+    required property WindowSession session
+    required property SystemAppearance systemAppearance
+
+    readonly property bool ownFrame: app.settings.windowFrame === "own"
+    readonly property AppCommands commands: app.makeCommands(window, session)
+    readonly property bool narrow: width - Theme.layoutSidebarRegular < Theme.breakpointNarrow
+    // The page on top has what it needs to be looked at.
+    readonly property bool settled: pages.settled
+
+    function applyStyle(): void {
+        color = Qt.binding(() => Theme.paper)
+    }
+
+    width: Theme.breakpointDefaultWindow.width
+    height: Theme.breakpointDefaultWindow.height
+    minimumWidth: Theme.breakpointMinimumWindow.width
+    minimumHeight: Theme.breakpointMinimumWindow.height
+    flags: ownFrame ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
+    visibility: session.isWindowFullScreen ? Window.FullScreen : Window.AutomaticVisibility
+    title: session.selected ? qsTranslate("Loomstreet", "%1 – LOOMSTREET").arg(session.selected.title) : "LOOMSTREET"
+    color: Theme.paper
+
+    onWidthChanged: session.windowWidth = width
+    onActiveChanged: if (active) app.windowBecameKey(session)
+    onClosing: app.closeWindow(session)
+    Component.onCompleted: {
+        session.window = window
+        session.windowWidth = width
+        pages.takeFocus()
+    }
+
+    Connections {
+        target: window.session
+        function onCloseRequested(): void { window.close() }
+        function onScreenshotRequested(): void { screenshot.take() }
+        // The cart has a page and, as yet, no panel.
+        function onPanelsChanged(): void {
+            if (window.session.isCartOpen) {
+                window.session.isCartOpen = false
+                window.session.selected.selectItem(cartItem)
+            }
+        }
+        readonly property int cartItem: 12
+    }
+
+    ThemeInputs {
+        settings: window.app.settings
+        system: window.systemAppearance
+    }
+    CommandShortcuts {
+        commands: window.commands
+        enabled: window.session.lightbox === undefined
+    }
+
+    Item {
+        id: content
+
+        anchors.fill: parent
+        LayoutMirroring.enabled: window.systemAppearance.isRightToLeft
+        LayoutMirroring.childrenInherit: true
+
+        TabStrip {
+            id: strip
+
+            anchors { left: parent.left; right: parent.right; top: parent.top }
+            session: window.session
+            window: window
+            ownFrame: window.ownFrame
+            collapsed: sidebar.rail
+        }
+        CommandMenuBar {
+            id: menuBar
+
+            anchors { left: parent.left; right: parent.right; top: strip.bottom }
+            commands: window.commands
+        }
+        Sidebar {
+            id: sidebar
+
+            anchors { left: parent.left; top: menuBar.bottom; bottom: parent.bottom }
+            session: window.session
+            rail: window.narrow || window.session.isSidebarCollapsed
+        }
+        Rectangle {
+            anchors { left: sidebar.right; right: parent.right; top: menuBar.bottom; bottom: parent.bottom }
+            color: Theme.paper
+
+            TopBar {
+                id: bar
+
+                anchors { left: parent.left; right: parent.right; top: parent.top }
+                app: window.app
+                session: window.session
+                commands: window.commands
+                narrow: window.narrow
+                onPageWanted: pages.takeFocus()
+            }
+            TabPages {
+                id: pages
+
+                anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom }
+                app: window.app
+                session: window.session
+            }
+        }
+        Hairline {
+            anchors { left: sidebar.right; top: menuBar.bottom; bottom: parent.bottom }
+        }
+        Screenshot {
+            id: screenshot
+
+            anchors { left: sidebar.right; right: parent.right; top: strip.bottom; bottom: parent.bottom }
+            app: window.app
+            subject: pages
+        }
+        Lightbox {
+            anchors.fill: parent
+            session: window.session
+        }
+    }
+    ResizeEdges {
+        anchors.fill: parent
+        window: window
+        enabled: window.ownFrame && window.visibility === Window.Windowed
+    }
+}

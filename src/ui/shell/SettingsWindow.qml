@@ -1,0 +1,130 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Model
+import Loomstreet.Theme
+
+// What the shopper can set, a page for each matter; the last one looked at is remembered.
+Window {
+    id: window
+
+    required property AppModel app
+    required property SystemAppearance systemAppearance
+
+    readonly property AppSettings settings: app.settings
+    readonly property var pages: [
+        { id: "general", title: qsTranslate("Loomstreet", "General"), icon: "gear" },
+        { id: "appearance", title: qsTranslate("Loomstreet", "Appearance"), icon: "sun" },
+        { id: "privacy", title: qsTranslate("Loomstreet", "Privacy"), icon: "lock" }
+    ]
+    readonly property int current: Math.max(0, pages.findIndex(page => page.id === settings.settingsTab))
+
+    objectName: "settings"
+    width: Theme.layoutSettingsWindow.width
+    height: Theme.layoutSettingsWindow.height
+    minimumWidth: 640
+    minimumHeight: 420
+    title: qsTranslate("Loomstreet", "Settings")
+    color: Theme.surface
+
+    ThemeInputs {
+        settings: window.settings
+        system: window.systemAppearance
+    }
+    Shortcut {
+        sequences: ["Ctrl+W", "Esc"]
+        onActivated: window.close()
+    }
+    Shortcut {
+        sequence: "Ctrl+Q"
+        onActivated: window.app.quitRequested()
+    }
+
+    Item {
+        anchors.fill: parent
+        LayoutMirroring.enabled: window.systemAppearance.isRightToLeft
+        LayoutMirroring.childrenInherit: true
+
+        Rectangle {
+            id: side
+
+            anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
+            width: 208
+            color: Theme.sunken
+
+            ListView {
+                id: list
+
+                objectName: "settingsTabs"
+                anchors { fill: parent; margins: Theme.space1; topMargin: Theme.space2 }
+                spacing: Theme.spaceHalf
+                focus: true
+                activeFocusOnTab: true
+                keyNavigationEnabled: true
+                interactive: contentHeight > height
+                currentIndex: window.current
+                onCurrentIndexChanged: if (activeFocus && window.pages[currentIndex]) window.settings.settingsTab = window.pages[currentIndex].id
+                model: window.pages
+
+                Accessible.role: Accessible.PageTabList
+                Accessible.name: window.title
+
+                delegate: SettingsTab {
+                    required property var modelData
+                    required property int index
+
+                    objectName: "settings." + modelData.id
+                    width: list.width
+                    focus: ListView.isCurrentItem
+                    text: modelData.title
+                    iconName: modelData.icon
+                    selected: window.current === index
+                    onClicked: window.settings.settingsTab = modelData.id
+                }
+            }
+        }
+        Hairline {
+            anchors { left: side.right; top: parent.top; bottom: parent.bottom }
+        }
+        Flickable {
+            id: flick
+
+            anchors { left: side.right; right: parent.right; top: parent.top; bottom: parent.bottom }
+            contentHeight: sheet.height + 2 * Theme.space3
+            boundsBehavior: Flickable.StopAtBounds
+            clip: true
+            ScrollBar.vertical: ScrollBar {}
+
+            Item {
+                id: sheet
+
+                readonly property Item shown: [general, appearance, privacy][window.current]
+
+                anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.space4; topMargin: Theme.space3 }
+                height: shown.implicitHeight
+
+                GeneralSettings {
+                    id: general
+
+                    width: parent.width
+                    visible: sheet.shown === this
+                    app: window.app
+                }
+                AppearanceSettings {
+                    id: appearance
+
+                    width: parent.width
+                    visible: sheet.shown === this
+                    settings: window.settings
+                }
+                PrivacySettings {
+                    id: privacy
+
+                    width: parent.width
+                    visible: sheet.shown === this
+                    settings: window.settings
+                }
+            }
+        }
+    }
+}

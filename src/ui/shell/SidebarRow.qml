@@ -1,0 +1,89 @@
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Theme
+
+// A destination, with the heading or the line above it.
+FocusScope {
+    id: row
+
+    required property int index
+    required property string title
+    required property string symbol
+    required property string heading
+    required property bool hasLine
+    required property string rawValue
+    property bool rail: false
+    property bool selected: false
+
+    signal chosen()
+
+    implicitHeight: control.y + control.height
+
+    TextLabel {
+        id: headingLabel
+
+        anchors { left: parent.left; leftMargin: 20 }
+        height: Theme.layoutSidebarHeading
+        visible: row.heading !== "" && !row.rail
+        verticalAlignment: Text.AlignVCenter
+        text: row.heading
+        type: Theme.type.overline
+        color: Theme.muted
+        Accessible.role: Accessible.Heading
+    }
+    Hairline {
+        id: line
+
+        anchors { left: parent.left; right: parent.right; leftMargin: row.rail ? Theme.space2 : 20; rightMargin: row.rail ? Theme.space2 : 20 }
+        y: 7
+        visible: row.hasLine || (row.rail && row.heading !== "" && row.index > 0)
+    }
+    Pressable {
+        id: control
+
+        objectName: "section." + row.rawValue
+        anchors { left: parent.left; right: parent.right; leftMargin: Theme.space1; rightMargin: Theme.space1 }
+        y: headingLabel.visible ? headingLabel.height : line.visible ? 15 : 0
+        height: Math.max(Theme.layoutSidebarRow, label.implicitHeight + Theme.space1)
+        focus: true
+        activeFocusOnTab: false // the list takes the focus and hands it on
+        text: row.title
+        onClicked: row.chosen()
+
+        Accessible.role: Accessible.ListItem
+        Accessible.selected: row.selected
+
+        contentItem: Item {
+            Icon {
+                id: icon
+
+                anchors { left: parent.left; leftMargin: row.rail ? (parent.width - width) / 2 : Theme.space1_5; verticalCenter: parent.verticalCenter }
+                name: row.symbol
+                color: row.selected ? Theme.accent : Theme.muted
+            }
+            TextLabel {
+                id: label
+
+                anchors { left: icon.right; leftMargin: Theme.space1_5; right: parent.right; verticalCenter: parent.verticalCenter }
+                visible: !row.rail
+                text: row.title
+                type: Theme.type.label
+                font.weight: row.selected ? Font.DemiBold : type.weight
+                Accessible.ignored: true
+            }
+        }
+        background: Rectangle {
+            radius: Theme.radiusControl
+            color: row.selected ? Theme.paper : control.down ? Theme.pressed : control.hovered ? Theme.hover : "transparent"
+            border { width: row.selected ? Theme.strokeHairline : 0; color: Theme.hairline }
+
+            FocusRing { target: control }
+        }
+        ToolTip {
+            visible: row.rail && (control.hovered || control.visualFocus)
+            x: control.mirrored ? -width - Theme.space1 : control.width + Theme.space1
+            y: (control.height - height) / 2
+            text: row.title
+        }
+    }
+}

@@ -1,0 +1,114 @@
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Model
+import Loomstreet.Theme
+
+// One tab: the page it shows, and the way to close it.
+Pressable {
+    id: tab
+
+    required property Router router
+    required property int index
+    property WindowSession session
+
+    readonly property bool selected: session.selectedIndex === index
+    readonly property bool roomy: width >= 120
+
+    objectName: "tab" + index
+    text: router.title !== "" ? router.title : qsTranslate("Loomstreet", "Loading")
+    leftPadding: Theme.space1_5
+    rightPadding: Theme.spaceHalf
+    topPadding: Theme.layoutTabStrip - 34
+    onClicked: session.selectTab(index)
+
+    Keys.onDeletePressed: session.closeTab(index)
+    Keys.onMenuPressed: menu.popup()
+
+    Accessible.role: Accessible.PageTab
+    Accessible.selected: selected
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.MiddleButton | Qt.RightButton
+        onClicked: mouse => {
+            if (mouse.button === Qt.MiddleButton)
+                tab.session.closeTab(tab.index)
+            else
+                menu.popup()
+        }
+    }
+    contentItem: Item {
+        Icon {
+            id: symbol
+
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
+            name: tab.router.symbol
+            size: 16
+            color: tab.selected ? Theme.ink : Theme.muted
+        }
+        TextLabel {
+            anchors { left: symbol.right; leftMargin: Theme.space1; right: close.left; rightMargin: Theme.spaceHalf; verticalCenter: parent.verticalCenter }
+            text: tab.text
+            type: Theme.type.label
+            color: tab.selected ? Theme.ink : Theme.muted
+            Accessible.ignored: true
+        }
+        IconButton {
+            id: close
+
+            objectName: "close"
+            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+            visible: !tab.router.isPinned && (tab.selected || tab.roomy)
+            extent: 28
+            iconName: "xmark"
+            iconSize: 16
+            color: Theme.muted
+            text: qsTranslate("Loomstreet", "Close %1").arg(tab.text)
+            focusPolicy: Qt.NoFocus
+            showsToolTip: false
+            onClicked: tab.session.closeTab(tab.index)
+        }
+    }
+    background: Item {
+        Rectangle {
+            anchors { fill: parent; topMargin: Theme.layoutTabStrip - 34; bottomMargin: -Theme.radiusPanel }
+            radius: Theme.radiusPanel
+            color: tab.selected ? Theme.paper : tab.hovered ? Theme.hover : "transparent"
+            border { width: tab.selected && Theme.dark ? Theme.strokeHairline : 0; color: Theme.hairline }
+            visible: tab.selected || tab.hovered
+        }
+        Hairline {
+            anchors { right: parent.right; verticalCenter: parent.verticalCenter; verticalCenterOffset: 3 }
+            height: Theme.space2
+            visible: !tab.selected && tab.index + 1 !== tab.session.selectedIndex && tab.index + 1 < tab.session.tabs.count
+        }
+        FocusRing {
+            target: tab
+            anchors { fill: parent; margins: 4; topMargin: Theme.layoutTabStrip - 32 }
+        }
+    }
+    ToolTip {
+        visible: tab.hovered && !tab.roomy
+        text: tab.text
+    }
+    Menu {
+        id: menu
+
+        MenuItem {
+            objectName: "newTabToTheRight"
+            text: qsTranslate("Loomstreet", "New Tab to the Right")
+            onTriggered: tab.session.newTabToTheRight(tab.index)
+        }
+        MenuSeparator {}
+        MenuItem {
+            text: qsTranslate("Loomstreet", "Close Tab")
+            shortcut: "Ctrl W"
+            onTriggered: tab.session.closeTab(tab.index)
+        }
+        MenuItem {
+            text: qsTranslate("Loomstreet", "Close Other Tabs")
+            enabled: tab.session.tabs.count > 1
+            onTriggered: tab.session.closeOtherTabs(tab.index)
+        }
+    }
+}

@@ -1,0 +1,37 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Model
+
+// The pages of every tab of a window; those of the selected tab are shown.
+Item {
+    id: pages
+
+    required property AppModel app
+    required property WindowSession session
+
+    readonly property TabStack current: repeater.count > 0 ? repeater.itemAt(session.selectedIndex) as TabStack : null
+    readonly property bool settled: current?.settled ?? false
+
+    function takeFocus(): void {
+        if (current)
+            current.takeFocus()
+    }
+
+    clip: true
+
+    Repeater {
+        id: repeater
+
+        model: pages.session.tabs
+
+        TabStack {
+            required property int index
+
+            anchors.fill: parent
+            app: pages.app
+            session: pages.session
+            selected: pages.session.selectedIndex === index
+            visible: selected
+        }
+    }
+}

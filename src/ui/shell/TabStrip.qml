@@ -1,0 +1,99 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Loomstreet.Components
+import Loomstreet.Model
+import Loomstreet.Theme
+
+// The tabs of a window, which are also its title bar: where there is no tab, one can take hold of the window.
+Rectangle {
+    id: strip
+
+    required property WindowSession session
+    required property Window window
+    property bool ownFrame: true
+    property bool collapsed: false
+
+    readonly property int tabWidth: {
+        const room = width - row.x - newTab.width - (buttons.visible ? buttons.width + Theme.space1 : 0) - Theme.space6
+        return Math.max(96, Math.min(196, Math.floor(room / Math.max(1, session.tabs.count))))
+    }
+
+    implicitHeight: Theme.layoutTabStrip
+    color: Theme.frame
+
+    MouseArea {
+        anchors.fill: parent
+        enabled: strip.ownFrame
+        onPressed: strip.window.startSystemMove()
+        onDoubleClicked: strip.window.visibility === Window.Maximized ? strip.window.showNormal() : strip.window.showMaximized()
+    }
+    TextLabel {
+        id: wordmark
+
+        anchors { left: parent.left; leftMargin: 20; verticalCenter: parent.verticalCenter }
+        visible: !strip.collapsed
+        text: "LOOMSTREET"
+        type: Theme.type.wordmark
+    }
+    IconButton {
+        id: toggle
+
+        objectName: "sidebarToggle"
+        anchors {
+            right: parent.left
+            rightMargin: strip.collapsed ? -(Theme.layoutSidebarRail + width) / 2 : -Theme.layoutSidebarRegular + Theme.spaceHalf
+            verticalCenter: parent.verticalCenter
+        }
+        iconName: "sidebar"
+        text: strip.session.isSidebarCollapsed ? qsTranslate("Loomstreet", "Expand Sidebar") : qsTranslate("Loomstreet", "Collapse Sidebar")
+        shortcut: "Ctrl B"
+        onClicked: strip.session.isSidebarCollapsed = !strip.session.isSidebarCollapsed
+    }
+
+    ListView {
+        id: row
+
+        objectName: "tabs"
+        anchors {
+            left: parent.left
+            leftMargin: strip.collapsed ? Theme.layoutSidebarRail : Theme.layoutSidebarRegular
+            top: parent.top
+            bottom: parent.bottom
+        }
+        width: Math.min(contentWidth, strip.width - x - newTab.width - (buttons.visible ? buttons.width : 0) - Theme.space6)
+        orientation: ListView.Horizontal
+        interactive: contentWidth > width
+        boundsBehavior: Flickable.StopAtBounds
+        clip: interactive
+        currentIndex: strip.session.selectedIndex
+        highlightMoveDuration: Theme.durationTab
+        model: strip.session.tabs
+
+        Accessible.role: Accessible.PageTabList
+        Accessible.name: qsTranslate("Loomstreet", "Tabs")
+
+        delegate: TabItem {
+            width: strip.tabWidth
+            height: row.height
+            session: strip.session
+        }
+    }
+    IconButton {
+        id: newTab
+
+        objectName: "newTab"
+        anchors { left: row.right; leftMargin: Theme.space1; verticalCenter: parent.verticalCenter }
+        iconName: "plus"
+        iconSize: 16
+        text: qsTranslate("Loomstreet", "New Tab")
+        shortcut: "Ctrl T"
+        onClicked: strip.session.newTab()
+    }
+    WindowButtons {
+        id: buttons
+
+        anchors { right: parent.right; rightMargin: Theme.space1; verticalCenter: parent.verticalCenter }
+        visible: strip.ownFrame
+        window: strip.window
+    }
+}

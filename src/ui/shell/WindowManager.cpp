@@ -1,0 +1,114 @@
+#include "ui/shell/WindowManager.h"
+
+#include "app/AppModel.h"
+#include "app/SystemAppearance.h"
+#include "base/Log.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWindow>
+
+namespace loom
+{
+
+namespace
+{
+
+/// A window of the shell's QML module; null, with the reasons in the log, when it does not compile.
+QQuickWindow* createWindow(QQmlEngine& engine, const QString& type, const QVariantMap& properties)
+{
+    QQmlComponent component(&engine,
+                            QUrl(QStringLiteral("qrc:/qt/qml/Loomstreet/Shell/") + type + QStringLiteral(".qml")));
+    QObject* const object = component.isReady() ? component.createWithInitialProperties(properties) : nullptr;
+    auto* const window = qobject_cast<QQuickWindow*>(object);
+    if (!window) {
+        qCCritical(logApp) << component.errors();
+        delete object;
+    }
+    return window;
+}
+
+void bringForward(QWindow* window)
+{
+    if (window->windowState() == Qt::WindowMinimized)
+        window->showNormal();
+    window->show();
+    window->raise();
+    window->requestActivate();
+}
+
+} // namespace
+
+WindowManager::WindowManager(QQmlEngine& engine, AppModel& model, SystemAppearance& appearance, QObject* parent)
+    : QObject(parent)
+    , m_engine(engine)
+    , m_model(model)
+    , m_appearance(appearance)
+{
+}
+
+WindowManager::~WindowManager()
+{
+    delete m_settings;
+    qDeleteAll(m_windows);
+}
+
+QQuickWindow* WindowManager::create(const QString& type, QVariantMap properties)
+{
+    properties.insert(QStringLiteral("app"), QVariant::fromValue(&m_model));
+    properties.insert(QStringLiteral("systemAppearance"), QVariant::fromValue(&m_appearance));
+    return createWindow(m_engine, type, properties);
+}
+
+void WindowManager::show(WindowSession& session)
+{
+    QQuickWindow* const window =
+        create(QStringLiteral("MainWindow"), {{QStringLiteral("session"), QVariant::fromValue(&session)}});
+    if (!window)
+        return;
+    m_windows.insert(&session, window);
+    // The window goes before its session does: its pages hold on to the session's tabs.
+    connect(&session, &QObject::destroyed, window, [this, key = &session] { delete m_windows.take(key); });
+    bringForward(window);
+}
+
+void WindowManager::raise(WindowSession& session)
+{
+    if (QQuickWindow* const window = windowOf(session))
+        bringForward(window);
+}
+
+void WindowManager::showSettings()
+{
+    if (!m_settings)
+        m_settings = create(QStringLiteral("SettingsWindow"), {});
+    if (m_settings)
+        bringForward(m_settings);
+}
+
+bool WindowManager::hasVisibleWindow() const
+{
+    return std::ranges::any_of(m_windows, [](const auto& window) { return window && window->isVisible(); });
+}
+
+void WindowManager::applyWindowStyle()
+{
+    for (const auto& window : std::as_const(m_windows)) {
+        if (window)
+            QMetaObject::invokeMethod(window, "applyStyle");
+    }
+}
+
+QQuickWindow* WindowManager::windowOf(const WindowSession& session) const
+{
+    return m_windows.value(&session);
+}
+
+std::unique_ptr<QQuickWindow> WindowManager::showConfigurationMissing(QQmlEngine& engine, SystemAppearance& appearance)
+{
+    return std::unique_ptr<QQuickWindow>(
+        createWindow(engine, QStringLiteral("ConfigurationMissing"),
+                     {{QStringLiteral("systemAppearance"), QVariant::fromValue(&appearance)}}));
+}
+
+} // namespace loom

@@ -1,0 +1,59 @@
+#include "net/AppLanguage.h"
+
+using namespace loom;
+
+namespace
+{
+
+TEST(AppLanguage, TheSystemsSettingsChooseTheFirstLanguage)
+{
+    struct Row {
+        const char* language;
+        const char* script;
+        const char* region;
+        const char* code;
+    };
+    for (const Row& row : {
+             Row{"en", "", "US", "en"},
+             Row{"is", "Latn", "IS", "is"},
+             Row{"vi", "", "", "vi"},
+             Row{"fil", "", "PH", "fil"},
+             Row{"tl", "", "PH", "fil"},
+             Row{"no", "", "NO", "nb"},
+             Row{"nb", "", "NO", "nb"},
+             Row{"nn", "", "NO", "en"},
+             Row{"pt", "", "BR", "pt"},
+             Row{"zh", "Hant", "CN", "zh-Hant"},
+             Row{"zh", "Hans", "TW", "zh-Hans"},
+             Row{"zh", "", "HK", "zh-Hant"},
+             Row{"zh", "", "MO", "zh-Hant"},
+             Row{"zh", "", "TW", "zh-Hant"},
+             Row{"zh", "", "SG", "zh-Hans"},
+             Row{"zh", "", "", "zh-Hans"},
+             Row{"zh-Hant", "", "", "zh-Hant"},
+             Row{"ca", "", "ES", "en"},
+             Row{"C", "", "", "en"},
+             Row{"", "", "", "en"},
+         }) {
+        const AppLanguage language = appLanguageFor({.language = QLatin1String(row.language),
+                                                     .script = QLatin1String(row.script),
+                                                     .region = QLatin1String(row.region)});
+        EXPECT_EQ(appLanguageCode(language), QLatin1String(row.code)) << row.language << row.script << row.region;
+    }
+}
+
+TEST(AppLanguage, EveryCodeNamesItsLanguageAndNothingElseDoes)
+{
+    for (const auto& [language, code] :
+         {std::pair(AppLanguage::English, "en"), std::pair(AppLanguage::French, "fr"),
+          std::pair(AppLanguage::Icelandic, "is"), std::pair(AppLanguage::NorwegianBokmal, "nb"),
+          std::pair(AppLanguage::ZhHans, "zh-Hans"), std::pair(AppLanguage::ZhHant, "zh-Hant"),
+          std::pair(AppLanguage::Vietnamese, "vi")}) {
+        EXPECT_EQ(appLanguageCode(language), QLatin1String(code));
+        EXPECT_EQ(appLanguageFromCode(QLatin1String(code)), language);
+    }
+    for (const char* const code : {"", "EN", "zh", "zh-hans", "zh_Hans", "no", "en-US"})
+        EXPECT_EQ(appLanguageFromCode(QLatin1String(code)), std::nullopt) << code;
+}
+
+} // namespace

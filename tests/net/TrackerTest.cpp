@@ -1,0 +1,62 @@
+#include "net/Tracker.h"
+
+#include "net/WidgetClient.h"
+
+#include "support/NetworkFixture.h"
+
+using namespace loom;
+
+namespace
+{
+
+class TrackerTest : public NetworkFixture
+{
+protected:
+    TrackerTest() { signIn(); }
+
+    WidgetClient client{server.base(), QStringLiteral("key-1"), transport, session, random};
+    bool hasConsent = true;
+    int visitors = 0;
+    std::optional<Tracker> tracker{std::in_place, client, clock, [this] { return hasConsent; },
+                                   [this] {
+                                       return QStringLiteral("visitor-%1").arg(++visitors);
+                                   }};
+};
+
+TEST_F(TrackerTest, AReportNamesTheEventAndTheVisitorButNotTheCustomer)
+{
+    for (int i = 0; i < 3; ++i)
+        server.expect("POST /api/support/widget/track", Answer::body("", i == 0 ? 500 : 200));
+    tracker->report(Tracker::AppOpened{});
+    server.waitForRequests(1);
+    tracker->report(Tracker::ProductViewed{QStringLiteral("silk-dress")});
+    server.waitForRequests(2);
+    tracker->report(Tracker::CollectionViewed{QStringLiteral("new-in")});
+    server.waitForRequests(3);
+    const QString tail = QStringLiteral(R"("platform":"macos","publicKey":"key-1","visitorId":"visitor-%1"})");
+    EXPECT_EQ(server.requests().at(0).body,
+              R"({"at":"2025-03-09T08:07:06.000Z","event":"app_opened",)" + tail.arg(1).toUtf8());
+    EXPECT_EQ(server.requests().at(1).body,
+              R"({"at":"2025-03-09T08:07:06.000Z","event":"product_viewed","handle":"silk-dress",)" +
+                  tail.arg(2).toUtf8());
+    EXPECT_EQ(server.requests().at(2).body,
+              R"({"at":"2025-03-09T08:07:06.000Z","event":"collection_viewed","handle":"new-in",)" +
+                  tail.arg(3).toUtf8());
+    waitUntil([this] { return clock.sleepers() == 0; }, "the reports have ended");
+}
+
+TEST_F(TrackerTest, WithoutConsentNothingIsReportedAndNoVisitorIsMade)
+{
+    hasConsent = false;
+    tracker->report(Tracker::AppOpened{});
+    EXPECT_EQ(clock.sleepers(), 0);
+    EXPECT_EQ(visitors, 0);
+    hasConsent = true;
+    server.expect("POST /api/support/widget/track", Answer::silence());
+    tracker->report(Tracker::AppOpened{});
+    server.waitForRequests(1);
+    tracker.reset();
+    EXPECT_EQ(clock.sleepers(), 0);
+}
+
+} // namespace

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "base/Random.h"
+
+#include <QList>
+
+namespace loom
+{
+
+/// Gives the UUIDs it was told to give, then "00000000-0000-4000-8000-000000000001" and so on.
+class FakeRandom final : public Random
+{
+public:
+    void foretell(const QUuid& uuid) { m_foretold.append(uuid); }
+
+    [[nodiscard]] QUuid uuid() override
+    {
+        if (!m_foretold.isEmpty())
+            return m_foretold.takeFirst();
+        return QUuid(QStringLiteral("00000000-0000-4000-8000-%1").arg(++m_given, 12, 16, QLatin1Char('0')));
+    }
+
+private:
+    QList<QUuid> m_foretold;
+    int m_given = 0;
+};
+
+} // namespace loom

@@ -1,0 +1,48 @@
+#include "TestEngine.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QTimer>
+
+/// Shows the board of components, or writes it to a picture: see scripts/screenshot-board.
+int main(int argc, char** argv)
+{
+    const QGuiApplication application(argc, argv);
+    QCommandLineParser arguments;
+    arguments.addHelpOption();
+    arguments.addOptions({
+        {QStringLiteral("appearance"), QStringLiteral("light or dark"), QStringLiteral("name"),
+         QStringLiteral("light")},
+        {QStringLiteral("rtl"), QStringLiteral("Right to left, in Arabic")},
+        {QStringLiteral("text-scale"), QStringLiteral("1.0 to 2.0"), QStringLiteral("factor"), QStringLiteral("1")},
+        {QStringLiteral("page"), QStringLiteral("Which part of the board"), QStringLiteral("number"),
+         QStringLiteral("0")},
+        {QStringLiteral("width"), QStringLiteral("Of the board"), QStringLiteral("points"), QStringLiteral("1440")},
+        {QStringLiteral("output"), QStringLiteral("Write a picture there and end"), QStringLiteral("file")},
+    });
+    arguments.process(application);
+
+    QQmlApplicationEngine engine;
+    loom::prepareTestEngine(engine);
+    engine.setInitialProperties({
+        {QStringLiteral("appearance"), arguments.value(QStringLiteral("appearance"))},
+        {QStringLiteral("rightToLeft"), arguments.isSet(QStringLiteral("rtl"))},
+        {QStringLiteral("textScale"), arguments.value(QStringLiteral("text-scale")).toDouble()},
+        {QStringLiteral("page"), arguments.value(QStringLiteral("page")).toInt()},
+        {QStringLiteral("width"), arguments.value(QStringLiteral("width")).toInt()},
+    });
+    engine.load(QUrl::fromLocalFile(QStringLiteral(LOOM_BOARD_FILE)));
+    auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
+    if (!window)
+        return 1;
+
+    const QString output = arguments.value(QStringLiteral("output"));
+    if (!output.isEmpty()) {
+        // Pictures arrive and fade in meanwhile.
+        QTimer::singleShot(1200, window,
+                           [window, output] { QGuiApplication::exit(window->grabWindow().save(output) ? 0 : 1); });
+    }
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,123 @@
+import QtQuick
+import QtTest
+import Loomstreet.Components
+import Loomstreet.Testing
+import Loomstreet.Theme
+
+TestCase {
+    id: test
+
+    name: "Picture"
+    width: 600
+    height: 500
+    visible: true
+    when: windowShown
+
+    Component { id: picture; Picture { width: 184; height: implicitHeight } }
+
+    function asked(name) { return Pictures.requests().filter(address => address.indexOf("/" + name) > 0) }
+    function step(width) { return PictureAddress.widthStep(width * Screen.devicePixelRatio) }
+
+    function init() { Pictures.forget() }
+    function cleanup() { Theme.appearance = "system" }
+
+    function test_itAsksForASharpPictureOfItsWidthAndFadesItIn() {
+        const item = createTemporaryObject(picture, test, { address: "https://pictures.test/asked?v=1" })
+        verify(item.loading && findChild(item, "ground").color === Theme.skeleton)
+        tryCompare(item, "ready", true)
+        compare(asked("asked"), ["https://pictures.test/asked?v=1&width=" + step(184)])
+        compare(findChild(item, "image").implicitWidth, step(184), "every pixel of it is used")
+        tryCompare(findChild(item, "image"), "opacity", 1)
+        verify(!findChild(item, "ground").visible)
+        compare(item.height, Math.round(184 * 4 / 3))
+    }
+
+    function test_whatIsNotAHttpsAddressIsNeverLoaded_data() {
+        return ["", "http://pictures.test/a", "file:///etc/hostname", "image://icon/house/000000",
+                "data:image/png;base64,AA", "relative.png"].map(address => ({ tag: address, address: address }))
+    }
+    function test_whatIsNotAHttpsAddressIsNeverLoaded(row) {
+        const item = createTemporaryObject(picture, test, { address: row.address })
+        verify(item.missing && !item.loading && !item.broken)
+        compare(findChild(item, "image").source, "")
+        compare(findChild(item, "instead").name, "hanger")
+        compare(item.height, Math.round(184 * 4 / 3), "its frame stays")
+    }
+
+    function test_aBrokenPictureIsQuietAndLoadsAgainWhenAskedTo() {
+        ignoreWarning(/Not found/)
+        const item = createTemporaryObject(picture, test, { address: "https://pictures.test/x/broken" })
+        tryCompare(item, "broken", true)
+        verify(findChild(item, "instead").visible)
+        compare(findChild(item, "ground").color, Theme.sunken)
+        Pictures.mend()
+        PictureAddress.retryBroken()
+        tryCompare(item, "ready", true)
+        verify(!findChild(item, "instead").visible)
+    }
+
+    function test_wideningKeepsThePictureOnScreenUntilTheSharperOneHasCome() {
+        const item = createTemporaryObject(picture, test, { address: "https://pictures.test/grows" })
+        tryCompare(item, "ready", true)
+        tryCompare(findChild(item, "image"), "opacity", 1)
+
+        item.width = 190
+        compare(asked("grows").length, 1, "the same step is not asked for again")
+        item.width = 400
+        verify(item.ready, "the picture stays")
+        tryVerify(() => asked("grows").length === 2)
+        compare(asked("grows")[1], "https://pictures.test/grows?width=" + step(400))
+        tryCompare(findChild(item, "image"), "shownWidth", step(400))
+        verify(item.ready)
+        compare(findChild(item, "image").opacity, 1, "and nothing flickers")
+
+        item.width = 184
+        wait(30)
+        compare(asked("grows").length, 2, "a smaller one is never asked for")
+    }
+
+    function test_anotherAddressNeverShowsTheOldPicture() {
+        const item = createTemporaryObject(picture, test, { address: "https://pictures.test/one" })
+        tryCompare(item, "ready", true)
+        item.address = "https://pictures.test/two/late"
+        verify(!item.ready && item.loading)
+        verify(findChild(item, "ground").visible)
+        Pictures.release()
+        tryCompare(item, "ready", true)
+        item.address = ""
+        verify(item.missing && !item.ready)
+    }
+
+    function test_soldOutAndDarkAreQuieterAndNothingElseIs() {
+        const item = createTemporaryObject(picture, test, { address: "https://pictures.test/dim", soldOut: true })
+        tryCompare(item, "ready", true)
+        tryVerify(() => Math.abs(findChild(item, "image").opacity - 0.62) < 0.001)
+        verify(!findChild(item, "dim").visible)
+        Theme.appearance = "dark"
+        verify(findChild(item, "dim").visible)
+        fuzzyCompare(findChild(item, "dim").opacity, 0.07, 0.001)
+    }
+
+    Component {
+        id: mirrored
+
+        Item {
+            width: 400
+            height: 400
+            LayoutMirroring.enabled: true
+            LayoutMirroring.childrenInherit: true
+
+            Picture { objectName: "picture"; width: 184; height: implicitHeight; address: "https://pictures.test/rtl" }
+            Icon { objectName: "chevron"; name: "chevron.left" }
+            Icon { objectName: "clock"; name: "clock" }
+        }
+    }
+    function test_picturesAndClocksNeverTurnAroundAndChevronsDo() {
+        const scene = createTemporaryObject(mirrored, test)
+        const item = findChild(scene, "picture")
+        tryCompare(item, "ready", true)
+        verify(!findChild(item, "image").mirror)
+        verify(findChild(scene, "chevron").mirror)
+        verify(!findChild(scene, "clock").mirror)
+    }
+}

@@ -1,0 +1,125 @@
+#include "ui/theme/Fonts.h"
+
+#include <QFile>
+#include <QFont>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRawFont>
+#include <QTextLayout>
+#include <gtest/gtest.h>
+
+namespace loom
+{
+
+namespace
+{
+
+const QString figures = QStringLiteral("Loomstreet Figures");
+const QString display = QStringLiteral("Loomstreet Display");
+
+QFont font(const QString& family, int size, int weight)
+{
+    QFont font(family);
+    font.setPixelSize(size);
+    font.setWeight(QFont::Weight(weight));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+/// The families that draw a text, in the order of their runs.
+QStringList familiesOf(const QString& text, const QFont& font)
+{
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    layout.createLine().setLineWidth(1000);
+    layout.endLayout();
+    QStringList families;
+    for (const QGlyphRun& run : layout.glyphRuns())
+        families.append(run.rawFont().familyName());
+    families.removeDuplicates();
+    families.sort();
+    return families;
+}
+
+class FontsTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { registerFonts(); }
+};
+
+TEST_F(FontsTest, FiguresAreEquallyWideInEveryWeightAndPunctuationStaysTheirs)
+{
+    for (const int weight : {400, 500, 600}) {
+        const QFont used = font(figures, 28, weight);
+        EXPECT_EQ(QFontInfo(used).family(), figures);
+        const QFontMetricsF metrics(used);
+        for (const QChar digit : QStringLiteral("0123456789"))
+            EXPECT_DOUBLE_EQ(metrics.horizontalAdvance(digit), metrics.horizontalAdvance(u'0'))
+                << weight << " " << digit.toLatin1();
+        EXPECT_EQ(familiesOf(QStringLiteral("$1,248.00 – 50 % ½ €"), used), QStringList{figures});
+    }
+    EXPECT_NE(QRawFont::fromFont(font(figures, 28, 400)).styleName(),
+              QRawFont::fromFont(font(figures, 28, 600)).styleName());
+}
+
+TEST_F(FontsTest, LettersBesideFiguresAreIntersAndArabicAndHanHaveTheirOwn)
+{
+    const QFont used = font(figures, 14, 400);
+    EXPECT_EQ(familiesOf(QStringLiteral("128 pieces"), used), (QStringList{QStringLiteral("Inter"), figures}));
+    EXPECT_EQ(familiesOf(QString::fromUtf8("فستان"), used), QStringList{QStringLiteral("Noto Sans Arabic")});
+    EXPECT_EQ(familiesOf(QString::fromUtf8("فستان"), font(display, 40, 400)),
+              QStringList{QStringLiteral("Noto Naskh Arabic")});
+    EXPECT_EQ(familiesOf(QString::fromUtf8("東京"), used), QStringList{QStringLiteral("Noto Sans CJK SC")});
+}
+
+TEST_F(FontsTest, FiguresInTitlesStandOnTheLine)
+{
+    const QRawFont raw = QRawFont::fromFont(font(display, 100, 400));
+    EXPECT_EQ(raw.familyName(), display);
+    const double capital = -raw.boundingRect(raw.glyphIndexesForString(QStringLiteral("H")).first()).top();
+    for (const QChar digit : QStringLiteral("0123456789")) {
+        const QRectF box = raw.boundingRect(raw.glyphIndexesForString(QString(digit)).first());
+        EXPECT_NEAR(-box.top(), capital, 8) << digit.toLatin1();
+        EXPECT_LT(box.bottom(), 8) << digit.toLatin1();
+    }
+}
+
+TEST_F(FontsTest, WhatStandsInIsWhatTheTableNames)
+{
+    QFile file(QStringLiteral(LOOM_TOKENS_FILE));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject fonts = QJsonDocument::fromJson(file.readAll())[u"font"].toObject();
+    const auto fallback = [&fonts](const char* face) {
+        return fonts[QLatin1String(face)][u"fallback"].toVariant().toStringList();
+    };
+    const auto named = [](const QStringList& families) {
+        return families.join(u',').toLower().toStdString();
+    };
+    const QString inter = fonts[u"text"][u"family"].toString();
+    EXPECT_EQ(named(QFont::substitutes(inter)), named(fallback("text")));
+    EXPECT_EQ(named(QFont::substitutes(figures)), named(QStringList{inter} + fallback("text")));
+    EXPECT_EQ(named(QFont::substitutes(display)),
+              named(QStringList{fonts[u"display"][u"family"].toString()} + fallback("display")));
+}
+
+/// TypeScale.qml lays lines out by these numbers.
+TEST_F(FontsTest, TheMeasuresThatLinesAreLaidOutByAreTheFontsOwn)
+{
+    struct Row {
+        const char* family;
+        double ascent;
+    };
+    for (const Row& row : {Row{"Loomstreet Display", 0.726}, Row{"Noto Naskh Arabic", 1.069},
+                           Row{"Noto Serif CJK SC", 1.151}, Row{"Inter", 0.96875}, Row{"Loomstreet Figures", 0.96875},
+                           Row{"Noto Sans Arabic", 1.374}, Row{"Noto Sans CJK SC", 1.16}})
+        EXPECT_NEAR(QFontMetricsF(font(QLatin1String(row.family), 100, 400)).ascent() / 100, row.ascent, 0.006)
+            << row.family;
+}
+
+} // namespace
+
+} // namespace loom
