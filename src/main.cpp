@@ -1,7 +1,6 @@
 #include "app/AppLifecycle.h"
 #include "app/AppModel.h"
 #include "base/FeatureGates.h"
-#include "base/Log.h"
 #include "base/Random.h"
 #include "base/SystemClock.h"
 #include "platform/DesktopAppearance.h"
@@ -9,7 +8,7 @@
 #include "platform/SingleInstance.h"
 #include "platform/SystemLocaleReading.h"
 #include "platform/SystemNetworkStatus.h"
-#include "ui/components/ImageProviders.h"
+#include "ui/shell/ApplicationSetup.h"
 #include "ui/shell/EventLoopProbe.h"
 #include "ui/shell/PictureLoading.h"
 #include "ui/shell/StartReport.h"
@@ -19,7 +18,6 @@
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QQmlEngine>
-#include <QQuickStyle>
 #include <QQuickWindow>
 #include <QStandardPaths>
 
@@ -40,30 +38,6 @@ QString pictureCacheFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
            QStringLiteral("/LOOMSTREET/pictures");
-}
-
-void prepareApplication()
-{
-    installRedactingLog();
-    // The web engine, which comes in only with the first web page, needs both from the start.
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
-    QQuickStyle::setStyle(QStringLiteral("Basic"));
-    QGuiApplication::setApplicationName(QStringLiteral("LOOMSTREET"));
-    QGuiApplication::setApplicationVersion(QStringLiteral(LOOM_VERSION));
-    QGuiApplication::setDesktopFileName(applicationID);
-    // Quitting is for the shopper to ask for.
-    QGuiApplication::setQuitOnLastWindowClosed(AppLifecycle::shouldTerminateAfterLastWindowClosed());
-}
-
-void prepareEngine(QQmlEngine& engine, PictureLoading& pictures)
-{
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
-    engine.setNetworkAccessManagerFactory(&pictures);
-    addImageProviders(engine);
-    QObject::connect(&engine, &QQmlEngine::quit, QCoreApplication::instance(), &QCoreApplication::quit);
 }
 
 int runShop(const AppConfig& config, const LaunchOptions& options, QQmlEngine& engine, SystemAppearance& appearance)
@@ -119,7 +93,7 @@ int runShop(const AppConfig& config, const LaunchOptions& options, QQmlEngine& e
 
 int main(int argc, char* argv[])
 {
-    prepareApplication();
+    prepareApplication(applicationID);
     QGuiApplication application(argc, argv);
     const LaunchOptions options = readLaunchOptions(QCoreApplication::arguments());
     if (!options.authorityFile.isEmpty() && !addCertificateAuthority(options.authorityFile))

@@ -30,9 +30,9 @@ FocusScope {
 
         Item {
             anchors.horizontalCenter: parent.horizontalCenter
-            implicitWidth: Math.max(disc.visible ? disc.width : 0, small.width)
-            implicitHeight: Math.max(disc.visible ? disc.height : 0, small.height) + Theme.space1
-            visible: disc.visible || empty.pictures.length > 0
+            implicitWidth: empty.pictures.length > 0 ? small.width : disc.width
+            implicitHeight: (empty.pictures.length > 0 ? small.height : disc.height) + Theme.space1
+            visible: empty.iconName !== "" || empty.pictures.length > 0
 
             IconDisc {
                 id: disc

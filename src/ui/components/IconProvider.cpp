@@ -13,7 +13,7 @@ namespace
 
 constexpr int gridSize = 20;
 // A window shows some fifty icons in two or three colours; at 20 pixels each takes 1.6 KB.
-constexpr qsizetype cacheBytes = 512 * 1024;
+constexpr qsizetype cacheBytes = qsizetype{512} * 1024;
 
 } // namespace
 

@@ -8,8 +8,23 @@ T.Menu {
 
     property Item cameFrom: null
 
+    function align(): void {
+        const rows = []
+        for (let i = 0; i < count; ++i) {
+            const row = itemAt(i) as MenuItem
+            if (row !== null)
+                rows.push(row)
+        }
+        const indented = rows.some(row => row.leads)
+        for (const row of rows)
+            row.indented = indented
+    }
+
     // A window alone does not remember who had the focus before a menu. Whoever took it meanwhile keeps it.
-    onAboutToShow: cameFrom = parent ? parent.Window.activeFocusItem : null
+    onAboutToShow: {
+        cameFrom = parent ? parent.Window.activeFocusItem : null
+        align()
+    }
     onClosed: {
         const holder = parent ? parent.Window.activeFocusItem : null
         if (cameFrom !== null && cameFrom.visible && (holder === null || holder === parent.Window.contentItem))

@@ -10,7 +10,9 @@ T.MenuItem {
     // The keys in words. An action's own are shown unless others are given.
     property string shortcut: action && typeof action.shortcut === "string" ? action.shortcut.replace(/\+/g, " ") : ""
 
+    // Whether it has something before its words, and whether any row of its menu has: words begin below each other.
     readonly property bool leads: checkable || iconName !== ""
+    property bool indented: leads
 
     function press(): void {
         if (!enabled)
@@ -33,7 +35,7 @@ T.MenuItem {
     opacity: enabled ? 1 : Theme.alphaDisabled
 
     contentItem: Item {
-        implicitWidth: (item.leads ? 16 + item.spacing : 0) + label.implicitWidth
+        implicitWidth: (item.indented ? 16 + item.spacing : 0) + label.implicitWidth
                        + (keys.visible ? keys.implicitWidth + 2 * item.spacing : 0)
                        + (item.subMenu ? 16 + item.spacing : 0)
         implicitHeight: label.implicitHeight
@@ -42,7 +44,7 @@ T.MenuItem {
             id: label
 
             anchors.left: parent.left
-            anchors.leftMargin: item.leads ? 16 + item.spacing : 0
+            anchors.leftMargin: item.indented ? 16 + item.spacing : 0
             anchors.right: keys.visible ? keys.left : parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: item.text

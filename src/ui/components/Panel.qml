@@ -29,6 +29,7 @@ ModalScope {
         Elevation {
             z: -1
             anchors.fill: parent
+            anchors.bottomMargin: -blur // it does not end before the window does
             style: Theme.shadowPanel
             radius: 0
         }

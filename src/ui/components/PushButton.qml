@@ -12,8 +12,6 @@ Pressable {
     // Where what it opens is already open, as with the stylist.
     property bool on: false
 
-    locked: busy
-
     readonly property bool filled: kind === "primary"
     readonly property color ink: filled ? Theme.primaryInk : on ? Theme.accent : Theme.ink
     readonly property color fill: {
@@ -23,9 +21,10 @@ Pressable {
             return Theme.pressed
         if (hovered && !busy)
             return Theme.hover
-        return on ? Theme.accentTint : "transparent"
+        return on ? Theme.accentTint : Qt.alpha(Theme.hover, 0)
     }
 
+    locked: busy
     horizontalPadding: size === "primary" ? Theme.space3 : size === "small" ? Theme.space1_5 : Theme.space2
     verticalPadding: Theme.spaceHalf
 
@@ -39,7 +38,7 @@ Pressable {
     }
     background: Rectangle {
         implicitHeight: control.size === "primary" ? Theme.targetPrimary
-                                                   : control.size === "small" ? Theme.targetMinimum : Theme.targetControl
+                      : control.size === "small" ? Theme.targetMinimum : Theme.targetControl
         radius: Theme.radiusControl
         color: control.fill
         border.width: control.kind === "secondary" ? Theme.strokeControl : 0

@@ -38,6 +38,7 @@ Column {
         }
         StarRating {
             objectName: "rating"
+            anchors.left: parent.left
             visible: (box.reviews.rating ?? 0) > 0
             value: box.reviews.rating ?? 0
             note: {
@@ -50,6 +51,7 @@ Column {
     }
     PriceLabel {
         objectName: "price"
+        anchors.left: parent.left
         price: box.product.price
         formerPrice: box.product.formerPrice
         type: Theme.type.priceLarge
@@ -65,17 +67,18 @@ Column {
         divided: false
     }
 
+    // By number: rows stay while what is chosen in them changes.
     Repeater {
-        model: box.product.options
+        model: box.product.options.length
 
         OptionRow {
-            required property var modelData
+            required property int index
 
             width: box.width
-            group: modelData
-            hint: modelData.isSwatch || box.product.sizeHint === "" || modelData.name.toLowerCase() !== "size" ? ""
+            group: box.product.options[index]
+            hint: isSwatch || box.product.sizeHint === "" || group?.name.toLowerCase() !== "size" ? ""
                   : qsTranslate("Loomstreet", "Most chosen: %1").arg(box.product.sizeHint)
-            onChosen: value => box.product.choose(modelData.name, value)
+            onChosen: value => box.product.choose(group.name, value)
         }
     }
     TextLabel {

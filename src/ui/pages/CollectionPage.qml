@@ -11,7 +11,7 @@ PageBase {
     readonly property CollectionModel collection: context.model
     readonly property int phase: collection ? collection.phase : CollectionModel.Idle
 
-    title: collection ? collection.title : ""
+    title: phase === CollectionModel.Missing ? qsTranslate("Loomstreet", "Not available") : collection?.title ?? ""
     settled: grid.settled || (phase !== CollectionModel.Loading && phase !== CollectionModel.Idle
                               && phase !== CollectionModel.Loaded)
     scrollY: grid.scrollY
@@ -27,6 +27,9 @@ PageBase {
         id: strip
 
         objectName: "strip"
+        offline: page.collection?.isOffline ?? false
+        canRetry: true
+        onRetry: page.collection.reload()
         width: parent.width
         visible: page.phase === CollectionModel.Loaded && page.collection.errorText !== ""
         text: page.collection ? page.collection.errorText : ""

@@ -32,22 +32,19 @@ Item {
     onShownChanged: if (!shown) late.elapsed = false
 
     TextLabel {
-        x: skeleton.LayoutMirroring.enabled ? parent.width - width - skeleton.padding : skeleton.padding
-        y: Theme.space3
+        anchors { left: parent.left; leftMargin: skeleton.padding; top: parent.top; topMargin: Theme.space3 }
         visible: text !== ""
         text: skeleton.title
         type: skeleton.narrow ? Theme.type.heading : Theme.type.title
     }
     Skeleton {
-        x: skeleton.padding
-        y: Theme.space3
+        anchors { left: parent.left; leftMargin: skeleton.padding; top: parent.top; topMargin: Theme.space3 }
         width: 240
         height: 40
         visible: skeleton.title === ""
     }
     Grid {
-        x: skeleton.padding
-        y: Theme.space6 + Theme.type.title.line
+        anchors { left: parent.left; leftMargin: skeleton.padding; top: parent.top; topMargin: Theme.space6 + Theme.type.title.line }
         columns: skeleton.columns
         columnSpacing: Theme.cardGapX
         rowSpacing: Theme.cardGapY

@@ -28,6 +28,9 @@ PageBase {
         id: strip
 
         objectName: "strip"
+        offline: page.app.session.isOffline
+        canRetry: true
+        onRetry: page.reload()
         width: parent.width
         visible: !page.failed && text !== ""
         text: page.collections ? page.collections.errorText : ""

@@ -10,60 +10,66 @@ Column {
     property var group // name, selected, isSwatch, choices
     property string hint
 
+    readonly property bool isSwatch: group?.isSwatch ?? false
+    readonly property var choices: group?.choices ?? []
+
     signal chosen(string value)
 
     spacing: Theme.space1
 
     Row {
+        anchors.left: parent.left
         spacing: Theme.space1
 
         TextLabel {
-            text: row.group.name
+            text: row.group?.name ?? ""
             type: Theme.type.label
         }
         TextLabel {
             objectName: "selected"
             visible: text !== ""
-            text: row.group.isSwatch ? row.group.selected : row.hint
+            text: row.isSwatch ? row.group?.selected ?? "" : row.hint
             type: Theme.type.small
             color: Theme.muted
         }
     }
     Flow {
         width: parent.width
-        spacing: row.group.isSwatch ? Theme.space1_5 : Theme.space1
+        spacing: row.isSwatch ? Theme.space1_5 : Theme.space1
 
+        // By number: a choice keeps its button, and with it the focus, while what is chosen changes.
         Repeater {
-            model: row.group.choices
+            model: row.choices.length
 
             Item {
                 id: choice
 
-                required property var modelData
+                required property int index
+                readonly property var value: row.choices[index] ?? ({ text: "", picture: "", isSelected: false, isAvailable: true })
 
-                implicitWidth: row.group.isSwatch ? swatch.implicitWidth : size.implicitWidth
-                implicitHeight: row.group.isSwatch ? swatch.implicitHeight : size.implicitHeight
+                implicitWidth: row.isSwatch ? swatch.implicitWidth : size.implicitWidth
+                implicitHeight: row.isSwatch ? swatch.implicitHeight : size.implicitHeight
 
                 Swatch {
                     id: swatch
 
-                    objectName: "swatch." + choice.modelData.text
-                    visible: row.group.isSwatch
-                    label: choice.modelData.text
-                    picture: choice.modelData.picture
-                    selected: choice.modelData.isSelected
-                    soldOut: !choice.modelData.isAvailable
-                    onClicked: row.chosen(choice.modelData.text)
+                    objectName: "swatch." + choice.value.text
+                    visible: row.isSwatch
+                    label: choice.value.text
+                    picture: choice.value.picture
+                    selected: choice.value.isSelected
+                    soldOut: !choice.value.isAvailable
+                    onClicked: row.chosen(choice.value.text)
                 }
                 SizeButton {
                     id: size
 
-                    objectName: "size." + choice.modelData.text
-                    visible: !row.group.isSwatch
-                    text: choice.modelData.text
-                    selected: choice.modelData.isSelected
-                    soldOut: !choice.modelData.isAvailable
-                    onClicked: row.chosen(choice.modelData.text)
+                    objectName: "size." + choice.value.text
+                    visible: !row.isSwatch
+                    text: choice.value.text
+                    selected: choice.value.isSelected
+                    soldOut: !choice.value.isAvailable
+                    onClicked: row.chosen(choice.value.text)
                 }
             }
         }

@@ -16,7 +16,7 @@ FocusScope {
     readonly property int perView: pictures.length > 1 && !narrow && main.width >= 520 ? 2 : 1
     readonly property int thumbWidth: 64
     readonly property real pictureWidth: (main.width - (perView - 1) * Theme.space1_5) / perView
-    readonly property bool settled: main.decoded > 0
+    readonly property bool settled: pictures.length === 0 || main.decoded >= Math.min(pictures.length, perView)
 
     signal enlarged(int index)
 
@@ -25,6 +25,7 @@ FocusScope {
             main.currentIndex = index
     }
 
+    objectName: "gallery"
     implicitHeight: Math.round(pictureWidth / Theme.cardPictureRatio)
     activeFocusOnTab: true
 
@@ -49,8 +50,8 @@ FocusScope {
         id: thumbs
 
         objectName: "thumbs"
+        anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
         width: gallery.thumbWidth
-        height: parent.height
         visible: gallery.pictures.length > 1 && !gallery.narrow
         spacing: Theme.space1
         clip: true
@@ -122,7 +123,7 @@ FocusScope {
             height: main.height
             address: modelData
             description: qsTranslate("Loomstreet", "%1, picture %2").arg(gallery.product.title).arg(index + 1)
-            onDecodedNowChanged: if (decodedNow) ++main.decoded
+            onDecodedNowChanged: if (decodedNow && index < gallery.perView) ++main.decoded
 
             TapHandler {
                 onTapped: {

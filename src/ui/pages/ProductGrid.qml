@@ -16,7 +16,8 @@ GridView {
     readonly property real cardWidth: Math.floor((room + Theme.cardGapX) / columns) - Theme.cardGapX
     // Pictures of the first cards that have been decoded.
     property int decoded: 0
-    readonly property bool settled: count > 0 && decoded >= Math.min(count, 8)
+    readonly property int firstCards: 8
+    readonly property bool settled: count > 0 && decoded >= Math.min(count, firstCards)
 
     signal opened(string handle, var item, int modifiers)
     signal nearEnd()
@@ -121,7 +122,12 @@ GridView {
             grid.currentIndex = card.index
             grid.opened(handle, item, modifiers)
         }
-        onPictureSettledChanged: if (pictureSettled) ++grid.decoded
-        Component.onCompleted: if (pictureSettled) ++grid.decoded
+        onPictureSettledChanged: noteSettled()
+        Component.onCompleted: noteSettled()
+
+        function noteSettled(): void {
+            if (pictureSettled && index < grid.firstCards)
+                ++grid.decoded
+        }
     }
 }

@@ -15,7 +15,7 @@ PageBase {
     readonly property bool hasContent: product ? product.title !== "" && phase !== ProductModel.Missing : false
     readonly property int gap: narrow ? Theme.layoutPagePaddingNarrow : Theme.layoutPagePaddingBesidePane
 
-    title: product ? product.title : ""
+    title: phase === ProductModel.Missing ? qsTranslate("Loomstreet", "Not available") : product?.title ?? ""
     settled: gallery.settled || phase === ProductModel.Missing || phase === ProductModel.Failed
     scrollY: left.contentY
 
@@ -30,6 +30,9 @@ PageBase {
         id: strip
 
         objectName: "strip"
+        offline: page.product?.isOffline ?? false
+        canRetry: true
+        onRetry: page.product.reload()
         width: parent.width
         visible: page.hasContent && page.product.errorText !== ""
         text: page.product ? page.product.errorText : ""

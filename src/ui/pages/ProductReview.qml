@@ -21,6 +21,7 @@ Column {
         Row {
             id: who
 
+            anchors.left: parent.left
             width: parent.width - date.width - Theme.space1
             spacing: Theme.space1
             clip: true
@@ -58,6 +59,7 @@ Column {
         wrapMode: Text.Wrap
     }
     ReviewPictures {
+        anchors.left: parent.left
         pictures: entry.review.images ?? []
         onOpened: index => entry.pictureOpened(entry.review.images, index)
     }
@@ -72,6 +74,7 @@ Column {
         wrapMode: Text.Wrap
     }
     ReviewPictures {
+        anchors.left: parent.left
         pictures: entry.review.appendImages ?? []
         onOpened: index => entry.pictureOpened(entry.review.appendImages, index)
     }

@@ -25,15 +25,16 @@ Item {
     }
     onShownChanged: if (!shown) late.elapsed = false
 
-    Item {
+    Row {
         id: pictures
 
-        x: skeleton.padding
-        y: Theme.space2
-        width: (skeleton.narrow ? skeleton.width : skeleton.width - Theme.layoutBuyBox - skeleton.padding) - 2 * skeleton.padding
+        readonly property int room: (skeleton.narrow ? skeleton.width : skeleton.width - Theme.layoutBuyBox - skeleton.padding) - 2 * skeleton.padding
+        readonly property int large: skeleton.narrow ? room : (room - 64 - 2 * Theme.space1_5) / 2
+
+        anchors { left: parent.left; leftMargin: skeleton.padding; top: parent.top; topMargin: Theme.space2 }
+        spacing: Theme.space1_5
 
         Skeleton {
-            x: 0
             width: 64
             height: 86
             visible: !skeleton.narrow
@@ -42,29 +43,26 @@ Item {
             model: skeleton.narrow ? 1 : 2
 
             Skeleton {
-                required property int index
-                readonly property real room: pictures.width - (skeleton.narrow ? 0 : 64 + Theme.space1_5)
-
-                x: skeleton.narrow ? 0 : 64 + Theme.space1_5 + index * (width + Theme.space1_5)
-                width: skeleton.narrow ? room : (room - Theme.space1_5) / 2
+                width: pictures.large
                 height: width / Theme.cardPictureRatio
             }
         }
     }
     Column {
-        x: skeleton.width - Theme.layoutBuyBox
-        y: Theme.space2
+        anchors { right: parent.right; rightMargin: skeleton.padding; top: parent.top; topMargin: Theme.space2 }
+        width: Theme.layoutBuyBox - Theme.space2
         visible: !skeleton.narrow
         spacing: Theme.space2
 
         Repeater {
-            model: [{ w: 120, h: 16 }, { w: 300, h: 36 }, { w: 160, h: 20 }, { w: 100, h: 26 }, { w: 220, h: 48 }, { w: 340, h: 40 }, { w: 360, h: 200 }]
+            model: [[120, 16], [300, 36], [160, 20], [100, 26], [220, 48], [340, 40], [360, 200]]
 
             Skeleton {
                 required property var modelData
 
-                width: modelData.w
-                height: modelData.h
+                anchors.left: parent?.left
+                width: modelData[0]
+                height: modelData[1]
             }
         }
     }

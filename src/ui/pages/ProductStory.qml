@@ -69,7 +69,7 @@ Column {
             model: story.product.specs
 
             Row {
-                id: spec
+                id: fact
 
                 required property var modelData
 
@@ -77,12 +77,12 @@ Column {
                 spacing: Theme.space2
 
                 Paragraph {
-                    width: Math.round(spec.width * 0.36)
-                    text: spec.modelData.key
+                    width: Math.round(fact.width * 0.36)
+                    text: fact.modelData.key
                 }
                 Paragraph {
-                    width: spec.width - Math.round(spec.width * 0.36) - spec.spacing
-                    text: spec.modelData.value
+                    width: fact.width - Math.round(fact.width * 0.36) - fact.spacing
+                    text: fact.modelData.value
                     color: Theme.ink
                 }
             }

@@ -16,7 +16,7 @@ FocusScope {
     property bool tabSelected: false
     property bool near: true
 
-    readonly property var entry: router.page(depth)
+    readonly property var entry: router ? router.page(depth) : null // the router may go first
     readonly property bool shown: isOnTop && tabSelected
     readonly property PageBase page: loader.item as PageBase
     readonly property bool settled: page?.settled ?? false

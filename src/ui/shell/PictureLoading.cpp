@@ -27,6 +27,8 @@ protected:
         request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::PreferCache);
         request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
         request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+        // Qt 6.4 loses requests on a shared HTTP/2 connection when others on it are given up, as scrolling does.
+        request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
         request.setTransferTimeout(static_cast<int>(std::chrono::milliseconds(silence).count()));
         return QNetworkAccessManager::createRequest(operation, request, data);
     }

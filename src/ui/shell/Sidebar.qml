@@ -28,7 +28,9 @@ Rectangle {
         currentIndex: sidebar.session.selected ? sidebar.session.selected.selection : 0
         highlightMoveDuration: 0
         model: SidebarModel {}
-        ScrollBar.vertical: ScrollBar { visible: list.contentHeight > list.height }
+        ScrollBar.vertical: ScrollBar { visible: list.contentHeight > list.height && (pointer.hovered || list.moving) }
+
+        HoverHandler { id: pointer }
 
         Accessible.role: Accessible.List
         Accessible.name: qsTranslate("Loomstreet", "Sections")

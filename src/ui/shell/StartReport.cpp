@@ -1,33 +1,33 @@
 #include "ui/shell/StartReport.h"
 
 #include "base/Log.h"
+#include "base/ProcessAge.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QImage>
 #include <QQuickWindow>
+#include <QTimer>
 #include <QVariant>
 
-#include <ctime>
-#include <unistd.h>
+#include <chrono>
 
 namespace loom
 {
 
-qint64 millisecondsSinceStart()
+namespace
 {
-    // The kernel counts a process's start in clock ticks since boot: field 22 of /proc/self/stat, see proc(5). The
-    // second field may hold blanks, and ends with the last parenthesis.
-    QFile file(QStringLiteral("/proc/self/stat"));
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    const QByteArray line = file.readAll();
-    const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-    timespec now{};
-    clock_gettime(CLOCK_BOOTTIME, &now);
-    const qint64 started = fields.value(19).toLongLong() * 1000 / sysconf(_SC_CLK_TCK);
-    return now.tv_sec * 1000 + now.tv_nsec / 1000000 - started;
+
+constexpr std::chrono::milliseconds fading{1200};
+
+/// Whether the browser engine is part of this process.
+bool isWebEngineMapped()
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("WebEngineCore");
 }
+
+} // namespace
 
 void writeReport(const QString& name, const QString& text)
 {
@@ -54,7 +54,7 @@ void StartReport::watch(QQuickWindow* window)
 void StartReport::look()
 {
     if (m_firstFrame < 0)
-        m_firstFrame = millisecondsSinceStart();
+        m_firstFrame = processAge().count();
     if (m_settled >= 0 || !m_window->property("settled").toBool()) {
         m_window->update();
         return;
@@ -69,14 +69,23 @@ void StartReport::look()
 void StartReport::finish()
 {
     disconnect(m_window, &QQuickWindow::frameSwapped, this, &StartReport::finish);
-    m_settled = millisecondsSinceStart();
+    m_settled = processAge().count();
     if (!m_reportFile.isEmpty()) {
-        writeReport(m_reportFile,
-                    QStringLiteral("{\"firstFrame\": %1, \"settled\": %2}\n").arg(m_firstFrame).arg(m_settled));
+        writeReport(m_reportFile, QStringLiteral("{\"firstFrame\": %1, \"settled\": %2, \"webEngineMapped\": %3}\n")
+                                      .arg(m_firstFrame)
+                                      .arg(m_settled)
+                                      .arg(QLatin1String(isWebEngineMapped() ? "true" : "false")));
     }
-    if (!m_screenshotFile.isEmpty() && !m_window->grabWindow().save(m_screenshotFile))
-        qCWarning(logApp) << "cannot save" << m_screenshotFile;
-    QCoreApplication::quit();
+    if (m_screenshotFile.isEmpty()) {
+        QCoreApplication::quit();
+        return;
+    }
+    // Pictures fade in.
+    QTimer::singleShot(fading, this, [this] {
+        if (!m_window->grabWindow().save(m_screenshotFile))
+            qCWarning(logApp) << "cannot save" << m_screenshotFile;
+        QCoreApplication::quit();
+    });
 }
 
 } // namespace loom

@@ -32,9 +32,6 @@ private:
     qint64 m_settled = -1;
 };
 
-/// Milliseconds since the process was started.
-[[nodiscard]] qint64 millisecondsSinceStart();
-
 void writeReport(const QString& file, const QString& text);
 
 } // namespace loom

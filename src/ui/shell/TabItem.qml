@@ -15,7 +15,7 @@ Pressable {
     readonly property bool roomy: width >= 120
 
     objectName: "tab" + index
-    text: router.title !== "" ? router.title : qsTranslate("Loomstreet", "Loading")
+    text: router?.title || qsTranslate("Loomstreet", "Loading")
     leftPadding: Theme.space1_5
     rightPadding: Theme.spaceHalf
     topPadding: Theme.layoutTabStrip - 34
@@ -42,7 +42,7 @@ Pressable {
             id: symbol
 
             anchors { left: parent.left; verticalCenter: parent.verticalCenter }
-            name: tab.router.symbol
+            name: tab.router?.symbol ?? ""
             size: 16
             color: tab.selected ? Theme.ink : Theme.muted
         }
@@ -58,7 +58,7 @@ Pressable {
 
             objectName: "close"
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-            visible: !tab.router.isPinned && (tab.selected || tab.roomy)
+            visible: !(tab.router?.isPinned ?? false) && (tab.selected || tab.roomy)
             extent: 28
             iconName: "xmark"
             iconSize: 16

@@ -13,8 +13,10 @@ Rectangle {
     property bool ownFrame: true
     property bool collapsed: false
 
+    readonly property int start: collapsed ? Theme.layoutSidebarRail : Theme.layoutSidebarRegular
+    // What the tabs may take; behind them the strip can be taken hold of.
+    readonly property int room: width - start - newTab.width - (buttons.visible ? buttons.width + Theme.space1 : 0) - Theme.space6
     readonly property int tabWidth: {
-        const room = width - row.x - newTab.width - (buttons.visible ? buttons.width + Theme.space1 : 0) - Theme.space6
         return Math.max(96, Math.min(196, Math.floor(room / Math.max(1, session.tabs.count))))
     }
 
@@ -56,13 +58,13 @@ Rectangle {
         objectName: "tabs"
         anchors {
             left: parent.left
-            leftMargin: strip.collapsed ? Theme.layoutSidebarRail : Theme.layoutSidebarRegular
+            leftMargin: strip.start
             top: parent.top
             bottom: parent.bottom
         }
-        width: Math.min(contentWidth, strip.width - x - newTab.width - (buttons.visible ? buttons.width : 0) - Theme.space6)
+        width: Math.min(strip.tabWidth * count, strip.room)
         orientation: ListView.Horizontal
-        interactive: contentWidth > width
+        interactive: strip.tabWidth * count > width
         boundsBehavior: Flickable.StopAtBounds
         clip: interactive
         currentIndex: strip.session.selectedIndex

@@ -76,7 +76,7 @@ Item {
 
         objectName: "search"
         anchors { left: buttons.right; leftMargin: Theme.space3; verticalCenter: parent.verticalCenter }
-        width: Math.min(560, end.x - x - Theme.space2)
+        width: Math.min(560, bar.width - buttons.width - buttons.anchors.leftMargin - end.width - end.anchors.rightMargin - Theme.space3 - Theme.space2)
         placeholderText: qsTranslate("Loomstreet", "Search, or paste a link")
         shortcut: bar.narrow ? "" : "Ctrl K"
         onAccepted: bar.go()
@@ -86,7 +86,8 @@ Item {
         }
 
         resting: Breadcrumb {
-            crumbs: bar.router ? bar.router.trail : []
+            anchors.left: parent.left
+            crumbs: (bar.router?.trail ?? []).map(title => title === "" ? "…" : title)
             onActivated: index => bar.router.backTo(index)
         }
     }

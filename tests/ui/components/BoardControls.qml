@@ -7,10 +7,12 @@ Row {
 
     property var board: ({ say: (english, arabic) => english })
 
+    readonly property real columnWidth: (width - 2 * spacing) / 3
+
     spacing: Theme.space4
 
     Column {
-        width: (root.width - 2 * root.spacing) / 3
+        width: root.columnWidth
         spacing: Theme.space3
 
         BoardSection {
@@ -20,22 +22,40 @@ Row {
             Repeater {
                 model: ["primary", "secondary", "quiet"]
 
-                Row {
+                Flow {
                     required property string modelData
 
+                    width: root.columnWidth
                     spacing: Theme.space1_5
 
-                    PushButton { kind: parent.modelData; size: "primary"; text: root.board.say("Add to Cart", "أضف إلى السلة") }
+                    PushButton {
+                        kind: parent.modelData
+                        size: "primary"
+                        text: root.board.say("Add to Cart", "أضف إلى السلة")
+                    }
                     PushButton { kind: parent.modelData; text: root.board.say("Apply", "تطبيق") }
                     PushButton { kind: parent.modelData; size: "small"; text: root.board.say("Preview", "معاينة") }
                     PushButton { kind: parent.modelData; text: root.board.say("Disabled", "معطل"); enabled: false }
                 }
             }
-            PushButton { kind: "primary"; size: "primary"; iconName: "lock"; text: root.board.say("Checkout", "الدفع") }
+            PushButton {
+                kind: "primary"
+                size: "primary"
+                iconName: "lock"
+                text: root.board.say("Checkout", "الدفع")
+            }
             PushButton { kind: "primary"; busy: true; text: root.board.say("Opening checkout…", "جارٍ الفتح…") }
             PushButton { iconName: "sparkles"; text: root.board.say("Help me style this", "ساعدني في التنسيق") }
-            PushButton { on: true; iconName: "sparkles"; text: root.board.say("Help me style this", "ساعدني في التنسيق") }
-            PushButton { id: first; text: root.board.say("Focused", "مركّز"); FocusRing { target: null; visible: true } }
+            PushButton {
+                on: true
+                iconName: "sparkles"
+                text: root.board.say("Help me style this", "ساعدني في التنسيق")
+            }
+            PushButton {
+                id: first
+                text: root.board.say("Focused", "مركّز")
+                FocusRing { target: null; visible: true }
+            }
         }
         BoardSection {
             width: parent.width
@@ -68,7 +88,7 @@ Row {
         }
     }
     Column {
-        width: (root.width - 2 * root.spacing) / 3
+        width: root.columnWidth
         spacing: Theme.space3
 
         BoardSection {
@@ -110,13 +130,15 @@ Row {
                 label: root.board.say("Email", "البريد الإلكتروني")
                 text: "ines.marinho@example.com"
                 confirmed: true
-                message: root.board.say("We sent a code. It can take a minute to arrive.", "أرسلنا رمزًا. قد يستغرق دقيقة.")
+                message: root.board.say("We sent a code. It can take a minute to arrive.",
+                                        "أرسلنا رمزًا. قد يستغرق دقيقة.")
             }
             FieldInput {
                 width: parent.width
                 placeholderText: root.board.say("Discount code", "رمز الخصم")
                 text: "SPRING20"
-                error: root.board.say("“SPRING20” doesn't apply to the items in your cart.", "لا ينطبق الرمز على السلة.")
+                error: root.board.say("“SPRING20” doesn't apply to the items in your cart.",
+                                      "لا ينطبق الرمز على السلة.")
             }
             FieldInput { width: parent.width; placeholderText: root.board.say("Discount code", "رمز الخصم") }
             FieldInput { width: parent.width; text: root.board.say("Disabled", "معطل"); enabled: false }
@@ -137,7 +159,11 @@ Row {
 
             SegmentedControl { segments: ["cm", "in"] }
             SegmentedControl {
-                segments: [root.board.say("System", "النظام"), root.board.say("Light", "فاتح"), root.board.say("Dark", "داكن")]
+                segments: [
+                    root.board.say("System", "النظام"),
+                    root.board.say("Light", "فاتح"),
+                    root.board.say("Dark", "داكن")
+                ]
                 currentIndex: 1
             }
             Stepper { value: 1 }
@@ -146,14 +172,18 @@ Row {
         }
     }
     Column {
-        width: (root.width - 2 * root.spacing) / 3
+        width: root.columnWidth
         spacing: Theme.space3
 
         BoardSection {
             width: parent.width
             title: "SwitchRow, RadioRow"
 
-            SwitchRow { width: parent.width; checked: true; text: root.board.say("In the application", "داخل التطبيق") }
+            SwitchRow {
+                width: parent.width
+                checked: true
+                text: root.board.say("In the application", "داخل التطبيق")
+            }
             SwitchRow {
                 width: parent.width
                 text: root.board.say("Order updates", "تحديثات الطلب")
@@ -177,7 +207,12 @@ Row {
                 title: root.board.say("FREE worldwide shipping", "شحن مجاني")
                 note: root.board.say("On carts of $99.00 or more", "للسلال من $99.00")
             }
-            FactRow { width: parent.width; iconName: "return"; title: root.board.say("Returns", "الإرجاع"); note: root.board.say("Within 30 days, unworn, tags on", "خلال 30 يومًا") }
+            FactRow {
+                width: parent.width
+                iconName: "return"
+                title: root.board.say("Returns", "الإرجاع")
+                note: root.board.say("Within 30 days, unworn, tags on", "خلال 30 يومًا")
+            }
             Disclosure {
                 width: parent.width
                 title: root.board.say("Composition", "التركيب")
@@ -185,7 +220,8 @@ Row {
 
                 TextLabel {
                     width: parent.width
-                    text: root.board.say("92 % silk, 8 % elastane. Lining 100 % viscose. Dry clean only.", "92 % حرير، 8 % إيلاستين. تنظيف جاف فقط.")
+                    text: root.board.say("92 % silk, 8 % elastane. Lining 100 % viscose. Dry clean only.",
+                                         "92 % حرير، 8 % إيلاستين. تنظيف جاف فقط.")
                     type: Theme.type.small
                     wrapMode: Text.Wrap
                 }

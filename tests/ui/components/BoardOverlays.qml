@@ -20,7 +20,12 @@ Item {
             MenuItem { text: root.board.say("Close Tab", "إغلاق اللسان"); shortcut: "Ctrl W" }
             MenuItem { text: root.board.say("Close Other Tabs", "إغلاق الألسنة الأخرى"); enabled: false }
             MenuSeparator {}
-            MenuItem { text: root.board.say("Show Sidebar", "إظهار الشريط"); checkable: true; checked: true; shortcut: "Ctrl B" }
+            MenuItem {
+                text: root.board.say("Show Sidebar", "إظهار الشريط")
+                checkable: true
+                checked: true
+                shortcut: "Ctrl B"
+            }
             Menu {
                 title: root.board.say("Zoom", "تكبير")
 
@@ -76,7 +81,13 @@ Item {
             width: parent.width
             padding: Theme.space3
 
-            PushButton { width: parent.width - 48; kind: "primary"; size: "primary"; iconName: "lock"; text: root.board.say("Checkout", "الدفع") }
+            PushButton {
+                width: parent.width - 48
+                kind: "primary"
+                size: "primary"
+                iconName: "lock"
+                text: root.board.say("Checkout", "الدفع")
+            }
         }
     }
     Timer { interval: 100; running: true; onTriggered: fileMenu.popup(root, 0, 60) }

@@ -35,7 +35,8 @@ Grid {
         ErrorState {
             anchors.fill: parent
             title: root.board.say("Couldn't load your cart", "تعذر تحميل سلتك")
-            sentence: root.board.say("Your items are safe. Check your connection and try again.", "قطعك بأمان. تحقق من الاتصال وحاول مجددًا.")
+            sentence: root.board.say("Your items are safe. Check your connection and try again.",
+                                     "قطعك بأمان. تحقق من الاتصال وحاول مجددًا.")
         }
     }
     Box {
@@ -43,7 +44,8 @@ Grid {
             anchors.fill: parent
             iconName: "magnifyingglass"
             title: root.board.say("No results for “velvet opera gown”", "لا نتائج")
-            sentence: root.board.say("Check the spelling, try a broader word, or browse New In.", "تحقق من الإملاء أو جرّب كلمة أعم.")
+            sentence: root.board.say("Check the spelling, try a broader word, or browse New In.",
+                                     "تحقق من الإملاء أو جرّب كلمة أعم.")
 
             PushButton { kind: "primary"; text: root.board.say("New In", "وصل حديثًا") }
             PushButton { text: root.board.say("Search by Image…", "بحث بالصورة…") }
@@ -57,7 +59,8 @@ Grid {
             ErrorState {
                 width: parent.width
                 takesFocus: false
-                sentence: root.board.say("Something unexpected came back. Try again.", "حدث أمر غير متوقع. حاول مجددًا.")
+                sentence: root.board.say("Something unexpected came back. Try again.",
+                                         "حدث أمر غير متوقع. حاول مجددًا.")
                 busy: true
             }
         }
@@ -65,7 +68,10 @@ Grid {
     Box {
         DataTable {
             anchors { fill: parent; margins: Theme.space3 }
-            headings: [root.board.say("Size", "المقاس"), root.board.say("Bust", "الصدر"), root.board.say("Waist", "الخصر"), root.board.say("Hip", "الورك"), root.board.say("Length", "الطول")]
+            headings: [
+                root.board.say("Size", "المقاس"), root.board.say("Bust", "الصدر"), root.board.say("Waist", "الخصر"),
+                root.board.say("Hip", "الورك"), root.board.say("Length", "الطول")
+            ]
             rows: [["XXS", "76 – 80", "58 – 62", "84 – 88", "123"], ["XS", "80 – 84", "62 – 66", "88 – 92", "124"],
                    ["S", "84 – 88", "66 – 70", "92 – 96", "125"], ["M", "88 – 92", "70 – 74", "96 – 100", "126"],
                    ["L", "92 – 98", "74 – 80", "100 – 106", "127"]]
@@ -80,7 +86,8 @@ Grid {
             iconName: "checkmark.seal"
             tone: "success"
             title: root.board.say("Order placed", "تم تقديم الطلب")
-            text: root.board.say("Order LST10483 is confirmed. It will show under Orders in a few minutes.", "تم تأكيد الطلب LST10483. سيظهر ضمن الطلبات بعد دقائق.")
+            text: root.board.say("Order LST10483 is confirmed. It will show under Orders in a few minutes.",
+                                 "تم تأكيد الطلب LST10483. سيظهر ضمن الطلبات بعد دقائق.")
             actionText: root.board.say("Open", "فتح")
         }
         Row {

@@ -1,21 +1,6 @@
-#include "TestEngine.h"
+#include "QmlTestSetup.h"
 
 #include <QQmlEngine>
 #include <QtQuickTest/quicktest.h>
 
-namespace
-{
-
-class Setup : public QObject
-{
-    Q_OBJECT
-
-public Q_SLOTS:
-    void qmlEngineAvailable(QQmlEngine* engine) { loom::prepareTestEngine(*engine); }
-};
-
-} // namespace
-
-QUICK_TEST_MAIN_WITH_SETUP(components, Setup)
-
-#include "QmlTestMain.moc"
+QUICK_TEST_MAIN_WITH_SETUP(components, loom::QmlTestSetup)

@@ -151,7 +151,9 @@ TestCase {
     }
 
     function test_aPriceIsNeverCutShort() {
-        const item = createTemporaryObject(card, test, { width: 176, price: "IDR 13.198.000", formerPrice: "IDR 14.250.000" })
+        const item = createTemporaryObject(card, test, {
+            width: 176, price: "IDR 13.198.000", formerPrice: "IDR 14.250.000"
+        })
         verify(!findChild(item, "price").truncated)
         verify(!findChild(item, "formerPrice").visible, "what does not fit is only said")
         verify(AccessibleProbe.name(item).indexOf("14.250.000") > 0)

@@ -102,7 +102,10 @@ TestCase {
         verify(item.naturalWidth > 1.5 * before, "columns grow with the text")
     }
 
-    Component { id: search; SearchField { width: 300; shortcut: "Ctrl K"; IconButton { text: "Camera"; iconName: "camera" } } }
+    Component {
+        id: search
+        SearchField { width: 300; shortcut: "Ctrl K"; IconButton { text: "Camera"; iconName: "camera" } }
+    }
     function test_aFieldsTextLiesBesideItsIconsInBothDirections() {
         const field = createTemporaryObject(search, test)
         const box = field.input

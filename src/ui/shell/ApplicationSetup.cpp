@@ -1,0 +1,40 @@
+#include "ui/shell/ApplicationSetup.h"
+
+#include "app/AppLifecycle.h"
+#include "base/Log.h"
+#include "ui/components/ImageProviders.h"
+#include "ui/shell/PictureLoading.h"
+
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QQuickStyle>
+#include <QQuickWindow>
+
+namespace loom
+{
+
+void prepareApplication(const QString& applicationID)
+{
+    installRedactingLog();
+    // The web engine, which comes in only with the first web page, needs both from the start.
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+    QGuiApplication::setApplicationName(QStringLiteral("LOOMSTREET"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(LOOM_VERSION));
+    QGuiApplication::setDesktopFileName(applicationID);
+    // Quitting is for the shopper to ask for.
+    QGuiApplication::setQuitOnLastWindowClosed(AppLifecycle::shouldTerminateAfterLastWindowClosed());
+}
+
+void prepareEngine(QQmlEngine& engine, PictureLoading& pictures)
+{
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
+    engine.setNetworkAccessManagerFactory(&pictures);
+    addImageProviders(engine);
+    QObject::connect(&engine, &QQmlEngine::quit, QCoreApplication::instance(), &QCoreApplication::quit);
+}
+
+} // namespace loom
