@@ -20,6 +20,7 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QStandardPaths>
+#include <QtConcurrent>
 
 using namespace loom;
 
@@ -96,8 +97,9 @@ int main(int argc, char* argv[])
     prepareApplication(applicationID);
     QGuiApplication application(argc, argv);
     const LaunchOptions options = readLaunchOptions(QCoreApplication::arguments());
-    if (!options.authorityFile.isEmpty() && !addCertificateAuthority(options.authorityFile))
-        return 1;
+    // Reading certificates takes longer than all the rest of this; they are needed with the first request.
+    QFuture<bool> authority =
+        QtConcurrent::run([file = options.authorityFile] { return file.isEmpty() || addCertificateAuthority(file); });
     registerFonts();
 
     PictureLoading pictures(pictureCacheFolder());
@@ -105,6 +107,8 @@ int main(int argc, char* argv[])
     QQmlEngine engine;
     prepareEngine(engine, pictures);
 
+    if (!authority.result())
+        return 1;
     const std::optional<AppConfig> config = AppConfig::load();
     if (!config) {
         const auto window = WindowManager::showConfigurationMissing(engine, appearance);

@@ -24,6 +24,9 @@ QStringList allCollections()
     return handles;
 }
 
+/// The collections that the Explore page shows a rail of each.
+const std::array exploreRails{QStringLiteral("new-in"), QStringLiteral("final-sale")};
+
 } // namespace
 
 AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
@@ -80,11 +83,57 @@ QString AppModel::visitorID()
 
 WindowSession& AppModel::openWindow(const WindowSeed& seed)
 {
-    bootstrap();
     WindowSession& session = *m_sessions.emplace_back(std::make_unique<WindowSession>(m_services, seed));
     m_keyOrder.prepend(&session);
+    beginFirstPage(session);
     m_windows->show(session);
+    bootstrap();
     return session;
+}
+
+void AppModel::beginFirstPage(const WindowSession& session)
+{
+    m_begun.clear();
+    const auto begin = [this](const QString& handle, auto* model) {
+        m_begun.emplace_back(handle, std::unique_ptr<QObject>(model));
+        model->load();
+    };
+    const Router& tab = *session.selected();
+    const PageEntry entry = tab.page(tab.depth());
+    switch (entry.kind) {
+    case PageKind::Kind::Explore:
+        begin(QString(), makeDepartment(nullptr, {}));
+        begin(exploreRails.at(0), makeCollection(nullptr, exploreRails.at(0), {}));
+        begin(exploreRails.at(1), makeCollection(nullptr, exploreRails.at(1), {}));
+        break;
+    case PageKind::Kind::Department:
+        begin(entry.handle, makeDepartment(nullptr, entry.handle));
+        break;
+    case PageKind::Kind::Collection:
+        begin(entry.handle, makeCollection(nullptr, entry.handle, entry.title));
+        break;
+    case PageKind::Kind::Product:
+        begin(entry.handle, makeProduct(nullptr, entry.handle, entry.itemVariant()));
+        break;
+    case PageKind::Kind::StorePage:
+    case PageKind::Kind::Unknown:
+        break;
+    }
+}
+
+template <typename Model>
+Model* AppModel::takeBegun(QObject* owner, const QString& handle)
+{
+    for (auto begun = m_begun.begin(); owner && begun != m_begun.end(); ++begun) {
+        auto* const model = qobject_cast<Model*>(begun->second.get());
+        if (!model || begun->first != handle)
+            continue;
+        static_cast<void>(begun->second.release());
+        m_begun.erase(begun);
+        model->setParent(owner);
+        return model;
+    }
+    return nullptr;
 }
 
 void AppModel::closeWindow(WindowSession* session)
@@ -113,12 +162,16 @@ WindowSession* AppModel::keySession() const
 
 CollectionModel* AppModel::makeCollection(QObject* owner, const QString& handle, const QString& fallbackTitle)
 {
+    if (auto* const begun = takeBegun<CollectionModel>(owner, handle))
+        return begun;
     m_tracker.report(Tracker::CollectionViewed{.handle = handle});
     return new CollectionModel(handle, fallbackTitle, m_storefront, m_market, m_money, m_platform.clock, owner);
 }
 
 ProductModel* AppModel::makeProduct(QObject* owner, const QString& handle, const QVariant& item)
 {
+    if (auto* const begun = takeBegun<ProductModel>(owner, handle))
+        return begun;
     m_tracker.report(Tracker::ProductViewed{.handle = handle});
     const auto card = item.canConvert<ProductListItem>() ? std::optional(item.value<ProductListItem>()) : std::nullopt;
     return new ProductModel(handle, card, AppConfig::freeShippingThreshold, m_storefront, m_market, m_preferences,
@@ -127,6 +180,8 @@ ProductModel* AppModel::makeProduct(QObject* owner, const QString& handle, const
 
 CollectionTilesModel* AppModel::makeDepartment(QObject* owner, const QString& id)
 {
+    if (auto* const begun = takeBegun<CollectionTilesModel>(owner, id))
+        return begun;
     const Department* const department = findDepartment(id);
     return new CollectionTilesModel(department ? department->collections : allCollections(), m_storefront, m_market,
                                     owner);

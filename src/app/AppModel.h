@@ -103,6 +103,12 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
+    /// Asks for what the first page of a new window shows while the window itself is still being built; the page takes
+    /// the models over.
+    void beginFirstPage(const WindowSession& session);
+    template <typename Model>
+    [[nodiscard]] Model* takeBegun(QObject* owner, const QString& handle);
+
     AppConfig m_config;
     AppPlatform m_platform;
     DataFolder m_folder;
@@ -121,6 +127,8 @@ private:
     bool m_didBootstrap = false;
     WindowServices m_services;
     WindowHost* m_windows = nullptr;
+    /// Models of first pages that no page has taken over yet, by what they are of.
+    std::vector<std::pair<QString, std::unique_ptr<QObject>>> m_begun;
     std::vector<std::unique_ptr<WindowSession>> m_sessions;
     QList<WindowSession*> m_keyOrder; ///< the one in front first
 };

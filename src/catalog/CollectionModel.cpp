@@ -20,7 +20,7 @@ CollectionModel::CollectionModel(QString handle, QString fallbackTitle, Storefro
     , m_loadingMore([this] { Q_EMIT changed(); })
 {
     connect(&market, &MarketStore::revisionChanged, this, [this] {
-        if (!m_loadedKey.isEmpty() || isLoading())
+        if (phase() != Phase::Idle)
             reload();
     });
 }
@@ -68,7 +68,7 @@ QString CollectionModel::key() const
 
 CollectionRequest CollectionModel::request(const std::optional<QString>& after) const
 {
-    return {.handle = m_handle, .first = pageSize, .after = after, .filters = {}, .sort = m_sort};
+    return {.handle = m_handle, .first = after ? pageSize : firstPageSize, .after = after, .filters = {}, .sort = m_sort};
 }
 
 void CollectionModel::setSort(CollectionSort sort)
@@ -99,7 +99,8 @@ void CollectionModel::reload()
 
 void CollectionModel::loadMore()
 {
-    if (m_hasNextPage && !isLoadingMore() && !isLoading())
+    // A list of another order or market, left there by a load that failed, is not continued in this one.
+    if (m_hasNextPage && m_loadedKey == key() && !isLoadingMore() && !isLoading())
         static_cast<void>(loadNext());
 }
 
@@ -123,6 +124,7 @@ QCoro::Task<> CollectionModel::loadFirst()
     m_filters = std::move(page->filters);
     m_cursor = page->endCursor;
     m_hasNextPage = page->hasNextPage;
+    m_counting.stop(); // the former list's
     m_totalCount.reset();
     m_products.replace(std::move(page->products));
     if (m_isMissing)
@@ -144,8 +146,8 @@ QCoro::Task<> CollectionModel::loadNext()
         m_loadMoreFailure = page.error().error();
         co_return;
     }
+    m_hasNextPage = page->hasNextPage && page->endCursor != m_cursor; // one that does not move leads nowhere
     m_cursor = page->endCursor;
-    m_hasNextPage = page->hasNextPage;
     m_products.append(std::move(page->products));
 }
 

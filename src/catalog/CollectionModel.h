@@ -44,7 +44,9 @@ public:
     };
     Q_ENUM(Phase)
 
-    /// How many products one page asks for: whole rows at two, three, four, six and eight columns.
+    /// How many products a page asks for, whole rows at two, three, four, six and eight columns: the first is what a
+    /// window shows, so that it comes quickly.
+    static constexpr int firstPageSize = 24;
     static constexpr int pageSize = 48;
 
     CollectionModel(QString handle, QString fallbackTitle, StorefrontAPI& api, const MarketStore& market,

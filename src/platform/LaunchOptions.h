@@ -20,7 +20,7 @@ struct LaunchOptions {
 [[nodiscard]] LaunchOptions readLaunchOptions(const QStringList& arguments);
 
 /// Trusts the authorities in the file in addition to the system's. False, with the reason in the log, when there is
-/// none in it.
+/// none in it. Any thread.
 [[nodiscard]] bool addCertificateAuthority(const QString& file);
 
 } // namespace loom

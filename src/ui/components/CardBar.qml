@@ -15,7 +15,9 @@ Item {
     Behavior on opacity { NumberAnimation { duration: Theme.durationHover } }
 
     FloatingSurface {
-        anchors.fill: parent
+        anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
+        // Without sizes it is no more than its button.
+        width: bar.card.sizes.length > 0 ? parent.width : parent.height
         shadow: Theme.shadowLifted
     }
     TextLabel {

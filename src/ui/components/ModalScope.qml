@@ -20,7 +20,9 @@ FocusScope {
     signal closeAsked()
 
     function enter(): void {
-        cameFrom = Window.activeFocusItem
+        // What is made open enters twice: when it learns so, and when it is whole.
+        if (!activeFocus)
+            cameFrom = Window.activeFocusItem
         if (firstFocus !== null)
             firstFocus.forceActiveFocus(Qt.PopupFocusReason)
         else

@@ -8,7 +8,7 @@ import Loomstreet.Theme
 PageBase {
     id: page
 
-    readonly property string name: context.entry.title
+    readonly property string name: context.entry?.title ?? ""
     readonly property CollectionTilesModel collections: context.model
     readonly property bool failed: collections ? collections.count === 0 && collections.errorText !== "" : false
     readonly property bool empty: collections ? collections.isLoaded && collections.count === 0 : false

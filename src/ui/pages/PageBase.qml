@@ -31,6 +31,6 @@ FocusScope {
     function scrollTo(y: real): void {}
     function reload(): void {}
 
-    onTitleChanged: router.setPageTitle(context.depth, title)
+    onTitleChanged: router?.setPageTitle(context.depth, title) // the router may go first
     Component.onCompleted: if (title !== "") router.setPageTitle(context.depth, title)
 }

@@ -95,6 +95,7 @@ PageBase {
                 ProductReviews {
                     id: reviews
 
+                    objectName: "reviews"
                     width: facts.cellWidth
                     visible: page.product ? Object.keys(page.product.reviews).length > 0 : false
                     summary: page.product ? page.product.reviews : ({})

@@ -7,7 +7,7 @@ import Loomstreet.Theme
 PageBase {
     id: page
 
-    readonly property string name: context.entry.title
+    readonly property string name: context.entry?.title ?? ""
     readonly property var view: holder.item
     property real keptScrollY: 0
     property bool live: false

@@ -13,8 +13,12 @@ FocusScope {
 
     function show(): void {
         cameFrom = Window.activeFocusItem
+        if (bar.status === Loader.Null) {
+            bar.setSource("CommandMenus.qml", { commands: commands })
+            bar.item.done.connect(hide)
+        }
         open = true
-        bar.forceActiveFocus(Qt.MenuBarFocusReason)
+        bar.item.forceActiveFocus(Qt.MenuBarFocusReason)
     }
     function hide(): void {
         if (!open)
@@ -24,7 +28,7 @@ FocusScope {
             cameFrom.forceActiveFocus(Qt.MenuBarFocusReason)
     }
 
-    implicitHeight: open ? bar.implicitHeight : 0
+    implicitHeight: open ? bar.height : 0
     visible: open
 
     Keys.onEscapePressed: hide()
@@ -33,36 +37,10 @@ FocusScope {
         sequence: "F10"
         onActivated: holder.open ? holder.hide() : holder.show()
     }
-    MenuBar {
+    Loader {
         id: bar
 
-        objectName: "menuBar"
         width: parent.width
         focus: true
-
-        CommandMenu {
-            commands: holder.commands
-            which: AppCommand.File
-            title: qsTranslate("Loomstreet", "File")
-            onClosed: holder.hide()
-        }
-        CommandMenu {
-            commands: holder.commands
-            which: AppCommand.View
-            title: qsTranslate("Loomstreet", "View")
-            onClosed: holder.hide()
-        }
-        CommandMenu {
-            commands: holder.commands
-            which: AppCommand.Go
-            title: qsTranslate("Loomstreet", "Go")
-            onClosed: holder.hide()
-        }
-        CommandMenu {
-            commands: holder.commands
-            which: AppCommand.Help
-            title: qsTranslate("Loomstreet", "Help")
-            onClosed: holder.hide()
-        }
     }
 }

@@ -15,6 +15,9 @@ Window {
     visible: true
     title: "LOOMSTREET"
     color: Theme.paper
+    // On the window, so that menus and tooltips are mirrored as well.
+    LayoutMirroring.enabled: systemAppearance.isRightToLeft
+    LayoutMirroring.childrenInherit: true
     onClosing: Qt.quit()
 
     ThemeInputs { system: window.systemAppearance }
@@ -25,9 +28,6 @@ Window {
     }
     Item {
         anchors.fill: parent
-        LayoutMirroring.enabled: window.systemAppearance.isRightToLeft
-        LayoutMirroring.childrenInherit: true
-
         EmptyState {
             anchors.centerIn: parent
             width: Math.min(parent.width, 520)

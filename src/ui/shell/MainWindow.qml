@@ -30,6 +30,9 @@ Window {
     visibility: session.isWindowFullScreen ? Window.FullScreen : Window.AutomaticVisibility
     title: session.selected ? qsTranslate("Loomstreet", "%1 – LOOMSTREET").arg(session.selected.title) : "LOOMSTREET"
     color: Theme.paper
+    // On the window, so that menus and tooltips are mirrored as well.
+    LayoutMirroring.enabled: systemAppearance.isRightToLeft
+    LayoutMirroring.childrenInherit: true
 
     onWidthChanged: session.windowWidth = width
     onActiveChanged: if (active) app.windowBecameKey(session)
@@ -67,9 +70,6 @@ Window {
         id: content
 
         anchors.fill: parent
-        LayoutMirroring.enabled: window.systemAppearance.isRightToLeft
-        LayoutMirroring.childrenInherit: true
-
         TabStrip {
             id: strip
 
@@ -117,16 +117,27 @@ Window {
         Hairline {
             anchors { left: sidebar.right; top: menuBar.bottom; bottom: parent.bottom }
         }
-        Screenshot {
+        Loader {
             id: screenshot
 
+            function take(): void {
+                if (status === Loader.Null)
+                    setSource("Screenshot.qml", { app: window.app, subject: pages })
+                item.take()
+            }
+
             anchors { left: sidebar.right; right: parent.right; top: strip.bottom; bottom: parent.bottom }
-            app: window.app
-            subject: pages
         }
-        Lightbox {
+        Loader {
+            id: lightbox
+
+            readonly property bool wanted: window.session.lightbox !== undefined
+
             anchors.fill: parent
-            session: window.session
+            onWantedChanged: {
+                if (wanted && status === Loader.Null)
+                    setSource("Lightbox.qml", { session: window.session })
+            }
         }
     }
     ResizeEdges {

@@ -90,6 +90,7 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
+        asynchronous: true // between frames, so that a large page stops nothing
         onWantedChanged: {
             if (wanted)
                 setSource("qrc:/qt/qml/Loomstreet/Pages/" + host.pageFor(host.entry.kind) + ".qml", { context: context })

@@ -26,6 +26,9 @@ Window {
     minimumHeight: 420
     title: qsTranslate("Loomstreet", "Settings")
     color: Theme.surface
+    // On the window, so that menus and tooltips are mirrored as well.
+    LayoutMirroring.enabled: systemAppearance.isRightToLeft
+    LayoutMirroring.childrenInherit: true
 
     ThemeInputs {
         settings: window.settings
@@ -42,9 +45,6 @@ Window {
 
     Item {
         anchors.fill: parent
-        LayoutMirroring.enabled: window.systemAppearance.isRightToLeft
-        LayoutMirroring.childrenInherit: true
-
         Rectangle {
             id: side
 

@@ -79,11 +79,9 @@ FocusScope {
 
             FocusRing { target: control }
         }
-        ToolTip {
-            visible: row.rail && (control.hovered || control.visualFocus)
-            x: control.mirrored ? -width - Theme.space1 : control.width + Theme.space1
-            y: (control.height - height) / 2
-            text: row.title
+        HoverToolTip {
+            control: control
+            text: row.rail ? row.title : ""
         }
     }
 }

@@ -87,28 +87,18 @@ Pressable {
             anchors { fill: parent; margins: 4; topMargin: Theme.layoutTabStrip - 32 }
         }
     }
-    ToolTip {
-        visible: tab.hovered && !tab.roomy
-        text: tab.text
+    HoverToolTip {
+        control: tab
+        text: tab.roomy ? "" : tab.text
     }
-    Menu {
+    // Made when it is first asked for: most tabs never need it.
+    Loader {
         id: menu
 
-        MenuItem {
-            objectName: "newTabToTheRight"
-            text: qsTranslate("Loomstreet", "New Tab to the Right")
-            onTriggered: tab.session.newTabToTheRight(tab.index)
-        }
-        MenuSeparator {}
-        MenuItem {
-            text: qsTranslate("Loomstreet", "Close Tab")
-            shortcut: "Ctrl W"
-            onTriggered: tab.session.closeTab(tab.index)
-        }
-        MenuItem {
-            text: qsTranslate("Loomstreet", "Close Other Tabs")
-            enabled: tab.session.tabs.count > 1
-            onTriggered: tab.session.closeOtherTabs(tab.index)
+        function popup(): void {
+            if (status === Loader.Null)
+                setSource("TabMenu.qml", { session: tab.session, index: Qt.binding(() => tab.index) })
+            item.popup()
         }
     }
 }

@@ -123,35 +123,24 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             iconName: "menu"
             text: qsTranslate("Loomstreet", "Menu")
-            on: menu.visible
-            onClicked: menu.visible ? menu.close() : menu.open()
+            on: menu.item?.visible ?? false
+            onClicked: menu.toggle()
 
-            Menu {
+            // Made when it is first asked for.
+            Loader {
                 id: menu
 
-                x: menuButton.mirrored ? 0 : menuButton.width - width
-                y: menuButton.height + Theme.spaceHalf
+                function toggle(): void {
+                    if (status === Loader.Null)
+                        setSource("AppMenu.qml", { commands: bar.commands })
+                    if (item.visible)
+                        item.close()
+                    else
+                        item.open()
+                }
 
-                CommandMenu {
-                    commands: bar.commands
-                    which: AppCommand.File
-                    title: qsTranslate("Loomstreet", "File")
-                }
-                CommandMenu {
-                    commands: bar.commands
-                    which: AppCommand.View
-                    title: qsTranslate("Loomstreet", "View")
-                }
-                CommandMenu {
-                    commands: bar.commands
-                    which: AppCommand.Go
-                    title: qsTranslate("Loomstreet", "Go")
-                }
-                CommandMenu {
-                    commands: bar.commands
-                    which: AppCommand.Help
-                    title: qsTranslate("Loomstreet", "Help")
-                }
+                x: menuButton.mirrored || !item ? 0 : menuButton.width - item.width
+                y: menuButton.height + Theme.spaceHalf
             }
         }
     }
