@@ -204,10 +204,22 @@ void Router::selectItem(int item)
 
 void Router::showSection(SectionState section)
 {
-    m_section = std::move(section);
+    restore({.isPinned = m_isPinned, .section = std::move(section)});
+}
+
+void Router::restore(const TabState& state)
+{
+    m_section = state.section;
     m_lastSelectionChange = m_services.clock.now();
     m_pageTitles.clear();
     m_scrollPositions.clear();
+    for (int i = 0; i <= depth(); ++i) {
+        if (const QString title = state.titles.value(i); !title.isEmpty())
+            m_pageTitles.insert(i, title);
+        if (const double offset = state.scrollOffsets.value(i); offset > 0)
+            m_scrollPositions.insert(i, offset);
+    }
+    setPinned(state.isPinned);
     Q_EMIT reset();
     Q_EMIT selectionChanged();
     Q_EMIT stackChanged();
@@ -284,6 +296,16 @@ void Router::forgetAbove(int depth)
     };
     m_pageTitles.removeIf(isAbove);
     m_scrollPositions.removeIf(isAbove);
+}
+
+TabState Router::state() const
+{
+    TabState state{.isPinned = m_isPinned, .section = m_section};
+    for (int i = 0; i <= depth(); ++i) {
+        state.titles.append(m_pageTitles.value(i));
+        state.scrollOffsets.append(m_scrollPositions.value(i));
+    }
+    return state;
 }
 
 void Router::reload()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/PageEntry.h"
+#include "app/WindowState.h"
 #include "navigation/LinkOpener.h"
 #include "navigation/LinkResolver.h"
 #include "navigation/ProductPreview.h"
@@ -20,14 +21,6 @@ struct WindowServices;
 
 /// How a product is to be opened.
 enum class OpenMode { Automatic = 0, Page = 1, NewTab = 3 };
-
-/// A section of a tab with the pages pushed on it: what can be saved, and what a tab can go back to.
-struct SectionState {
-    SidebarItem selection = SidebarItem::Home;
-    std::vector<Route> routes; ///< bottom first
-
-    bool operator==(const SectionState&) const = default;
-};
 
 /// The navigation of one tab, and the one place where a link becomes a page. The window shows what this says; it
 /// never changes the stack itself. Main thread; owned by the window session.
@@ -113,7 +106,12 @@ public:
     /// A page at `depth` tells its title.
     Q_INVOKABLE void setPageTitle(int depth, const QString& title);
 
-    /// Where a page at `depth` is scrolled to, and what it gave the focus to: kept while the page itself is not.
+    /// What the tab shows; what one could go back or forward to is not part of it.
+    [[nodiscard]] TabState state() const;
+    /// Shows it again.
+    void restore(const TabState& state);
+
+    /// Where a page at `depth` is scrolled to, kept while the page itself is not.
     Q_INVOKABLE void setScrollPosition(int depth, double position);
     [[nodiscard]] Q_INVOKABLE double scrollPosition(int depth) const;
 

@@ -18,6 +18,14 @@ WindowSession::WindowSession(const WindowServices& services, const WindowSeed& s
 
 WindowSession::~WindowSession() = default;
 
+WindowState WindowSession::state() const
+{
+    WindowState state{.selectedIndex = selectedIndex(), .isSidebarCollapsed = m_isSidebarCollapsed};
+    for (int i = 0; i < m_tabs.count(); ++i)
+        state.tabs.push_back(m_tabs.at(i)->state());
+    return state;
+}
+
 Router* WindowSession::openTab(SidebarItem section, TabActivation activation)
 {
     return insertTab(m_tabs.count(), section, activation);

@@ -45,6 +45,9 @@ public:
     [[nodiscard]] Router* selected() const { return m_tabs.at(selectedIndex()); }
     [[nodiscard]] int selectedIndex() const { return m_tabs.indexOf(m_selectedID); }
 
+    /// What the window shows.
+    [[nodiscard]] WindowState state() const;
+
     /// Opens a tab behind the last one.
     Router* openTab(SidebarItem section, TabActivation activation);
     Q_INVOKABLE void newTab();

@@ -345,6 +345,11 @@ std::optional<QString> JsonReader::asText() const
     return value ? std::optional(toText(*value)) : std::nullopt;
 }
 
+std::optional<double> JsonReader::asNumber() const
+{
+    return m_exists ? valueOf<double>(m_element) : std::nullopt;
+}
+
 QJsonValue JsonReader::asJson() const
 {
     return m_exists ? toJson(m_element) : QJsonValue();

@@ -60,6 +60,7 @@ public:
 
     /// This value itself, for elements of lists.
     [[nodiscard]] std::optional<QString> asText() const;
+    [[nodiscard]] std::optional<double> asNumber() const;
     [[nodiscard]] QJsonValue asJson() const;
     [[nodiscard]] std::vector<JsonReader> elements() const;
     [[nodiscard]] std::vector<std::pair<QString, JsonReader>> members() const;

@@ -57,6 +57,13 @@ Window {
         readonly property int cartItem: 12
     }
 
+    Connections {
+        target: window.app.session
+        function onIsOfflineChanged(): void {
+            if (!window.app.session.isOffline)
+                PictureAddress.retryBroken()
+        }
+    }
     ThemeInputs {
         settings: window.app.settings
         system: window.systemAppearance

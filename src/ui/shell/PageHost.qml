@@ -1,4 +1,5 @@
 import QtQuick
+import Loomstreet.Components
 import Loomstreet.Model
 import Loomstreet.Pages
 import Loomstreet.Theme
@@ -32,6 +33,7 @@ FocusScope {
     function reload(): void {
         if (page)
             page.reload()
+        PictureAddress.retryBroken()
     }
     function makeModel(): QtObject {
         switch (entry.kind) {

@@ -23,6 +23,9 @@ protected:
     QNetworkReply* createRequest(Operation operation, const QNetworkRequest& original, QIODevice* data) override
     {
         QNetworkRequest request(original);
+        // Qt Quick follows redirects by itself, wherever they lead.
+        if (request.url().scheme() != QLatin1String("https"))
+            request.setUrl(QUrl());
         request.setRawHeader("Accept", "image/webp,image/jpeg,image/png;q=0.8");
         request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::PreferCache);
         request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
