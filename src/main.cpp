@@ -78,15 +78,17 @@ int runShop(const AppConfig& config, const LaunchOptions& options, QQmlEngine& e
         qGuiApp, &QGuiApplication::applicationStateChanged, model.session(),
         [&model](Qt::ApplicationState state) { model.session()->setActive(state == Qt::ApplicationActive); });
 
-    const EventLoopProbe probe;
+    std::optional<EventLoopProbe> probe;
+    if (!options.eventLoopReportFile.isEmpty())
+        probe.emplace();
     lifecycle.didFinishLaunching(
         {.link = options.links.isEmpty() ? std::nullopt : std::optional(options.links.first())});
     StartReport report(options.startReportFile, options.screenshotFile);
     if (const WindowSession* const session = model.keySession())
         report.watch(windows.windowOf(*session));
     const int status = QCoreApplication::exec();
-    if (!options.eventLoopReportFile.isEmpty())
-        writeReport(options.eventLoopReportFile, probe.report());
+    if (probe)
+        writeReport(options.eventLoopReportFile, probe->report());
     return status;
 }
 

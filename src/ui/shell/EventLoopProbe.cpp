@@ -1,6 +1,7 @@
 #include "ui/shell/EventLoopProbe.h"
 
-#include <QAbstractEventDispatcher>
+#undef signals // a name glib gives to a member
+#include <glib.h>
 
 #include <algorithm>
 
@@ -17,19 +18,47 @@ double milliseconds(qint64 nanoseconds)
     return static_cast<double>(nanoseconds) / nanosecondsPerMillisecond;
 }
 
+// glib hands its poll function no data of ours, so the probe at work is found here.
+EventLoopProbe* activeProbe = nullptr;
+GPollFunc plainPoll = nullptr;
+
+gint timedPoll(GPollFD* descriptors, guint count, gint timeout)
+{
+    if (activeProbe)
+        activeProbe->waitBegins();
+    const gint ready = plainPoll(descriptors, count, timeout);
+    if (activeProbe)
+        activeProbe->waitEnded();
+    return ready;
+}
+
 } // namespace
 
-EventLoopProbe::EventLoopProbe(QObject* parent)
-    : QObject(parent)
+EventLoopProbe::EventLoopProbe()
 {
     m_clock.start();
-    const QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
-    connect(dispatcher, &QAbstractEventDispatcher::awake, this, [this] { m_wokenAt = m_clock.nsecsElapsed(); });
-    connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] {
-        if (m_wokenAt >= 0)
-            m_turns.push_back({.begin = m_wokenAt, .duration = m_clock.nsecsElapsed() - m_wokenAt});
-        m_wokenAt = -1;
-    });
+    activeProbe = this;
+    if (!plainPoll)
+        plainPoll = g_main_context_get_poll_func(g_main_context_default());
+    g_main_context_set_poll_func(g_main_context_default(), timedPoll);
+}
+
+EventLoopProbe::~EventLoopProbe()
+{
+    g_main_context_set_poll_func(g_main_context_default(), plainPoll);
+    activeProbe = nullptr;
+}
+
+void EventLoopProbe::waitBegins()
+{
+    if (m_begin >= 0)
+        m_turns.push_back({.begin = m_begin, .duration = m_clock.nsecsElapsed() - m_begin});
+    m_begin = -1;
+}
+
+void EventLoopProbe::waitEnded()
+{
+    m_begin = m_clock.nsecsElapsed();
 }
 
 QString EventLoopProbe::report() const
