@@ -140,8 +140,7 @@ void Router::openCollection(const QString& handle, const QString& title)
     m_section.routes.back() = route;
     m_forwardRoutes.clear();
     m_laterSections.clear();
-    m_pageTitles.clear();
-    m_scrollPositions.remove(depth());
+    forgetAbove(depth() - 1); // the pages below are still there, and tell their titles only once
     Q_EMIT replaced(depth());
     Q_EMIT stackChanged();
     Q_EMIT titleChanged();
@@ -190,10 +189,10 @@ void Router::select(SidebarItem item)
         goToSectionHome();
         return;
     }
-    m_earlierSections.push_back(m_section);
+    m_earlierSections.push_back(state());
     m_laterSections.clear();
     m_forwardRoutes.clear();
-    showSection({.selection = item, .routes = {}});
+    show({.section = {.selection = item, .routes = {}}});
 }
 
 void Router::selectItem(int item)
@@ -202,12 +201,16 @@ void Router::selectItem(int item)
         select(static_cast<SidebarItem>(item));
 }
 
-void Router::showSection(SectionState section)
+void Router::restore(const TabState& state)
 {
-    restore({.isPinned = m_isPinned, .section = std::move(section)});
+    m_forwardRoutes.clear();
+    m_earlierSections.clear();
+    m_laterSections.clear();
+    setPinned(state.isPinned);
+    show(state);
 }
 
-void Router::restore(const TabState& state)
+void Router::show(const TabState& state)
 {
     m_section = state.section;
     m_lastSelectionChange = m_services.clock.now();
@@ -219,7 +222,6 @@ void Router::restore(const TabState& state)
         if (const double offset = state.scrollOffsets.value(i); offset > 0)
             m_scrollPositions.insert(i, offset);
     }
-    setPinned(state.isPinned);
     Q_EMIT reset();
     Q_EMIT selectionChanged();
     Q_EMIT stackChanged();
@@ -234,14 +236,15 @@ void Router::back()
     }
     if (m_earlierSections.empty())
         return;
-    m_laterSections.push_back(m_section);
+    TabState later = state();
     // What was popped in this section can be brought back when the shopper returns to it.
-    for (auto route = m_forwardRoutes.rbegin(); route != m_forwardRoutes.rend(); ++route)
-        m_laterSections.back().routes.push_back(*route);
+    later.section.routes.assign(std::make_move_iterator(m_forwardRoutes.rbegin()),
+                                std::make_move_iterator(m_forwardRoutes.rend()));
     m_forwardRoutes.clear();
-    SectionState earlier = std::move(m_earlierSections.back());
+    m_laterSections.push_back(std::move(later));
+    const TabState earlier = std::move(m_earlierSections.back());
     m_earlierSections.pop_back();
-    showSection(std::move(earlier));
+    show(earlier);
 }
 
 void Router::forward()
@@ -256,12 +259,13 @@ void Router::forward()
     }
     if (m_laterSections.empty())
         return;
-    m_earlierSections.push_back(m_section);
-    SectionState later = std::move(m_laterSections.back());
+    m_earlierSections.push_back(state());
+    TabState later = std::move(m_laterSections.back());
     m_laterSections.pop_back();
-    m_forwardRoutes.assign(std::make_move_iterator(later.routes.rbegin()),
-                           std::make_move_iterator(later.routes.rend()));
-    showSection({.selection = later.selection, .routes = {}});
+    m_forwardRoutes.assign(std::make_move_iterator(later.section.routes.rbegin()),
+                           std::make_move_iterator(later.section.routes.rend()));
+    later.section.routes.clear();
+    show(later);
 }
 
 void Router::backTo(int depth)

@@ -131,7 +131,7 @@ Q_SIGNALS:
 private:
     [[nodiscard]] int selectionIndex() const { return static_cast<int>(m_section.selection); }
     [[nodiscard]] QString titleAt(int depth) const;
-    void showSection(SectionState section);
+    void show(const TabState& state);
     void popTo(std::size_t count);
     void forgetAbove(int depth);
 
@@ -144,8 +144,8 @@ private:
     SectionState m_section;
     QDateTime m_lastSelectionChange;
     std::vector<Route> m_forwardRoutes;
-    std::vector<SectionState> m_earlierSections;
-    std::vector<SectionState> m_laterSections;
+    std::vector<TabState> m_earlierSections; ///< as they were left, with their titles and places
+    std::vector<TabState> m_laterSections;   ///< each with all pages that one could go forward to in it
     QMap<int, QString> m_pageTitles;
     QMap<int, double> m_scrollPositions;
     int m_reloadToken = 0;

@@ -59,7 +59,8 @@ void WindowSession::selectTab(int index)
         select(tab->id());
 }
 
-void WindowSession::select(const QUuid& id)
+// By value: the identifier may stand in the list that it is moved in.
+void WindowSession::select(QUuid id)
 {
     m_recency.removeAll(id);
     m_recency.prepend(id);

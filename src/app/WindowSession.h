@@ -117,7 +117,7 @@ private:
     };
 
     Router* insertTab(int index, SidebarItem section, TabActivation activation);
-    void select(const QUuid& id);
+    void select(QUuid id);
     void setPanel(bool& panel, bool isOpen);
     void dropTab(int index);
     [[nodiscard]] QVariant lightboxVariant() const;

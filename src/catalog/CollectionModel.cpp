@@ -68,7 +68,8 @@ QString CollectionModel::key() const
 
 CollectionRequest CollectionModel::request(const std::optional<QString>& after) const
 {
-    return {.handle = m_handle, .first = after ? pageSize : firstPageSize, .after = after, .filters = {}, .sort = m_sort};
+    return {
+        .handle = m_handle, .first = after ? pageSize : firstPageSize, .after = after, .filters = {}, .sort = m_sort};
 }
 
 void CollectionModel::setSort(CollectionSort sort)

@@ -14,7 +14,7 @@ CollectionTilesModel::CollectionTilesModel(QStringList handles, StorefrontAPI& a
     , m_loading([this] { Q_EMIT changed(); })
 {
     connect(&market, &MarketStore::revisionChanged, this, [this] {
-        if (m_isLoaded || isLoading())
+        if (m_isLoaded || m_failure || isLoading())
             reload();
     });
 }

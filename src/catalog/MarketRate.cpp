@@ -38,8 +38,10 @@ std::optional<MarketRate> measuredRate(const QString& country, const std::option
 {
     if (!market || !unitedStates || market->currency == unitedStates->currency)
         return std::nullopt;
-    return MarketRate{
-        .currency = market->currency, .rate = market->sum / unitedStates->sum, .sampledAt = now, .country = country};
+    const double rate = market->sum / unitedStates->sum;
+    if (!std::isfinite(rate) || rate <= 0)
+        return std::nullopt;
+    return MarketRate{.currency = market->currency, .rate = rate, .sampledAt = now, .country = country};
 }
 
 ConvertedAmount convertUSDollars(double amount, const std::optional<MarketRate>& rate)

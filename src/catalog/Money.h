@@ -5,6 +5,8 @@
 #include <QJsonObject>
 #include <QString>
 
+#include <optional>
+
 namespace loom
 {
 
@@ -18,6 +20,9 @@ struct Money {
 
 /// Reads {"amount", "currencyCode"}; the amount may be a number or, as the Storefront sends it, a decimal text.
 [[nodiscard]] Money decodeMoney(const JsonReader& json);
+/// The same of what stands under `key`; none when that is absent, cannot be read or is zero, which is how the
+/// Storefront writes that there is none.
+[[nodiscard]] std::optional<Money> decodeOptionalMoney(const JsonReader& json, std::string_view key);
 [[nodiscard]] QJsonObject toJson(const Money& money);
 
 } // namespace loom

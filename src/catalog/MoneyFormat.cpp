@@ -47,7 +47,7 @@ QString MoneyFormat::text(const Money& money) const
         if (U_SUCCESS(status) && status != U_STRING_NOT_TERMINATED_WARNING)
             return QString::fromUtf16(buffer.data(), length);
     }
-    return QString::number(money.amount, 'f', 2) + QLatin1Char(' ') + money.currencyCode;
+    return (QString::number(money.amount, 'f', 2) + QLatin1Char(' ') + money.currencyCode).trimmed();
 }
 
 } // namespace loom

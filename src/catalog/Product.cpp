@@ -25,10 +25,7 @@ ProductVariant decodeVariant(const JsonReader& json)
     variant.title = json.optionalText("title").value_or(QString());
     variant.availableForSale = json.optionalBoolean("availableForSale").value_or(false);
     variant.price = decodeMoney(json.object("price"));
-    if (const auto compareAt = json.optionalObject("compareAtPrice")) {
-        if (const Money money = decodeMoney(*compareAt); money.amount > 0)
-            variant.compareAtPrice = money;
-    }
+    variant.compareAtPrice = decodeOptionalMoney(json, "compareAtPrice");
     for (const JsonReader& option : json.optionalList("selectedOptions"))
         variant.selectedOptions.append({.name = option.text("name"), .value = option.text("value")});
     variant.imageURL = readImageAddress(json, "image");

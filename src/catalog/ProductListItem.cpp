@@ -8,33 +8,6 @@
 namespace loom
 {
 
-namespace
-{
-
-std::optional<Money> minimumPrice(const JsonReader& json, std::string_view key)
-{
-    const auto range = json.optionalObject(key);
-    const auto price = range ? range->optionalObject("minVariantPrice") : std::nullopt;
-    if (!price)
-        return std::nullopt;
-    return Money{.amount = price->optionalDecimal("amount").value_or(0),
-                 .currencyCode = price->optionalText("currencyCode").value_or(QString())};
-}
-
-/// The Storefront writes "no former price" as an amount of zero.
-std::optional<Money> unlessZero(std::optional<Money> money)
-{
-    return money && money->amount > 0 ? money : std::nullopt;
-}
-
-std::optional<Money> storedMoney(const JsonReader& json, std::string_view key)
-{
-    const auto object = json.optionalObject(key);
-    return object ? std::optional(decodeMoney(*object)) : std::nullopt;
-}
-
-} // namespace
-
 ProductListItem decodeListItem(const JsonReader& json)
 {
     ProductListItem item;
@@ -47,7 +20,8 @@ ProductListItem decodeListItem(const JsonReader& json)
     item.imageURL = readImageAddress(json, "featuredImage");
     item.createdAt = json.optionalDate("createdAt");
     item.price = decodeMoney(json.object("priceRange").object("minVariantPrice"));
-    item.compareAtPrice = unlessZero(minimumPrice(json, "compareAtPriceRange"));
+    if (const auto range = json.optionalObject("compareAtPriceRange"))
+        item.compareAtPrice = decodeOptionalMoney(*range, "minVariantPrice");
     for (const JsonReader& variant : readNodes(json, "styleVariants")) {
         if (const auto address = readImageAddress(variant, "image"))
             item.styleImages.append(*address);
@@ -66,9 +40,10 @@ ProductListItem decodeStoredItem(const JsonReader& json)
     item.handle = json.text("handle");
     item.title = json.text("title");
     item.vendor = json.optionalText("vendor").value_or(QString());
-    item.imageURL = json.optionalText("imageURL");
+    if (const auto address = json.optionalText("imageURL"); address && !address->isEmpty())
+        item.imageURL = address;
     item.price = decodeMoney(json.object("price"));
-    item.compareAtPrice = storedMoney(json, "compareAtPrice");
+    item.compareAtPrice = decodeOptionalMoney(json, "compareAtPrice");
     item.tags = json.textList("tags");
     item.createdAt = json.optionalDate("createdAt");
     item.styleImages = json.textList("styleImages");

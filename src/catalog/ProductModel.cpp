@@ -39,7 +39,7 @@ ProductModel::ProductModel(QString handle, std::optional<ProductListItem> item, 
     , m_loading([this] { Q_EMIT stateChanged(); })
 {
     connect(&market, &MarketStore::revisionChanged, this, [this] {
-        if (m_product || isLoading())
+        if (phase() != Phase::Idle)
             reload();
     });
     connect(&market, &MarketStore::rateChanged, this, &ProductModel::rateChanged);
@@ -104,10 +104,8 @@ QString ProductModel::formerPriceText() const
 
 bool ProductModel::isSoldOut() const
 {
-    if (m_product) {
-        if (const ProductVariant* const variant = selectedVariant(*m_product, m_selection))
-            return !variant->availableForSale;
-    }
+    if (m_product && !m_product->variants.empty() && !m_selection.isEmpty())
+        return !canBeBought(*m_product, m_selection);
     return item() && item()->availableForSale == false;
 }
 

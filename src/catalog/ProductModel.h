@@ -76,6 +76,7 @@ public:
     [[nodiscard]] QString label() const;
     [[nodiscard]] QString price() const;
     [[nodiscard]] QString formerPriceText() const;
+    /// Nothing of what is chosen can be bought, nor of the whole piece while nothing is chosen.
     [[nodiscard]] bool isSoldOut() const;
     /// How few are left of the chosen variant; empty while that is nothing to mention.
     [[nodiscard]] QString stockText() const;

@@ -3,6 +3,10 @@
 #include "catalog/StorefrontQueries.h"
 #include "catalog/StorefrontReading.h"
 
+#include <QSet>
+
+#include <string>
+
 namespace loom
 {
 
@@ -99,16 +103,18 @@ QHash<QString, QStringList> readCardImages(const JsonReader& data)
     return images;
 }
 
+/// A JSON object has no order: the aliases have.
 std::vector<CollectionTile> readTiles(const JsonReader& data)
 {
     std::vector<CollectionTile> tiles;
-    for (const auto& [alias, collection] : data.members()) {
-        const auto handle = collection.optionalText("handle");
-        const auto title = collection.optionalText("title");
+    for (qsizetype i = 0; i < StorefrontAPI::maximumBatch; ++i) {
+        const auto collection = data.optionalObject("c" + std::to_string(i));
+        const auto handle = collection ? collection->optionalText("handle") : std::nullopt;
+        const auto title = collection ? collection->optionalText("title") : std::nullopt;
         if (!handle || !title)
             continue;
-        CollectionTile tile{.handle = *handle, .title = *title, .imageURL = readImageAddress(collection, "image")};
-        for (const JsonReader& product : readNodes(collection, "firstProduct")) {
+        CollectionTile tile{.handle = *handle, .title = *title, .imageURL = readImageAddress(*collection, "image")};
+        for (const JsonReader& product : readNodes(*collection, "firstProduct")) {
             if (!tile.imageURL)
                 tile.imageURL = readImageAddress(product, "featuredImage");
         }
@@ -132,7 +138,7 @@ CountPage readCountPage(const JsonReader& data)
     const JsonReader pageInfo = products.object("pageInfo");
     return {.exists = true,
             .count = static_cast<qint64>(products.list("nodes").size()),
-            .nextCursor = pageInfo.boolean("hasNextPage") ? pageInfo.optionalText("endCursor") : std::nullopt};
+            .nextCursor = pageInfo.boolean("hasNextPage") ? std::optional(pageInfo.text("endCursor")) : std::nullopt};
 }
 
 MarketCountry readCountry(const JsonReader& json)
@@ -303,7 +309,8 @@ QCoro::Task<ApiResult<std::optional<qint64>>> StorefrontAPI::collectionProductCo
 {
     qint64 count = 0;
     std::optional<QString> after;
-    do {
+    QSet<QString> passed;
+    while (true) {
         LOOM_CO_TRY(page, co_await m_client.send(queries::collectionProductCount(),
                                                  {{QStringLiteral("handle"), handle},
                                                   {QStringLiteral("after"), orNull(after)},
@@ -312,10 +319,14 @@ QCoro::Task<ApiResult<std::optional<qint64>>> StorefrontAPI::collectionProductCo
         if (!page.exists)
             co_return std::optional<qint64>();
         count += page.count;
-        // A cursor that does not move would walk for ever.
-        after = page.nextCursor != after ? page.nextCursor : std::nullopt;
-    } while (after);
-    co_return std::optional(count);
+        if (!page.nextCursor)
+            co_return std::optional(count);
+        // Cursors that lead in a circle would walk for ever, and count nothing.
+        if (passed.contains(*page.nextCursor))
+            co_return apiFailure(APIError::InvalidResponse{});
+        passed.insert(*page.nextCursor);
+        after = page.nextCursor;
+    }
 }
 
 QCoro::Task<ApiResult<std::vector<MarketCountry>>> StorefrontAPI::countries(std::stop_token stop)

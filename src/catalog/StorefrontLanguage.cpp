@@ -25,9 +25,9 @@ QString storefrontLanguageCode(AppLanguage language, const QString& systemRegion
 {
     switch (language) {
     case AppLanguage::Portuguese:
-        if (systemRegion == QLatin1String("BR"))
+        if (systemRegion.compare(QLatin1String("BR"), Qt::CaseInsensitive) == 0)
             return QStringLiteral("PT_BR");
-        if (systemRegion == QLatin1String("PT"))
+        if (systemRegion.compare(QLatin1String("PT"), Qt::CaseInsensitive) == 0)
             return QStringLiteral("PT_PT");
         return QStringLiteral("PT");
     case AppLanguage::ZhHant:

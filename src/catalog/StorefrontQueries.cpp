@@ -66,11 +66,14 @@ QString document(std::initializer_list<const char*> pieces)
     return texts.join(QLatin1Char('\n'));
 }
 
-/// A JSON string literal, which is a GraphQL one too; an empty pair of quotes for what cannot be written.
+/// A JSON string literal, which is a GraphQL one too; an empty pair of quotes for what cannot be written: half of a
+/// surrogate pair would be refused, and the whole document with it.
 QString literal(const QString& text)
 {
+    if (!text.isValidUtf16())
+        return QStringLiteral("\"\"");
     const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    return list.size() < 4 ? QStringLiteral("\"\"") : QString::fromUtf8(list.mid(1, list.size() - 2));
+    return QString::fromUtf8(list.mid(1, list.size() - 2));
 }
 
 QString productBatch(const QString& operation, qsizetype handleCount, const QString& selection)

@@ -23,13 +23,6 @@ bool fits(const ProductVariant& variant, const Selection& selection)
         selection.keys(), [&](const QString& option) { return valueOf(variant, option) == selection.value(option); });
 }
 
-bool canBeBought(const Product& product, const Selection& selection)
-{
-    return std::ranges::any_of(product.variants, [&](const ProductVariant& variant) {
-        return variant.availableForSale && fits(variant, selection);
-    });
-}
-
 QString pictureOf(const Product& product, const QString& option, const QString& value)
 {
     for (const ProductVariant& variant : product.variants) {
@@ -68,6 +61,13 @@ bool hasOptions(const Product& product)
     const bool isPlaceholder = product.options.size() == 1 && product.options.front().values.size() == 1 &&
                                product.options.front().name == QLatin1String("Title");
     return !product.options.empty() && !isPlaceholder;
+}
+
+bool canBeBought(const Product& product, const Selection& selection)
+{
+    return std::ranges::any_of(product.variants, [&](const ProductVariant& variant) {
+        return variant.availableForSale && fits(variant, selection);
+    });
 }
 
 Selection initialSelection(const Product& product)

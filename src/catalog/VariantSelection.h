@@ -52,6 +52,9 @@ using Selection = QMap<QString, QString>;
 
 [[nodiscard]] std::vector<OptionGroup> optionGroups(const Product& product, const Selection& selection);
 
+/// Whether any variant that fits what is chosen can be bought.
+[[nodiscard]] bool canBeBought(const Product& product, const Selection& selection);
+
 /// The variant that is chosen; null while an option is open or the combination does not exist.
 [[nodiscard]] const ProductVariant* selectedVariant(const Product& product, const Selection& selection);
 

@@ -31,16 +31,31 @@ struct FieldWriter {
     }
 };
 
+/// Reads each field a case names. One that is missing leaves the case unread; of those that may be absent a broken one
+/// is.
 struct FieldReader {
     const JsonReader& json;
+    bool& isWhole;
 
-    void operator()(const char* key, QString& value) const { value = json.text(key); }
-    void operator()(const char* key, QStringList& value) const { value = json.textList(key); }
+    void operator()(const char* key, QString& value) const
+    {
+        const auto text = json.optionalText(key);
+        isWhole = isWhole && text;
+        value = text.value_or(QString());
+    }
+    void operator()(const char* key, QStringList& value) const
+    {
+        isWhole = isWhole && json.has(key) && json.value(key).isList();
+        value = json.textList(key);
+    }
     void operator()(const char* key, std::optional<QString>& value) const { value = json.optionalText(key); }
     void operator()(const char* key, std::optional<ProductListItem>& value) const
     {
-        if (const auto item = json.optionalObject(key))
-            value = decodeStoredItem(*item);
+        if (!json.has(key))
+            return;
+        const auto items = JsonReader::decodeEach({json.value(key)}, decodeStoredItem);
+        if (!items.empty())
+            value = items.front();
     }
 };
 
@@ -56,8 +71,10 @@ bool readCase(const JsonReader& json, const QString& type, const QString& caseNa
         if (type != QLatin1String(RouteType::type) || caseName != QLatin1String(Case::name))
             return readCase<RouteType, Index + 1>(json, type, caseName, route);
         Case page;
-        Case::fields(page, FieldReader{json});
-        route = RouteType{page};
+        bool isWhole = true;
+        Case::fields(page, FieldReader{json, isWhole});
+        if (isWhole)
+            route = RouteType{page};
         return true;
     }
 }

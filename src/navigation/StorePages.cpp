@@ -124,14 +124,16 @@ QUrl StorePages::page(const Route& route) const
 
 QUrl StorePages::page(const QString& path) const
 {
-    return QUrl(m_webBase + path);
+    // What follows the host at once would become a part of it.
+    return QUrl(path.startsWith(QLatin1Char('/')) ? m_webBase + path : m_webBase + QLatin1Char('/') + path);
 }
 
 bool StorePages::mayLoad(const QUrl& url) const
 {
     const QString host = url.host().toLower();
+    const QString store = storeHost();
     return url.scheme() == QLatin1String("https") && url.userInfo().isEmpty() && url.port(443) == 443 &&
-           (host == storeHost() || host == QLatin1String("www.") + storeHost());
+           !store.isEmpty() && (host == store || host == QLatin1String("www.") + store);
 }
 
 } // namespace loom

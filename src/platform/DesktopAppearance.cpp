@@ -58,7 +58,10 @@ DesktopAppearance::DesktopAppearance(QObject* parent)
     read(interfaceGroup, textScaleKey);
 }
 
-bool DesktopAppearance::isRightToLeft() const { return QGuiApplication::layoutDirection() == Qt::RightToLeft; }
+bool DesktopAppearance::isRightToLeft() const
+{
+    return QGuiApplication::layoutDirection() == Qt::RightToLeft;
+}
 
 void DesktopAppearance::read(const QString& group, const QString& key)
 {

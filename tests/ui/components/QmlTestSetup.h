@@ -6,10 +6,12 @@
 
 class QQmlEngine;
 
-namespace loom {
+namespace loom
+{
 
 /// Prepares the engine of each test file.
-class QmlTestSetup : public QObject {
+class QmlTestSetup : public QObject
+{
     Q_OBJECT
 
 public Q_SLOTS:

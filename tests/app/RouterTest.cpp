@@ -1,0 +1,408 @@
+#include "Desk.h"
+
+using namespace loom;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+/// A page that can be reloaded, and may do something else meanwhile.
+class ReloadingPage : public QObject
+{
+    Q_OBJECT
+
+public:
+    int reloads = 0;
+    std::function<void()> meanwhile;
+
+    Q_INVOKABLE void reload()
+    {
+        ++reloads;
+        if (meanwhile)
+            meanwhile();
+    }
+};
+
+/// Follows a router as the page container does, by its signals alone.
+class Container : public QObject
+{
+public:
+    explicit Container(Router& router)
+    {
+        connect(&router, &Router::pushed, this, [this](int depth) {
+            EXPECT_EQ(depth, pages);
+            ++pages;
+        });
+        connect(&router, &Router::popped, this, [this](int depth) {
+            EXPECT_LT(depth + 1, pages);
+            pages = depth + 1;
+        });
+        connect(&router, &Router::replaced, this, [this](int depth) { EXPECT_EQ(depth + 1, pages); });
+        connect(&router, &Router::reset, this, [this, &router] { pages = router.depth() + 1; });
+    }
+
+    int pages = 1;
+};
+
+class RouterTest : public Desk
+{
+protected:
+    Router& tab() { return *session.selected(); }
+
+    WindowSession session{services, {}};
+};
+
+const QString silk = QStringLiteral("silk");
+
+TEST_F(RouterTest, ALinkLeadsToItsTarget)
+{
+    struct Row {
+        const char* link;
+        bool isOpened;
+        const char* shown;
+        const char* browsed;
+    };
+    for (const Row& row : {
+             Row{"/products/silk", true, "home: product silk", ""},
+             Row{"loomstreet://collections/new-in", true, "home: collection new-in", ""},
+             Row{"/search?q=silk%20dress", true, "home: search silk dress", ""},
+             Row{"https://www.loom.example/pages/brands-at-loomstreet", true, "brands", ""},
+             Row{"/pages/starlook", true, "starlook", ""},
+             Row{"/account/orders", true, "account", ""},
+             Row{"/cart", true, "home", ""},
+             Row{"/pages/about", true, "home", "https://loom.example/pages/about"},
+             Row{"https://other.example/a", true, "home", "https://other.example/a"},
+             Row{"/", false, "home", ""},
+             Row{"", false, "home", ""},
+         }) {
+        WindowSession window(services, {});
+        browsed.clear();
+        Router& router = *window.selected();
+        EXPECT_EQ(router.openLink(QString::fromUtf8(row.link)), row.isOpened) << row.link;
+        EXPECT_EQ(shown(router), row.shown) << row.link;
+        EXPECT_EQ(browsed.value(0).toString().toStdString(), row.browsed) << row.link;
+        EXPECT_EQ(window.isCartOpen(), QLatin1String(row.link) == QLatin1String("/cart"));
+        EXPECT_EQ(window.tabs()->count(), 1);
+    }
+    EXPECT_FALSE(tab().open(std::nullopt));
+
+    Router alone(services, nullptr, SidebarItem::Home);
+    EXPECT_TRUE(alone.openLink(QStringLiteral("/cart"))); // there is no panel to open
+    EXPECT_EQ(shown(alone), "home");
+}
+
+TEST_F(RouterTest, ALinkInAPageOfTheStoreStaysInTheWindowWhereItCan)
+{
+    struct Row {
+        const char* link;
+        const char* shown;
+        const char* browsed;
+    };
+    for (const Row& row : {
+             Row{"https://www.loom.example/products/silk", "home: product silk", ""},
+             Row{"https://www.loom.example/pages/about?a=%C5%82#b", "home: page /pages/about?a=%C5%82#b", ""},
+             Row{"/pages/care", "home: page /pages/care", ""},
+             Row{"https://www.loom.example//evil.example/a", "home: page //evil.example/a", ""},
+             Row{"https://evil.example/pages/about", "home", "https://evil.example/pages/about"},
+             Row{"https://www.loom.example:8443/a", "home", "https://www.loom.example:8443/a"},
+             Row{"https://www.loom.example/", "home", ""},
+         }) {
+        Router router(services, nullptr, SidebarItem::Home);
+        browsed.clear();
+        router.openFromStorePage(QString::fromUtf8(row.link));
+        EXPECT_EQ(shown(router), row.shown) << row.link;
+        EXPECT_EQ(browsed.value(0).toString().toStdString(), row.browsed) << row.link;
+        const QUrl address = router.page(router.depth()).address;
+        EXPECT_TRUE(address.isEmpty() || services.storePages.mayLoad(address)) << row.link;
+    }
+}
+
+TEST_F(RouterTest, AProductOpensWhereTheKeysSay)
+{
+    struct Row {
+        OpenMode mode;
+        Qt::KeyboardModifiers keys;
+        bool inNewTab;
+        bool isSelected;
+    };
+    for (const Row& row : {
+             Row{OpenMode::Automatic, Qt::NoModifier, false, true},
+             Row{OpenMode::Automatic, Qt::ShiftModifier, false, true},
+             Row{OpenMode::Automatic, Qt::ControlModifier, true, true},
+             Row{OpenMode::Automatic, Qt::ControlModifier | Qt::ShiftModifier, true, false},
+             Row{OpenMode::Page, Qt::ControlModifier, false, true},
+             Row{OpenMode::NewTab, Qt::NoModifier, true, true},
+             Row{OpenMode::NewTab, Qt::ShiftModifier, true, false},
+         }) {
+        WindowSession window(services, {.section = SidebarItem::Women});
+        Router& router = *window.selected();
+        keys = row.keys;
+        router.openProduct({.handle = silk}, row.mode);
+        ASSERT_EQ(window.tabs()->count(), row.inNewTab ? 2 : 1);
+        Router& opened = *window.tabs()->at(row.inNewTab ? 1 : 0);
+        EXPECT_EQ(shown(opened), "women: product silk");
+        EXPECT_EQ(window.selected() == &opened, row.isSelected);
+
+        Router alone(services, nullptr, SidebarItem::Men);
+        alone.openProduct({.handle = silk}, row.mode);
+        EXPECT_EQ(shown(alone), "men: product silk");
+    }
+    keys = {};
+
+    ProductListItem item;
+    item.handle = silk;
+    item.title = QStringLiteral("Silk dress");
+    tab().openProductCard(silk, QVariant::fromValue(item));
+    EXPECT_EQ(tab().page(1).item, item);
+    EXPECT_EQ(tab().title(), QStringLiteral("Silk dress"));
+    for (const QVariant& none : {QVariant(), QVariant(7), QVariant::fromValue(nullptr)}) {
+        tab().openProductCard(silk, none);
+        EXPECT_EQ(tab().page(tab().depth()).item, std::nullopt);
+    }
+    tab().openProductInNewTab(silk, QVariant::fromValue(item));
+    EXPECT_EQ(session.tabs()->count(), 2);
+    EXPECT_EQ(tab().page(1).item, item);
+}
+
+TEST_F(RouterTest, BackAndForwardFindEveryPageAgain)
+{
+    struct Row {
+        const char* steps; ///< +x opens piece x, *x collection x, @x section x, < and > go back and forward, ^ goes
+                           ///< to the section's root, 0 to 9 to that depth
+        const char* shown;
+        const char* forward; ///< how often one can go forward
+    };
+    for (const Row& row : {
+             Row{"<", "home", "0"},
+             Row{"+a +b", "home: product a > product b", "0"},
+             Row{"+a +b <", "home: product a", "1"},
+             Row{"+a +b < < < <", "home", "2"},
+             Row{"+a +b < < > > > >", "home: product a > product b", "0"},
+             Row{"+a +b < +c", "home: product a > product c", "0"},
+             Row{"+a +b +c ^", "home", "3"},
+             Row{"+a +b +c ^ > >", "home: product a > product b", "1"},
+             Row{"+a +b +c 1", "home: product a", "2"},
+             Row{"+a 7", "home: product a", "0"},
+
+             // from one collection to another the stack does not grow, and what was ahead is gone
+             Row{"*a *b *c", "home: collection c", "0"},
+             Row{"*a +p *b *c", "home: collection a > product p > collection c", "0"},
+             Row{"*a +p < *b", "home: collection b", "0"},
+             Row{"@women *a @men < *b", "women: collection b", "0"},
+
+             // across sections
+             Row{"@home", "home", "0"},
+             Row{"+a @home", "home", "1"},
+             Row{"+a @women", "women", "0"},
+             Row{"+a @women <", "home: product a", "1"},
+             Row{"+a @women < <", "home", "2"},
+             Row{"+a @women < < > >", "women", "0"},
+             Row{"+a @women +b +c < < <", "home: product a", "3"},
+             Row{"+a @women +b +c < < < > > >", "women: product b > product c", "0"},
+             Row{"+a @women +b @men +c < < < < <", "home", "5"},
+             Row{"+a @women +b @men +c < < < < < > > > > >", "men: product c", "0"},
+             Row{"+a @women +b < < +c", "home: product a > product c", "0"},
+             Row{"@women +b < < @men", "men", "0"},
+             Row{"@women @men @women < <", "women", "2"},
+         }) {
+        Router router(services, nullptr, SidebarItem::Home);
+        const Container container(router);
+        const QStringList steps = QString::fromUtf8(row.steps).split(QLatin1Char(' '));
+        for (const QString& step : steps) {
+            const QString rest = step.mid(1);
+            switch (step.at(0).unicode()) {
+            case u'+':
+                router.openProduct({.handle = rest}, OpenMode::Page);
+                break;
+            case u'*':
+                router.openCollection(rest);
+                break;
+            case u'@':
+                router.select(*sidebarItemFromRawValue(rest));
+                break;
+            case u'<':
+                router.back();
+                break;
+            case u'>':
+                router.forward();
+                break;
+            case u'^':
+                router.goToSectionHome();
+                break;
+            default:
+                router.backTo(step.toInt());
+            }
+            EXPECT_EQ(container.pages, router.depth() + 1) << row.steps;
+        }
+        EXPECT_EQ(shown(router), row.shown) << row.steps;
+        int forward = 0;
+        while (router.canGoForward() && forward < 10) {
+            router.forward();
+            ++forward;
+        }
+        EXPECT_EQ(std::to_string(forward), row.forward) << row.steps;
+        while (router.canGoBack())
+            router.back();
+        EXPECT_EQ(shown(router), "home") << row.steps;
+    }
+}
+
+TEST_F(RouterTest, ASectionIsSelectedByItsNumberAndTheTimeIsNoted)
+{
+    Router router(services, nullptr, SidebarItem::Home);
+    EXPECT_EQ(router.lastSelectionChange(), clock.now());
+    clock.advance(5s);
+    for (const int none : {-1, 20, 1'000'000})
+        router.selectItem(none);
+    EXPECT_EQ(shown(router), "home");
+    EXPECT_NE(router.lastSelectionChange(), clock.now());
+    router.selectItem(19);
+    EXPECT_EQ(shown(router), "account");
+    EXPECT_EQ(router.property("selection"), 19);
+    EXPECT_EQ(router.lastSelectionChange(), clock.now());
+}
+
+TEST_F(RouterTest, ATitleBelongsToItsPage)
+{
+    Router router(services, nullptr, SidebarItem::Women);
+    EXPECT_EQ(router.trail(), QStringList(QStringLiteral("Women")));
+    router.openLink(QStringLiteral("/products/silk"));
+    EXPECT_EQ(router.title(), QString());
+    router.setPageTitle(1, QStringLiteral("Silk dress"));
+    router.openCollection(QStringLiteral("new-in"), QStringLiteral("From the menu"));
+    EXPECT_EQ(router.trail(),
+              QStringList({QStringLiteral("Women"), QStringLiteral("Silk dress"), QStringLiteral("From the menu")}));
+    router.setPageTitle(2, QStringLiteral("New In"));
+
+    int told = 0;
+    QObject::connect(&router, &Router::titleChanged, &router, [&told] { ++told; });
+    router.setPageTitle(2, QStringLiteral("New In"));
+    router.setPageTitle(-1, QStringLiteral("?"));
+    router.setPageTitle(3, QStringLiteral("?")); // a page that is gone
+    EXPECT_EQ(told, 0);
+    EXPECT_EQ(router.pageTitles().size(), 2);
+
+    router.openCollection(QStringLiteral("bags")); // in place of the other
+    EXPECT_EQ(router.trail(), QStringList({QStringLiteral("Women"), QStringLiteral("Silk dress"), QString()}));
+    router.setPageTitle(2, QStringLiteral("Bags"));
+    router.back();
+    EXPECT_EQ(router.title(), QStringLiteral("Silk dress"));
+    router.forward();
+    EXPECT_EQ(router.title(), QString()); // until the page tells it again
+    router.select(SidebarItem::Men);
+    EXPECT_EQ(router.trail(), QStringList(QStringLiteral("Men")));
+    router.back();
+    EXPECT_EQ(router.trail(), QStringList({QStringLiteral("Women"), QStringLiteral("Silk dress"), QString()}));
+}
+
+TEST_F(RouterTest, BackReturnsToThePlaceOnThePageAlsoInAnotherSection)
+{
+    Router router(services, nullptr, SidebarItem::Women);
+    router.setScrollPosition(0, 100);
+    router.openCollection(QStringLiteral("new-in"));
+    EXPECT_EQ(router.scrollPosition(1), 0);
+    router.setScrollPosition(1, 2400);
+    router.openProduct({.handle = silk}, OpenMode::Page);
+    router.setScrollPosition(2, 50);
+    router.setScrollPosition(3, 7);
+    router.setScrollPosition(-1, 7);
+    EXPECT_EQ(router.scrollPosition(3), 0);
+    router.back();
+    EXPECT_EQ(router.scrollPosition(1), 2400);
+    router.forward();
+    EXPECT_EQ(router.scrollPosition(2), 0);
+    router.back();
+
+    router.select(SidebarItem::Men);
+    EXPECT_EQ(router.scrollPosition(0), 0);
+    router.setScrollPosition(0, 30);
+    bool isPlaced = false;
+    QObject::connect(&router, &Router::reset, &router, [&] { isPlaced = router.scrollPosition(0) > 0; });
+    router.back();
+    EXPECT_TRUE(isPlaced); // before the pages are built again
+    EXPECT_EQ(router.scrollPosition(0), 100);
+    EXPECT_EQ(router.scrollPosition(1), 2400);
+    router.back();
+    router.forward();
+    router.forward();
+    EXPECT_EQ(shown(router), "men");
+    EXPECT_EQ(router.scrollPosition(0), 30);
+    router.back();
+    EXPECT_EQ(shown(router), "women: collection new-in");
+    EXPECT_EQ(router.scrollPosition(0), 100);
+
+    Router other(services, nullptr, SidebarItem::Home);
+    other.openCollection(QStringLiteral("a"));
+    other.setScrollPosition(1, 10);
+    other.openCollection(QStringLiteral("b"));
+    EXPECT_EQ(other.scrollPosition(1), 0);
+}
+
+TEST_F(RouterTest, AReloadReachesThePagesThatAreShown)
+{
+    Router router(services, nullptr, SidebarItem::Home);
+    ReloadingPage first;
+    auto second = std::make_unique<ReloadingPage>();
+    const int firstKey = router.addReloadHandler(&first);
+    const int secondKey = router.addReloadHandler(second.get());
+    EXPECT_NE(firstKey, secondKey);
+    router.reload();
+    EXPECT_EQ(router.reloadToken(), 1);
+    EXPECT_EQ(first.reloads, 1);
+    EXPECT_EQ(second->reloads, 1);
+    router.softReload();
+    EXPECT_EQ(router.softReloadToken(), 1);
+    EXPECT_EQ(router.reloadToken(), 1);
+    EXPECT_EQ(first.reloads, 1);
+
+    first.meanwhile = [&] {
+        router.removeReloadHandler(firstKey);
+        second.reset(); // another page goes while this one reloads
+    };
+    router.reload();
+    EXPECT_EQ(first.reloads, 2);
+    router.reload();
+    EXPECT_EQ(first.reloads, 2);
+    EXPECT_EQ(router.reloadToken(), 3);
+    router.removeReloadHandler(secondKey);
+    router.removeReloadHandler(99);
+}
+
+TEST_F(RouterTest, ATabIsAValueThatCanBeShownAgain)
+{
+    Router router(services, nullptr, SidebarItem::Women);
+    router.openCollection(QStringLiteral("new-in"));
+    router.setPageTitle(1, QStringLiteral("New In"));
+    router.setScrollPosition(1, 240);
+    router.openProduct({.handle = silk}, OpenMode::Page);
+    router.back();
+    router.setPinned(true);
+    const TabState state = router.state();
+    EXPECT_EQ(state.titles, QStringList({QString(), QStringLiteral("New In")}));
+    EXPECT_EQ(state.scrollOffsets, QList<double>({0, 240}));
+
+    Router again(services, nullptr, SidebarItem::Home);
+    again.openProduct({.handle = silk}, OpenMode::Page);
+    again.select(SidebarItem::Men);
+    const Container container(again);
+    again.restore(state);
+    EXPECT_EQ(again.state(), state);
+    EXPECT_EQ(container.pages, 2);
+    EXPECT_TRUE(again.isPinned());
+    EXPECT_EQ(again.title(), QStringLiteral("New In"));
+    EXPECT_FALSE(again.canGoForward());
+    again.back();
+    EXPECT_FALSE(again.canGoBack()); // nothing of what the tab showed before
+    EXPECT_NE(again.id(), router.id());
+
+    // A pin is the tab's, not the section's.
+    router.setPinned(false);
+    router.select(SidebarItem::Men);
+    router.setPinned(true);
+    router.back();
+    EXPECT_TRUE(router.isPinned());
+}
+
+} // namespace
+
+#include "RouterTest.moc"

@@ -1,0 +1,341 @@
+#include "catalog/CollectionModel.h"
+
+#include "ShopFixture.h"
+
+#include <QAbstractItemModelTester>
+#include <QThreadPool>
+
+using namespace loom;
+using namespace std::chrono_literals;
+using Phase = CollectionModel::Phase;
+
+namespace
+{
+
+const char* const products = "CollectionProducts";
+const char* const counting = "CollectionProductCount";
+
+class CollectionModelTest : public ShopFixture
+{
+protected:
+    /// One piece for each letter; without a cursor the last page.
+    [[nodiscard]] static QJsonValue page(const char* letters, const char* cursor = nullptr)
+    {
+        QStringList handles;
+        for (const QChar letter : QString::fromLatin1(letters))
+            handles.append(letter);
+        QJsonValue data = json(R"({"collection": {"id": "1", "handle": "dresses", "title": "Dresses",
+            "products": {"pageInfo": {"hasNextPage": false, "endCursor": null}}}})");
+        if (cursor) {
+            data = changed(data, QStringLiteral("collection.products.pageInfo"),
+                           QJsonObject{{QStringLiteral("hasNextPage"), true},
+                                       {QStringLiteral("endCursor"), QLatin1String(cursor)}});
+        }
+        return changed(data, QStringLiteral("collection.products.nodes"), cards(handles));
+    }
+    [[nodiscard]] static QJsonValue counted(int count)
+    {
+        QJsonArray nodes;
+        for (int i = 0; i < count; ++i)
+            nodes.append(QJsonObject());
+        return changed(json(R"({"collection": {"products": {"pageInfo": {"hasNextPage": false}}}})"),
+                       QStringLiteral("collection.products.nodes"), nodes);
+    }
+    [[nodiscard]] static QJsonValue missing() { return json(R"({"collection": null})"); }
+
+    void settle(std::size_t requests)
+    {
+        server.waitForRequests(requests);
+        waitUntil([this] { return !model->isLoading() && !model->isLoadingMore(); }, "the model has its answer");
+    }
+    /// What comes after the model has its answer, such as a count.
+    void settleAll(std::size_t requests)
+    {
+        settle(requests);
+        waitUntil([this] { return clock.sleepers() == 0; }, "every answer has arrived");
+        QThreadPool::globalInstance()->waitForDone();
+        drainEvents();
+    }
+    void load()
+    {
+        model->load();
+        settle(sent() + 1);
+    }
+    void loadMore()
+    {
+        model->loadMore();
+        settle(sent() + 1);
+    }
+    [[nodiscard]] std::string shown() const
+    {
+        std::string letters;
+        for (const ProductListItem& item : model->products()->items())
+            letters += item.handle.toStdString();
+        return letters;
+    }
+
+    std::unique_ptr<CollectionModel> model = std::make_unique<CollectionModel>(
+        QStringLiteral("dresses"), QStringLiteral("From the menu"), api, market, money, clock);
+    QAbstractItemModelTester tester{model->products(), QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+TEST_F(CollectionModelTest, APhaseFollowsFromWhatHappened)
+{
+    EXPECT_EQ(model->phase(), Phase::Idle);
+    EXPECT_EQ(model->title(), QStringLiteral("From the menu"));
+    const auto told = emissions(*model, &CollectionModel::changed);
+    answer(products, Answer::body("", 404));
+    model->load();
+    EXPECT_EQ(model->phase(), Phase::Loading);
+    EXPECT_EQ(*told, 1);
+    settle(1);
+    EXPECT_EQ(*told, 2);
+    EXPECT_EQ(model->phase(), Phase::Failed);
+    EXPECT_EQ(model->errorText(), errorDescription({APIError::Http{.status = 404}}));
+    EXPECT_FALSE(model->isOffline());
+
+    answer(products, Answer::drop());
+    load();
+    EXPECT_EQ(model->phase(), Phase::Failed);
+    EXPECT_TRUE(model->isOffline());
+
+    answer(products, page(""));
+    load();
+    EXPECT_EQ(model->phase(), Phase::Empty);
+    EXPECT_EQ(model->title(), QStringLiteral("Dresses"));
+    EXPECT_EQ(model->errorText(), QString());
+    EXPECT_EQ(model->property("totalCount"), 0);
+
+    answer(products, page("abc"));
+    model->reload();
+    settle(4);
+    EXPECT_EQ(model->phase(), Phase::Loaded);
+    EXPECT_EQ(shown(), "abc");
+    EXPECT_EQ(model->property("totalCount"), 3);
+    EXPECT_FALSE(model->hasNextPage());
+
+    model->load(); // nothing to do
+    EXPECT_FALSE(model->isLoading());
+
+    answer(products, Answer::drop());
+    model->reload();
+    EXPECT_EQ(model->phase(), Phase::Loaded);
+    settle(5);
+    EXPECT_EQ(model->phase(), Phase::Loaded); // what is shown stays
+    EXPECT_EQ(shown(), "abc");
+    EXPECT_NE(model->errorText(), QString());
+
+    answer(products, missing());
+    model->reload();
+    settle(6);
+    EXPECT_EQ(model->phase(), Phase::Missing);
+    EXPECT_EQ(model->title(), QStringLiteral("From the menu"));
+    EXPECT_EQ(model->property("totalCount"), -1);
+    answer(products, Answer::body("[]"));
+    model->reload();
+    EXPECT_EQ(model->phase(), Phase::Loading);
+    settle(7);
+    EXPECT_EQ(model->phase(), Phase::Failed);
+}
+
+TEST_F(CollectionModelTest, MoreIsAppendedOnceUntilTheListEnds)
+{
+    model->loadMore(); // before there is anything
+    answer(products, page("ab", "c1"));
+    answer(counting, counted(5));
+    model->load();
+    model->loadMore(); // while the first page is on its way
+    settleAll(2);
+    EXPECT_EQ(model->totalCount(), 5);
+    EXPECT_TRUE(model->hasNextPage());
+
+    answer(products, page("bcd", "c2"));
+    model->loadMore();
+    EXPECT_TRUE(model->isLoadingMore());
+    EXPECT_EQ(model->phase(), Phase::Loaded);
+    model->loadMore();
+    settle(3);
+    EXPECT_EQ(shown(), "abcd");
+    EXPECT_EQ(lastVariables().value(QStringLiteral("after")), QStringLiteral("c1"));
+    EXPECT_EQ(lastVariables().value(QStringLiteral("first")), CollectionModel::pageSize);
+
+    answer(products, Answer::body("", 404));
+    loadMore();
+    EXPECT_EQ(shown(), "abcd");
+    EXPECT_TRUE(model->hasLoadMoreFailed());
+    EXPECT_EQ(model->loadMoreErrorText(), errorDescription({APIError::Http{.status = 404}}));
+    EXPECT_EQ(model->errorText(), QString());
+    EXPECT_TRUE(model->hasNextPage());
+
+    answer(products, page("e"));
+    model->loadMore();
+    EXPECT_FALSE(model->hasLoadMoreFailed());
+    settle(5);
+    EXPECT_EQ(lastVariables().value(QStringLiteral("after")), QStringLiteral("c2"));
+    EXPECT_EQ(shown(), "abcde");
+    EXPECT_FALSE(model->hasNextPage());
+    model->loadMore();
+    EXPECT_FALSE(model->isLoadingMore());
+    EXPECT_EQ(model->totalCount(), 5);
+}
+
+TEST_F(CollectionModelTest, ACursorThatDoesNotMoveEndsTheList)
+{
+    answer(products, page("ab", "c1"));
+    answer(counting, Answer::body("", 404));
+    model->load();
+    settleAll(2);
+    answer(products, page("ab", "c1"));
+    loadMore();
+    EXPECT_FALSE(model->hasNextPage());
+    EXPECT_EQ(shown(), "ab");
+    EXPECT_EQ(model->totalCount(), std::nullopt);
+}
+
+TEST_F(CollectionModelTest, AnotherOrderBeginsAtItsFirstPage)
+{
+    EXPECT_EQ(CollectionModel::sortLabels().join(QLatin1Char('|')),
+              QStringLiteral("Featured|Newest|Price: Low to High|Price: High to Low|Best Selling"));
+    answer(products, page("ab", "c1"));
+    answer(counting, counted(3));
+    model->load();
+    settleAll(2);
+    struct Row {
+        int sort;
+        const char* key;
+        bool reverse;
+    };
+    for (const Row& row : {Row{3, "PRICE", true}, Row{2, "PRICE", false}, Row{1, "CREATED", true},
+                           Row{4, "BEST_SELLING", false}, Row{0, "COLLECTION_DEFAULT", false}}) {
+        answer(products, page(row.reverse ? "ba" : "ab"));
+        model->setProperty("sort", row.sort);
+        EXPECT_EQ(model->property("sort"), row.sort);
+        EXPECT_EQ(model->phase(), Phase::Loaded);
+        settle(sent() + 1);
+        EXPECT_EQ(shown(), row.reverse ? "ba" : "ab");
+        EXPECT_EQ(lastVariables().value(QStringLiteral("sortKey")), QLatin1String(row.key));
+        EXPECT_EQ(lastVariables().value(QStringLiteral("reverse")), row.reverse);
+        EXPECT_EQ(lastVariables().value(QStringLiteral("after")), QJsonValue());
+    }
+    const std::size_t before = sent();
+    for (const int none : {0, -1, 5})
+        model->setProperty("sort", none);
+    EXPECT_EQ(model->sort(), CollectionSort::Featured);
+    EXPECT_FALSE(model->isLoading());
+    EXPECT_EQ(sent(), before);
+}
+
+TEST_F(CollectionModelTest, AnAnswerThatComesLateIsDropped)
+{
+    answer(products, envelope(page("a", "old")).pauseAfter(0));
+    model->load();
+    server.waitForRequests(1);
+    answer(products, page("b", "c1"));
+    answer(counting, envelope(counted(7)).pauseAfter(0));
+    model->setSort(CollectionSort::Newest);
+    server.waitForRequests(3);
+    EXPECT_EQ(shown(), "b");
+
+    answer(products, envelope(page("x")).pauseAfter(0));
+    model->loadMore();
+    server.waitForRequests(4);
+    answer(products, page("cd"));
+    model->setSort(CollectionSort::PriceLow);
+    EXPECT_FALSE(model->isLoadingMore());
+    settle(5);
+    EXPECT_EQ(model->totalCount(), 2);
+    server.proceed(); // a page, a further page and a count of former orders
+    settleAll(5);
+    EXPECT_EQ(shown(), "cd");
+    EXPECT_EQ(model->totalCount(), 2);
+    EXPECT_FALSE(model->hasNextPage());
+}
+
+TEST_F(CollectionModelTest, AListIsNotContinuedInAnOrderItDoesNotHave)
+{
+    answer(products, page("ab", "c1"));
+    answer(counting, counted(3));
+    model->load();
+    settleAll(2);
+    answer(products, Answer::body("", 404));
+    model->setSort(CollectionSort::PriceLow);
+    settle(3);
+    EXPECT_EQ(shown(), "ab");
+    model->loadMore();
+    EXPECT_FALSE(model->isLoadingMore());
+
+    answer(products, page("ba", "c1")); // the next attempt
+    answer(counting, counted(3));
+    model->load();
+    settleAll(5);
+    EXPECT_EQ(shown(), "ba");
+    answer(products, page("c"));
+    loadMore();
+    EXPECT_EQ(shown(), "bac");
+    EXPECT_EQ(lastVariables().value(QStringLiteral("sortKey")), QStringLiteral("PRICE"));
+}
+
+TEST_F(CollectionModelTest, AnotherMarketLoadsAnewWhateverThereWasBefore)
+{
+    market.setLanguage(AppLanguage::French); // not begun yet: nothing to load anew
+    answer("Countries", Answer::body("", 404));
+    settleAll(1);
+    std::size_t requests = 1;
+    const auto turn = [&](AppLanguage language, const Answer& first, const char* then, Phase phase) {
+        answer(products, first);
+        model->reload();
+        settleAll(++requests);
+        EXPECT_EQ(model->phase(), phase);
+        answer("Countries", Answer::body("", 404));
+        answer(products, page(then));
+        market.setLanguage(language);
+        EXPECT_TRUE(model->isLoading());
+        requests += 2;
+        settleAll(requests);
+        EXPECT_EQ(shown(), then);
+    };
+    turn(AppLanguage::German, Answer::body("", 404), "a", Phase::Failed);
+    turn(AppLanguage::Greek, envelope(missing()), "b", Phase::Missing);
+    turn(AppLanguage::Czech, envelope(page("")), "c", Phase::Empty);
+    turn(AppLanguage::Thai, envelope(page("x")), "d", Phase::Loaded);
+
+    answer(products, envelope(page("old")).pauseAfter(0));
+    model->reload();
+    server.waitForRequests(++requests);
+    answer("Countries", Answer::body("", 404));
+    answer(products, page("e"));
+    market.setLanguage(AppLanguage::English);
+    settleAll(requests + 2);
+    EXPECT_EQ(shown(), "e");
+}
+
+TEST_F(CollectionModelTest, AModelMayGoAtAnyTime)
+{
+    answer(products, Answer::silence());
+    model->load();
+    server.waitForRequests(1);
+    model.reset();
+    EXPECT_EQ(clock.sleepers(), 0);
+
+    model = std::make_unique<CollectionModel>(QStringLiteral("dresses"), QString(), api, market, money, clock);
+    answer(products, page("ab", "c1"));
+    answer(counting, Answer::silence());
+    load();
+    answer(products, Answer::silence());
+    model->loadMore();
+    server.waitForRequests(4);
+    model.reset();
+    EXPECT_EQ(clock.sleepers(), 0);
+
+    // Even when it is told of its own news.
+    model = std::make_unique<CollectionModel>(QStringLiteral("dresses"), QString(), api, market, money, clock);
+    QObject::connect(model.get(), &CollectionModel::changed, &market, [this] {
+        if (model && model->phase() == Phase::Loaded)
+            model.reset();
+    });
+    answer(products, page("a"));
+    model->load();
+    waitUntil([this] { return !model; }, "the model is gone");
+}
+
+} // namespace

@@ -1,0 +1,303 @@
+#include "catalog/MarketStore.h"
+
+#include "ShopFixture.h"
+
+#include <QFile>
+
+using namespace loom;
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+
+const QString germany = QStringLiteral("DE");
+const QString japan = QStringLiteral("JP");
+
+QJsonValue sample(const char* amount, const char* currency)
+{
+    return changed(
+        changed(json(R"({"products": {"nodes": [{"priceRange": {"minVariantPrice": {}}}]}})"),
+                QStringLiteral("products.nodes[0].priceRange.minVariantPrice.amount"), QLatin1String(amount)),
+        QStringLiteral("products.nodes[0].priceRange.minVariantPrice.currencyCode"), QLatin1String(currency));
+}
+
+const char* const countries = R"({"localization": {"availableCountries": [
+    {"isoCode": "DE", "name": "Germany", "currency": {"isoCode": "EUR"}},
+    {"isoCode": "JP", "name": "Japan", "currency": {"isoCode": "JPY"}}]}})";
+
+class MarketStoreTest : public ShopFixture
+{
+protected:
+    std::unique_ptr<MarketStore> make(const QString& country = germany)
+    {
+        return std::make_unique<MarketStore>(MarketContext{.country = country}, client, api, folder, preferences,
+                                             clock);
+    }
+    void put(const char* file, const QByteArray& content) const
+    {
+        QFile writing(home.path() + QLatin1Char('/') + QLatin1String(file));
+        ASSERT_TRUE(writing.open(QIODevice::WriteOnly));
+        writing.write(content);
+    }
+    [[nodiscard]] QByteArray stored(const char* file)
+    {
+        folder.waitUntilWritten();
+        QFile reading(home.path() + QLatin1Char('/') + QLatin1String(file));
+        return reading.open(QIODevice::ReadOnly) ? reading.readAll() : QByteArray("none");
+    }
+    void answerRate(const QString& country, const char* amount, const char* currency)
+    {
+        answer(QStringLiteral("RateSample ") + country, envelope(sample(amount, currency)));
+        answer("RateSample US", sample("200.0", "USD"));
+    }
+    void settle(std::size_t requests)
+    {
+        server.waitForRequests(requests);
+        waitUntil([this] { return clock.sleepers() == 0; }, "every answer has arrived");
+        QThreadPool::globalInstance()->waitForDone();
+        drainEvents();
+    }
+};
+
+const char* const fresh = R"({"country":"DE","currency":"EUR","rate":0.5,"sampledAt":"2025-03-09T08:00:00.000Z"})";
+
+TEST_F(MarketStoreTest, AStoredRateIsUsedWhileItHoldsAndMeasuredAnewOtherwise)
+{
+    struct Row {
+        QByteArray file;
+        const char* country;
+        bool isUsed;
+    };
+    for (const Row& row : {
+             Row{fresh, "DE", true},
+             Row{QByteArray(fresh).replace("09T08:00:00", "08T20:07:07"), "DE", true},
+             Row{QByteArray(fresh).replace("09T08:00:00", "08T20:07:06"), "DE", false},
+             Row{fresh, "JP", false},
+             Row{QByteArray(fresh).chopped(4), "DE", false},
+             Row{QByteArray(fresh).replace("0.5", "0"), "DE", false},
+             Row{"", "DE", false},
+         }) {
+        put("lst_market_rate_v1.json", row.file);
+        const auto store = make(QLatin1String(row.country));
+        answer("Countries", Answer::body("", 404));
+        if (!row.isUsed)
+            answerRate(QLatin1String(row.country), "180.0", "EUR");
+        const std::size_t before = sent();
+        store->load();
+        EXPECT_EQ(store->rate().has_value(), row.isUsed) << row.file.constData();
+        settle(before + (row.isUsed ? 1 : 3));
+        ASSERT_TRUE(store->rate());
+        EXPECT_EQ(store->rate()->rate, row.isUsed ? 0.5 : 0.9) << row.file.constData();
+        EXPECT_EQ(store->convertUSDollars(100).text, row.isUsed ? QStringLiteral("50.00") : QStringLiteral("90.00"));
+        if (!row.isUsed) {
+            EXPECT_EQ(stored("lst_market_rate_v1.json"),
+                      QByteArray(R"({"country":")") + row.country +
+                          R"(","currency":"EUR","rate":0.9,"sampledAt":"2025-03-09T08:07:06.000Z"})");
+        }
+    }
+}
+
+TEST_F(MarketStoreTest, ARateIsMeasuredAgainAfterTwelveHours)
+{
+    const auto store = make();
+    answerRate(germany, "180.0", "EUR");
+    store->refreshRate();
+    settle(2);
+    clock.advance(12h - 1s);
+    store->refreshRate();
+    EXPECT_EQ(sent(), 2U);
+    clock.advance(1s);
+    answerRate(germany, "160.0", "EUR");
+    store->refreshRate();
+    EXPECT_EQ(store->rate()->rate, 0.9); // until a better one is known
+    settle(4);
+    EXPECT_EQ(store->rate()->rate, 0.8);
+}
+
+TEST_F(MarketStoreTest, WithoutTwoSamplesInTwoCurrenciesThereIsNoRate)
+{
+    struct Row {
+        const char* country;
+        Answer market;
+        Answer dollars;
+    };
+    const Answer failed = Answer::body("", 404);
+    const Answer none = envelope(json(R"({"products": {"nodes": []}})"));
+    for (const Row& row :
+         {Row{"DE", failed, envelope(sample("200", "USD"))}, Row{"DE", envelope(sample("180", "EUR")), failed},
+          Row{"DE", none, envelope(sample("200", "USD"))}, Row{"DE", envelope(sample("180", "EUR")), none},
+          Row{"EC", envelope(sample("180", "USD")), envelope(sample("200", "USD"))}}) {
+        put("lst_market_rate_v1.json", QByteArray(fresh).replace("2025", "2024"));
+        const auto store = make(QLatin1String(row.country));
+        const auto told = emissions(*store, &MarketStore::rateChanged);
+        answer(QStringLiteral("RateSample ") + QLatin1String(row.country), row.market);
+        answer("RateSample US", row.dollars);
+        store->refreshRate();
+        settle(sent() + 2);
+        EXPECT_FALSE(store->rate());
+        EXPECT_GE(*told, 1);
+        EXPECT_EQ(store->convertUSDollars(99).currencyCode, QStringLiteral("USD"));
+    }
+}
+
+TEST_F(MarketStoreTest, TheUnitedStatesHaveNoRate)
+{
+    put("lst_market_rate_v1.json", QByteArray(fresh).replace("DE", "US"));
+    const auto store = make(QStringLiteral("US"));
+    const auto told = emissions(*store, &MarketStore::rateChanged);
+    answer("Countries", json(countries));
+    store->load();
+    settle(1);
+    EXPECT_FALSE(store->rate());
+    EXPECT_GE(*told, 1);
+    EXPECT_EQ(stored("lst_market_rate_v1.json"), "none");
+}
+
+TEST_F(MarketStoreTest, CountriesAreShownFromTheSnapshotUntilTheStoreAnswers)
+{
+    put("snap-countries.json", R"({"savedAt":"2025-03-01T00:00:00Z","value":[
+        {"isoCode":"DE","name":"Deutschland","currency":"EUR"},{"isoCode":"FR"}]})");
+    put("lst_market_rate_v1.json", fresh);
+    const auto store = make();
+    const auto told = emissions(*store, &MarketStore::countriesChanged);
+    EXPECT_EQ(store->countryName(), germany);
+    EXPECT_EQ(store->currency(), QString());
+    answer("Countries", json(countries));
+    store->load();
+    EXPECT_EQ(store->countries().size(), 1U);
+    EXPECT_EQ(store->countryName(), QStringLiteral("Deutschland"));
+    EXPECT_EQ(*told, 1);
+    settle(1);
+    EXPECT_EQ(*told, 2);
+    EXPECT_EQ(store->countryName(), QStringLiteral("Germany"));
+    EXPECT_EQ(store->countries().size(), 2U);
+    EXPECT_EQ(stored("snap-countries.json"),
+              R"({"savedAt":"2025-03-09T08:07:06.000Z","value":[{"currency":"EUR","isoCode":"DE","name":"Germany"},)"
+              R"({"currency":"JPY","isoCode":"JP","name":"Japan"}]})");
+    EXPECT_EQ(preferences.value(preferences::marketCurrency), QStringLiteral("EUR"));
+
+    answer("Countries", Answer::body("", 404));
+    store->refreshCountries();
+    settle(2);
+    EXPECT_EQ(store->countries().size(), 2U);             // a failure keeps what was there
+    EXPECT_EQ(make()->currency(), QStringLiteral("EUR")); // the next start knows it before it knows the list
+    put("snap-countries.json", R"({"value":[]})");
+    answer("Countries", Answer::body("", 404));
+    const auto broken = make();
+    broken->load();
+    settle(3);
+    EXPECT_THAT(broken->countries(), IsEmpty());
+}
+
+TEST_F(MarketStoreTest, AnotherCountryIsAnotherMarketForEverythingThatFollows)
+{
+    const auto store = make();
+    answer("Countries", json(countries));
+    answerRate(germany, "180.0", "EUR");
+    store->load();
+    settle(3);
+    ASSERT_TRUE(store->rate());
+
+    int revisions = 0;
+    QObject::connect(store.get(), &MarketStore::revisionChanged, store.get(), [&] {
+        ++revisions;
+        EXPECT_EQ(client.country(), japan); // whoever is told asks in the new market
+        EXPECT_EQ(preferences.value(preferences::marketCurrency), QStringLiteral("JPY"));
+    });
+    const auto countriesTold = emissions(*store, &MarketStore::countriesChanged);
+    answerRate(japan, "30000", "JPY");
+    EXPECT_TRUE(store->setCountry(QStringLiteral("jp")));
+    EXPECT_EQ(store->country(), japan);
+    EXPECT_EQ(store->countryName(), QStringLiteral("Japan"));
+    EXPECT_EQ(store->currency(), QStringLiteral("JPY"));
+    EXPECT_EQ(store->revision(), 1);
+    EXPECT_EQ(revisions, 1);
+    EXPECT_EQ(*countriesTold, 1);
+    EXPECT_FALSE(store->rate()); // the former market's is not used
+    settle(5);
+    EXPECT_EQ(store->convertUSDollars(99), (ConvertedAmount{QStringLiteral("14850.00"), QStringLiteral("JPY")}));
+    EXPECT_EQ(preferences.value(preferences::marketCountry), japan);
+
+    EXPECT_TRUE(store->setCountry(japan));
+    for (const char* const none : {"", "XX", "PR", "Japan", "J"})
+        EXPECT_FALSE(store->setCountry(QLatin1String(none))) << none;
+    EXPECT_EQ(revisions, 1);
+    EXPECT_EQ(sent(), 5U);
+
+    // A choice outlives the process; what is no country does not count.
+    EXPECT_EQ(make(germany)->country(), japan);
+    preferences.set(preferences::marketCountry, QStringLiteral("Atlantis"));
+    EXPECT_EQ(make(germany)->country(), germany);
+    EXPECT_EQ(client.country(), germany);
+}
+
+TEST_F(MarketStoreTest, AnAnswerForTheFormerMarketIsDropped)
+{
+    const auto store = make();
+    answer("RateSample DE", envelope(sample("180.0", "EUR")).pauseAfter(0));
+    answer("RateSample US", envelope(sample("200.0", "USD")).pauseAfter(0));
+    store->refreshRate();
+    server.waitForRequests(2);
+    answerRate(japan, "30000", "JPY");
+    store->setCountry(japan);
+    settle(4);
+    server.proceed();
+    drainEvents();
+    EXPECT_EQ(store->rate()->currency, QStringLiteral("JPY"));
+
+    answer("RateSample DE", envelope(sample("180.0", "EUR")).pauseAfter(0));
+    answer("RateSample US", envelope(sample("200.0", "USD")).pauseAfter(0));
+    store->setCountry(germany);
+    server.waitForRequests(6);
+    store->setCountry(QStringLiteral("US"));
+    server.proceed();
+    settle(6);
+    EXPECT_FALSE(store->rate());
+    EXPECT_EQ(stored("lst_market_rate_v1.json"), "none");
+}
+
+TEST_F(MarketStoreTest, AnotherLanguageNamesTheCountriesAnewAndTheLatestWins)
+{
+    const auto store = make();
+    answer("Countries", envelope(json(countries)).pauseAfter(0));
+    store->refreshCountries();
+    server.waitForRequests(1);
+    answer("Countries", json(R"({"localization": {"availableCountries": [
+        {"isoCode": "DE", "name": "Allemagne", "currency": {"isoCode": "EUR"}}]}})"));
+    store->setLanguage(AppLanguage::French);
+    EXPECT_EQ(store->context().language, AppLanguage::French);
+    EXPECT_EQ(store->revision(), 1);
+    settle(2);
+    server.proceed();
+    drainEvents();
+    EXPECT_EQ(store->countryName(), QStringLiteral("Allemagne"));
+    EXPECT_EQ(bytes(variables(1)), R"({"language":"FR"})");
+    store->setLanguage(AppLanguage::French);
+    EXPECT_EQ(store->revision(), 1);
+    EXPECT_EQ(sent(), 2U);
+}
+
+TEST_F(MarketStoreTest, AStoreThatGoesWhileItWorksTakesItsRequestsWithIt)
+{
+    auto store = make();
+    for (const char* const operation : {"Countries", "RateSample DE", "RateSample US"})
+        answer(operation, Answer::silence());
+    store->load();
+    server.waitForRequests(3);
+    store.reset();
+    EXPECT_EQ(clock.sleepers(), 0);
+}
+
+TEST_F(MarketStoreTest, TheDepartmentToBrowseIsRemembered)
+{
+    EXPECT_EQ(market.gender(), ShopGender::Women);
+    market.setGender(ShopGender::Men);
+    EXPECT_EQ(market.gender(), ShopGender::Men);
+    EXPECT_EQ(preferences.value(preferences::shopGender), QStringLiteral("men"));
+    preferences.set(preferences::shopGender, QStringLiteral("martian"));
+    EXPECT_EQ(market.gender(), ShopGender::Women);
+}
+
+} // namespace

@@ -1,0 +1,71 @@
+#include "catalog/MoneyFormat.h"
+
+#include "catalog/Money.h"
+
+#include <gtest/gtest.h>
+
+namespace loom
+{
+
+namespace
+{
+
+struct Row {
+    AppLanguage language;
+    double amount;
+    const char* currency;
+    const char* text;
+};
+
+/// Without what cannot be seen: marks of direction, and blanks of every width as plain ones.
+std::string visible(QString text)
+{
+    text.remove(QRegularExpression(QStringLiteral("[\u200e\u200f\u061c]")));
+    return text.replace(QRegularExpression(QStringLiteral("[\u00a0\u202f]")), QStringLiteral(" ")).toStdString();
+}
+
+} // namespace
+
+TEST(MoneyFormatTest, PricesAreWrittenAsTheLanguageDoesAndWithTheDigitsOfTheCurrency)
+{
+    for (const Row& row : {
+             Row{AppLanguage::English, 248, "USD", "$248.00"},
+             Row{AppLanguage::English, 1234567.5, "EUR", "€1,234,567.50"},
+             Row{AppLanguage::English, 48000, "JPY", "¥48,000"},
+             Row{AppLanguage::English, 12.345, "KWD", "KWD 12.345"},
+             Row{AppLanguage::English, 0, "USD", "$0.00"},
+             Row{AppLanguage::English, -5, "USD", "-$5.00"},
+             Row{AppLanguage::English, 5, "usd", "$5.00"},
+             Row{AppLanguage::German, 1234.5, "EUR", "1.234,50 €"},
+             Row{AppLanguage::German, 19.5, "USD", "19,50 $"},
+             Row{AppLanguage::French, 1234.5, "EUR", "1 234,50 €"},
+             Row{AppLanguage::Japanese, 48000, "JPY", "￥48,000"},
+             Row{AppLanguage::ZhHant, 48, "TWD", "$48.00"},
+             Row{AppLanguage::ZhHans, 48, "CNY", "¥48.00"},
+             Row{AppLanguage::Filipino, 48, "PHP", "₱48.00"},
+             Row{AppLanguage::Hebrew, 48, "ILS", "48.00 ₪"},
+             Row{AppLanguage::Hindi, 1234567, "INR", "₹12,34,567.00"},
+             Row{AppLanguage::English, 5, "XQZ", "XQZ 5.00"},
+             Row{AppLanguage::English, 5, "", "5.00"},
+             Row{AppLanguage::English, 5.678, "credits", "5.68 credits"},
+             Row{AppLanguage::English, 5, "€", "5.00 €"},
+         }) {
+        EXPECT_EQ(visible(MoneyFormat(row.language)
+                              .text({.amount = row.amount, .currencyCode = QString::fromUtf8(row.currency)})),
+                  row.text)
+            << appLanguageCode(row.language).toStdString();
+    }
+}
+
+TEST(MoneyFormatTest, EveryLanguageWritesEveryAmount)
+{
+    MoneyFormat format(AppLanguage::English);
+    for (std::size_t i = 0; i < appLanguageCodes.size(); ++i) {
+        format.setLanguage(static_cast<AppLanguage>(i));
+        for (const double amount : {0.0, 0.005, 99.0, 1e15, 1e300})
+            EXPECT_FALSE(format.text({.amount = amount, .currencyCode = QStringLiteral("EUR")}).isEmpty()) << amount;
+    }
+    EXPECT_EQ(visible(format.text({.amount = 99, .currencyCode = QStringLiteral("VND")})), "99 ₫");
+}
+
+} // namespace loom

@@ -1,0 +1,472 @@
+#include "catalog/StorefrontAPI.h"
+
+#include "StorefrontFixture.h"
+
+#include <QJsonArray>
+
+using namespace loom;
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+
+const QString a = QStringLiteral("a");
+const QString b = QStringLiteral("b");
+
+QStringList numbered(const char* prefix, int count)
+{
+    QStringList list;
+    for (int i = 0; i < count; ++i)
+        list.append(QLatin1String(prefix) + QString::number(i));
+    return list;
+}
+
+QJsonArray cards(const QStringList& handles)
+{
+    QJsonArray list;
+    for (const QString& handle : handles)
+        list.append(cardJson(handle));
+    return list;
+}
+
+QStringList handlesOf(const std::vector<ProductListItem>& items)
+{
+    QStringList handles;
+    for (const ProductListItem& item : items)
+        handles.append(item.handle);
+    return handles;
+}
+
+class StorefrontAPITest : public StorefrontFixture
+{
+protected:
+    /// Answers the same request for a page of the count each time.
+    QJsonValue countPage(int count, const char* pageInfo) const
+    {
+        QJsonArray nodes;
+        for (int i = 0; i < count; ++i)
+            nodes.append(QJsonObject{{QStringLiteral("id"), QString::number(i)}});
+        return changed(
+            changed(json(R"({"collection": {"products": {}}})"), QStringLiteral("collection.products.nodes"), nodes),
+            QStringLiteral("collection.products.pageInfo"), json(pageInfo));
+    }
+    ApiResult<std::optional<qint64>> count() { return run(api.collectionProductCount(a, {}, {})); }
+};
+
+TEST_F(StorefrontAPITest, EachOperationSendsItsVariablesAndIsTriedAgain)
+{
+    struct Row {
+        const char* operation;
+        const char* data;
+        const char* variables;
+        std::function<Running<bool>(StorefrontAPI&)> call;
+    };
+    const auto begin = []<typename T>(QCoro::Task<ApiResult<T>> task) {
+        return Running<bool>([](QCoro::Task<ApiResult<T>> pending) -> QCoro::Task<bool> {
+            co_return (co_await std::move(pending)).hasValue();
+        }(std::move(task)));
+    };
+    for (
+        const Row& row : {
+            Row{"Product", R"({"product":null})", R"({"country":"US","handle":"a","language":"EN"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.product(a, {}));
+                }},
+            Row{"ProductsByIDs", R"({"nodes":[]})", R"({"country":"US","ids":["a","b"],"language":"EN"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.productsByIDs({a, b}, {}));
+                }},
+            Row{"LivePrices", R"({"nodes":[]})",
+                R"({"country":"US","ids":["gid://shopify/Product/7","gid://shopify/Product/8"],"language":"EN"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.livePrices({QStringLiteral("7"), QStringLiteral("gid://shopify/Product/8")}, {}));
+                }},
+            Row{"Recommendations", R"({"productRecommendations":[]})",
+                R"({"country":"US","language":"EN","productId":"a"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.recommendations(a, {}));
+                }},
+            Row{"Products", R"({"products":{"nodes":[],"pageInfo":{"hasNextPage":false}}})",
+                R"({"after":null,"country":"US","first":8,"language":"EN","query":null,"reverse":false,"sortKey":null})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.products({.first = 8}, {}));
+                }},
+            Row{"Products", R"({"products":{"nodes":[],"pageInfo":{"hasNextPage":false}}})",
+                R"({"after":"c","country":"US","first":8,"language":"EN","query":"q","reverse":true,"sortKey":"PRICE"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.products({.first = 8,
+                                              .after = QStringLiteral("c"),
+                                              .query = QStringLiteral("q"),
+                                              .sortKey = QStringLiteral("PRICE"),
+                                              .reverse = true},
+                                             {}));
+                }},
+            Row{"Suggest", R"({"predictiveSearch":null})", R"({"country":"US","language":"EN","q":"a"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.suggest(a, {}));
+                }},
+            Row{"SkuImage", R"({"product":null})", R"({"handle":"a"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.skuImages(a, {}));
+                }},
+            Row{"CardAvailability", R"({})", R"({"country":"US","h0":"a","h1":"b"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.cardAvailability({a, b}, {}));
+                }},
+            Row{"SearchCardImages", R"({})", R"({"country":"US","h0":"a"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.searchCardImages({a}, {}));
+                }},
+            Row{"CollectionProbe", R"({})", R"({"country":"US","language":"EN"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.collectionProbe({a}, {}));
+                }},
+            Row{"CollectionProducts", R"({"collection":null})",
+                R"({"after":null,"country":"US","filters":[],"first":48,"handle":"a","language":"EN",)"
+                R"("reverse":false,"sortKey":"COLLECTION_DEFAULT"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.collectionProducts({.handle = a, .first = 48}, {}));
+                }},
+            Row{"CollectionProducts", R"({"collection":null})",
+                R"({"after":"c","country":"US","filters":[{"available":true}],"first":48,"handle":"a",)"
+                R"("language":"EN","reverse":true,"sortKey":"PRICE"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.collectionProducts({.handle = a,
+                                                        .first = 48,
+                                                        .after = QStringLiteral("c"),
+                                                        .filters = json(R"([{"available":true}])").toArray(),
+                                                        .sort = CollectionSort::PriceHigh},
+                                                       {}));
+                }},
+            Row{"CollectionProductCount", R"({"collection":null})",
+                R"({"after":null,"country":"US","filters":[1],"handle":"a"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.collectionProductCount(a, {1}, {}));
+                }},
+            Row{"Countries", R"({"localization":{"availableCountries":[]}})", R"({"language":"EN"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.countries({}));
+                }},
+            Row{"RateSample", R"({"products":{"nodes":[]}})", R"({"country":"DE"})",
+                [&](StorefrontAPI& of) {
+                    return begin(of.rateSample(QStringLiteral("DE"), {}));
+                }},
+        }) {
+        answer(row.operation, Answer::body("", 503));
+        answer(row.operation, json(row.data));
+        Running<bool> call = row.call(api);
+        waitUntil([this] { return clock.nextWake() == 500ms; }, "the first attempt has failed");
+        clock.advance(500ms);
+        EXPECT_TRUE(call.result()) << row.operation;
+        EXPECT_EQ(bytes(lastVariables()), row.variables) << row.operation;
+    }
+}
+
+TEST_F(StorefrontAPITest, WhatIsNotThereIsNoFailure)
+{
+    answer("Product", json(R"({"product": null})"));
+    EXPECT_EQ(run(api.product(a, {})), (ApiResult<std::optional<Product>>(std::nullopt)));
+    answer("SkuImage", json(R"({"product": null})"));
+    EXPECT_EQ(run(api.skuImages(a, {})), (ApiResult<std::optional<SkuImages>>(std::nullopt)));
+    answer("Recommendations", json(R"({"productRecommendations": null})"));
+    EXPECT_THAT(*run(api.recommendations(a, {})), IsEmpty());
+    answer("Suggest", json(R"({"predictiveSearch": null})"));
+    EXPECT_EQ(*run(api.suggest(a, {})), SearchSuggestions());
+    answer("CollectionProducts", json(R"({"collection": null})"));
+    EXPECT_EQ(*run(api.collectionProducts({.handle = a}, {})), CollectionPage());
+
+    answer("Product", QJsonObject{{QStringLiteral("product"), productJson(a)}});
+    const auto found = run(api.product(a, {}));
+    ASSERT_TRUE(found && found->has_value());
+    EXPECT_EQ((*found)->item.handle, a);
+    EXPECT_EQ((*found)->variants.size(), 3U);
+}
+
+TEST_F(StorefrontAPITest, WhatTheRecordNeedsAndLacksIsAFailureThatNamesIt)
+{
+    struct Row {
+        const char* operation;
+        const char* data;
+        const char* problem;
+        std::function<Failure(StorefrontAPI&)> call;
+    };
+    for (const Row& row : {
+             Row{"Product", R"({"product": {"id": "1"}})", "product.handle: expected a text",
+                 [](StorefrontAPI& of) {
+                     return run(of.product(a, {})).error();
+                 }},
+             Row{"ProductsByIDs", R"({"nodes": null})", "data.nodes: expected a list",
+                 [](StorefrontAPI& of) {
+                     return run(of.productsByIDs({a}, {})).error();
+                 }},
+             Row{"Products", R"({"products": {"nodes": []}})", "data.products.pageInfo: expected an object",
+                 [](StorefrontAPI& of) {
+                     return run(of.products({}, {})).error();
+                 }},
+             Row{"CollectionProducts", R"({"collection": {"id": "1", "handle": "a", "title": "A"}})",
+                 "data.collection.products: expected an object",
+                 [](StorefrontAPI& of) {
+                     return run(of.collectionProducts({.handle = a}, {})).error();
+                 }},
+             Row{"Countries", R"({"localization": {}})", "data.localization.availableCountries: expected a list",
+                 [](StorefrontAPI& of) {
+                     return run(of.countries({})).error();
+                 }},
+         }) {
+        answer(row.operation, json(row.data));
+        const Failure failure = row.call(api);
+        ASSERT_TRUE(!failure.isCancelled() && failure.error().as<APIError::Decoding>()) << row.operation;
+        EXPECT_TRUE(failure.error().as<APIError::Decoding>()->description.endsWith(QLatin1String(row.problem)))
+            << testing::PrintToString(failure);
+    }
+}
+
+TEST_F(StorefrontAPITest, ListsKeepTheirOrderAndLoseWhatIsGone)
+{
+    QJsonArray nodes = cards({b, a});
+    nodes.insert(1, QJsonValue::Null);
+    nodes.append(QJsonObject());                          // of another type
+    nodes.append(QJsonObject{{QStringLiteral("id"), 3}}); // broken
+    answer("ProductsByIDs", QJsonObject{{QStringLiteral("nodes"), nodes}});
+    EXPECT_EQ(handlesOf(*run(api.productsByIDs({a, QStringLiteral("gone"), b}, {}))), QStringList({b, a}));
+
+    answer("Recommendations", QJsonObject{{QStringLiteral("productRecommendations"), nodes}});
+    EXPECT_EQ(handlesOf(*run(api.recommendations(a, {}))), QStringList({b, a}));
+
+    answer("LivePrices", json(R"({"nodes": [
+        null, {}, {"handle": "a", "availableForSale": true, "priceRange": {"minVariantPrice": {"amount": "48000.0"}}},
+        {"handle": "b", "availableForSale": false, "priceRange": {"minVariantPrice": {"amount": "19.5"}}},
+        {"handle": "c", "availableForSale": true, "priceRange": {"minVariantPrice": {"amount": "?"}}},
+        {"handle": "d", "priceRange": null}]})"));
+    EXPECT_EQ(*run(api.livePrices({a}, {})), (QHash<QString, LivePrice>{{a, {.available = true, .amount = 48000}},
+                                                                        {b, {.available = false, .amount = 19.5}}}));
+}
+
+TEST_F(StorefrontAPITest, APageNamesItsCursorAndOnlyOneWithACursorHasANextOne)
+{
+    struct Row {
+        const char* pageInfo;
+        bool hasNextPage;
+        std::optional<QString> endCursor;
+    };
+    for (const Row& row : {Row{R"({"hasNextPage": true, "endCursor": "c"})", true, QStringLiteral("c")},
+                           Row{R"({"hasNextPage": false, "endCursor": "c"})", false, QStringLiteral("c")},
+                           Row{R"({"hasNextPage": true, "endCursor": null})", false, std::nullopt},
+                           Row{R"({"hasNextPage": false})", false, std::nullopt}}) {
+        const QJsonObject products{{QStringLiteral("nodes"), cards({a, b})},
+                                   {QStringLiteral("pageInfo"), json(row.pageInfo)}};
+        answer("Products", QJsonObject{{QStringLiteral("products"), products}});
+        const auto page = run(api.products({.first = 2}, {}));
+        ASSERT_TRUE(page);
+        EXPECT_EQ(handlesOf(page->products), QStringList({a, b}));
+        EXPECT_EQ(page->hasNextPage, row.hasNextPage) << row.pageInfo;
+        EXPECT_EQ(page->endCursor, row.endCursor) << row.pageInfo;
+
+        answer("CollectionProducts", changed(json(R"({"collection": {"id": "1", "handle": "a", "title": "A"}})"),
+                                             QStringLiteral("collection.products"), products));
+        const auto collection = run(api.collectionProducts({.handle = a}, {}));
+        ASSERT_TRUE(collection);
+        EXPECT_EQ(collection->hasNextPage, row.hasNextPage) << row.pageInfo;
+        EXPECT_EQ(collection->endCursor, row.endCursor) << row.pageInfo;
+    }
+}
+
+TEST_F(StorefrontAPITest, ACollectionTellsWhatItIsAndWhatItCanBeNarrowedBy)
+{
+    answer("CollectionProducts", json(R"({"collection": {
+        "id": "gid://shopify/Collection/1", "handle": "a", "title": "Dresses", "image": {"url": "https://p.example/c.jpg"},
+        "products": {"nodes": [null], "pageInfo": {"hasNextPage": false, "endCursor": null}, "filters": [
+            {"id": "f1", "label": "Size", "type": "LIST", "values": [
+                {"id": "v1", "label": "S", "count": 3, "input": "{\"variantOption\":{\"name\":\"Size\"}}"},
+                {"id": "v2", "label": "M", "count": null, "input": "{}"}, {"id": "v3", "label": "L", "count": 1}]},
+            {"id": "f2", "label": "Price", "type": "PRICE_RANGE", "values": []},
+            {"id": "f3", "label": "In stock", "type": "BOOLEAN"},
+            {"id": "f4", "label": "Mood", "type": "MOOD", "values": []}]}}})"));
+    const auto page = run(api.collectionProducts({.handle = a}, {}));
+    ASSERT_TRUE(page);
+    EXPECT_EQ(page->collection, (CollectionInfo{.id = QStringLiteral("gid://shopify/Collection/1"),
+                                                .handle = a,
+                                                .title = QStringLiteral("Dresses"),
+                                                .imageURL = QStringLiteral("https://p.example/c.jpg")}));
+    EXPECT_THAT(page->products, IsEmpty());
+    using Kind = CollectionFilter::Kind;
+    const CollectionFilter size{
+        .id = QStringLiteral("f1"),
+        .label = QStringLiteral("Size"),
+        .kind = Kind::List,
+        .values = {
+            {.id = QStringLiteral("v1"),
+             .label = QStringLiteral("S"),
+             .count = 3,
+             .input = QStringLiteral(R"({"variantOption":{"name":"Size"}})")},
+            {.id = QStringLiteral("v2"), .label = QStringLiteral("M"), .count = 0, .input = QStringLiteral("{}")}}};
+    EXPECT_THAT(
+        page->filters,
+        ElementsAre(
+            size,
+            CollectionFilter{
+                .id = QStringLiteral("f2"), .label = QStringLiteral("Price"), .kind = Kind::PriceRange, .values = {}},
+            CollectionFilter{
+                .id = QStringLiteral("f3"), .label = QStringLiteral("In stock"), .kind = Kind::Boolean, .values = {}}));
+}
+
+TEST_F(StorefrontAPITest, SuggestionsAndVariantPicturesAreRead)
+{
+    answer("Suggest", json(R"({"predictiveSearch": {
+        "queries": [{"text": "silk"}, {}, {"text": "silk dress"}],
+        "products": [{"id": "1", "handle": "a", "title": "A", "vendor": null, "featuredImage": null}, null,
+                     {"id": "2", "handle": "b", "title": "B", "vendor": "V", "featuredImage": {"url": "https://p.example/b"}}],
+        "collections": [{"handle": "c", "title": "C"}, {"handle": "d"}]}})"));
+    const auto found = run(api.suggest(QStringLiteral("silk"), {}));
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->queries, QStringList({QStringLiteral("silk"), QStringLiteral("silk dress")}));
+    EXPECT_THAT(found->products, ElementsAre(ProductHit{QStringLiteral("1"), a, QStringLiteral("A"), {}, std::nullopt},
+                                             ProductHit{QStringLiteral("2"), b, QStringLiteral("B"),
+                                                        QStringLiteral("V"), QStringLiteral("https://p.example/b")}));
+    EXPECT_THAT(found->collections,
+                ElementsAre(SearchSuggestions::Collection{QStringLiteral("c"), QStringLiteral("C")}));
+
+    answer("SkuImage", json(R"({"product": {"featuredImage": {"url": "https://p.example/0"}, "variants": {"nodes": [
+        {"title": "S", "image": {"url": "https://p.example/s"}}, {"title": "M", "image": null},
+        {"title": "L", "image": {"url": ""}}]}}})"));
+    EXPECT_EQ(
+        *run(api.skuImages(a, {})),
+        std::optional(SkuImages{.productImage = QStringLiteral("https://p.example/0"),
+                                .variantImages = {{QStringLiteral("S"), QStringLiteral("https://p.example/s")}}}));
+}
+
+TEST_F(StorefrontAPITest, LongListsBecomeSeveralQueriesAndEmptyOnesNone)
+{
+    EXPECT_TRUE(run(api.productsByIDs({}, {})));
+    EXPECT_TRUE(run(api.livePrices({}, {})));
+    EXPECT_TRUE(run(api.cardAvailability({}, {})));
+    EXPECT_TRUE(run(api.searchCardImages({}, {})));
+    EXPECT_TRUE(run(api.collectionProbe({}, {})));
+    EXPECT_EQ(sent(), 0U);
+
+    for (const int count : {250, 251}) {
+        answer("ProductsByIDs", QJsonObject{{QStringLiteral("nodes"), cards({a})}});
+        if (count > 250)
+            answer("ProductsByIDs", QJsonObject{{QStringLiteral("nodes"), cards({b})}});
+        EXPECT_EQ(handlesOf(*run(api.productsByIDs(numbered("i", count), {}))),
+                  count > 250 ? QStringList({a, b}) : QStringList(a));
+    }
+    EXPECT_EQ(sent(), 3U);
+    EXPECT_EQ(variables(1).value(QStringLiteral("ids")).toArray().size(), 250);
+    EXPECT_EQ(variables(2).value(QStringLiteral("ids")), QJsonArray({QStringLiteral("i250")}));
+
+    answer("CardAvailability", json(R"({"p0": {"handle": "h0", "availableForSale": true}, "p1": null, "p2":
+        {"handle": "h2", "availableForSale": false}, "p3": {"handle": "h3"}})"));
+    answer("CardAvailability", json(R"({"p0": {"handle": "h100", "availableForSale": true}})"));
+    EXPECT_EQ(*run(api.cardAvailability(numbered("h", 101), {})),
+              (QHash<QString, bool>{
+                  {QStringLiteral("h0"), true}, {QStringLiteral("h2"), false}, {QStringLiteral("h100"), true}}));
+    EXPECT_EQ(variables(3).value(QStringLiteral("h99")), QStringLiteral("h99"));
+    EXPECT_EQ(bytes(variables(4)), R"({"country":"US","h0":"h100"})");
+
+    answer("SearchCardImages", json(R"({"p0": {"handle": "h0", "images": {"nodes": [{"url": "1"}, null, {"url": "2"}]}},
+        "p1": null, "p2": {"handle": "h2", "images": {"nodes": []}}})"));
+    EXPECT_EQ(*run(api.searchCardImages(numbered("h", 3), {})),
+              (QHash<QString, QStringList>{{QStringLiteral("h0"), {QStringLiteral("1"), QStringLiteral("2")}},
+                                           {QStringLiteral("h2"), {}}}));
+
+    // What fails fails the whole.
+    answer("SearchCardImages", json("{}"));
+    answer("SearchCardImages", Answer::body("", 404));
+    EXPECT_FALSE(run(api.searchCardImages(numbered("h", 101), {})));
+}
+
+TEST_F(StorefrontAPITest, TilesComeInTheOrderOfTheHandlesWithTheirOwnPictureOrTheirFirstPiecesPicture)
+{
+    QJsonObject aliases;
+    for (int i = 0; i < 12; ++i) { // the answer is written in the order of its keys: c0 c1 c10 c11 c2 …
+        aliases.insert(QStringLiteral("c%1").arg(i),
+                       QJsonObject{{QStringLiteral("handle"), QStringLiteral("h%1").arg(i)},
+                                   {QStringLiteral("title"), QString::number(i)}});
+    }
+    QJsonValue data = changed(aliases, QStringLiteral("c3"), QJsonValue::Null);
+    data = changed(data, QStringLiteral("c4.image"), json(R"({"url": "own"})"));
+    data =
+        changed(data, QStringLiteral("c4.firstProduct"), json(R"({"nodes": [{"featuredImage": {"url": "first"}}]})"));
+    data =
+        changed(data, QStringLiteral("c5.firstProduct"), json(R"({"nodes": [{"featuredImage": {"url": "first"}}]})"));
+    data = changed(data, QStringLiteral("c6.firstProduct"), json(R"({"nodes": [{"featuredImage": null}]})"));
+    answer("CollectionProbe", data);
+    const auto tiles = run(api.collectionProbe(numbered("h", 12), {}));
+    ASSERT_TRUE(tiles);
+    QStringList handles;
+    for (const CollectionTile& tile : *tiles)
+        handles.append(tile.handle + QLatin1Char('=') + tile.imageURL.value_or(QString()));
+    EXPECT_EQ(handles, QStringList({QStringLiteral("h0="), QStringLiteral("h1="), QStringLiteral("h2="),
+                                    QStringLiteral("h4=own"), QStringLiteral("h5=first"), QStringLiteral("h6="),
+                                    QStringLiteral("h7="), QStringLiteral("h8="), QStringLiteral("h9="),
+                                    QStringLiteral("h10="), QStringLiteral("h11=")}));
+}
+
+TEST_F(StorefrontAPITest, ACountWalksTheCollectionToItsEnd)
+{
+    const auto none = ApiResult<std::optional<qint64>>(std::nullopt);
+    answer("CollectionProductCount", json(R"({"collection": null})"));
+    EXPECT_EQ(count(), none);
+    answer("CollectionProductCount", countPage(0, R"({"hasNextPage": false, "endCursor": null})"));
+    EXPECT_EQ(count(), ApiResult<std::optional<qint64>>(0));
+
+    answer("CollectionProductCount", countPage(250, R"({"hasNextPage": true, "endCursor": "c1"})"));
+    answer("CollectionProductCount", countPage(250, R"({"hasNextPage": true, "endCursor": "c2"})"));
+    answer("CollectionProductCount", countPage(17, R"({"hasNextPage": false, "endCursor": "c3"})"));
+    EXPECT_EQ(count(), ApiResult<std::optional<qint64>>(517));
+    EXPECT_EQ(variables(2).value(QStringLiteral("after")), QJsonValue());
+    EXPECT_EQ(variables(3).value(QStringLiteral("after")), QStringLiteral("c1"));
+    EXPECT_EQ(variables(4).value(QStringLiteral("after")), QStringLiteral("c2"));
+
+    answer("CollectionProductCount", countPage(250, R"({"hasNextPage": true, "endCursor": "c1"})"));
+    answer("CollectionProductCount", json(R"({"collection": null})")); // it went away under our hands
+    EXPECT_EQ(count(), none);
+}
+
+TEST_F(StorefrontAPITest, AWalkThatDoesNotComeToAnEndIsGivenUpAndCountsNothing)
+{
+    for (const std::vector<const char*>& cursors :
+         {std::vector<const char*>{"c1", "c1"}, {"c1", "c2", "c1"}, {"c1", "c2", "c3", "c2"}, {nullptr}}) {
+        for (const char* const cursor : cursors) {
+            const QJsonValue info = json(R"({"hasNextPage": true})");
+            answer(
+                "CollectionProductCount",
+                countPage(250, bytes(cursor ? changed(info, QStringLiteral("endCursor"), QLatin1String(cursor)) : info)
+                                   .constData()));
+        }
+        EXPECT_FALSE(count()) << cursors.size();
+    }
+}
+
+TEST_F(StorefrontAPITest, MarketsAreRead)
+{
+    answer("Countries", json(R"({"localization": {"availableCountries": [
+        {"isoCode": "DE", "name": "Deutschland", "currency": {"isoCode": "EUR"}}, null,
+        {"isoCode": "JP", "name": "Japan"}, {"isoCode": "US", "name": "USA", "currency": {"isoCode": "USD"}}]}})"));
+    EXPECT_THAT(*run(api.countries({})),
+                ElementsAre(MarketCountry{QStringLiteral("DE"), QStringLiteral("Deutschland"), QStringLiteral("EUR")},
+                            MarketCountry{QStringLiteral("US"), QStringLiteral("USA"), QStringLiteral("USD")}));
+
+    struct Row {
+        const char* nodes;
+        std::optional<MarketSample> sample;
+    };
+    for (const Row& row : {
+             Row{"[]", std::nullopt},
+             Row{R"([null, {}, {"priceRange": {}}])", std::nullopt},
+             Row{R"([{"priceRange": {"minVariantPrice": {"amount": "0.0", "currencyCode": "EUR"}}}])", std::nullopt},
+             Row{R"([{"priceRange": {"minVariantPrice": {"amount": "10.5", "currencyCode": "USD"}}},
+                     {"priceRange": {"minVariantPrice": {"amount": "x", "currencyCode": "GBP"}}}, null,
+                     {"priceRange": {"minVariantPrice": {"amount": "1.0", "currencyCode": "EUR"}}}])",
+                 MarketSample{.sum = 11.5, .currency = QStringLiteral("EUR")}},
+         }) {
+        answer("RateSample",
+               QJsonObject{{QStringLiteral("products"), QJsonObject{{QStringLiteral("nodes"), json(row.nodes)}}}});
+        EXPECT_EQ(*run(api.rateSample(QStringLiteral("DE"), {})), row.sample) << row.nodes;
+    }
+}
+
+} // namespace

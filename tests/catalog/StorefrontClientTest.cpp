@@ -1,0 +1,313 @@
+#include "catalog/StorefrontClient.h"
+
+#include "StorefrontFixture.h"
+#include "catalog/StorefrontLanguage.h"
+
+#include <QSemaphore>
+
+using namespace loom;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+using Number = ApiResult<qint64>;
+
+const QString query = QStringLiteral("query Q { q }");
+
+qint64 readNumber(const JsonReader& data)
+{
+    return data.integer("n");
+}
+
+Number failed(APIError error)
+{
+    return Unexpected(Failure(std::move(error)));
+}
+
+const Number cancelled = Unexpected(Failure(Cancelled{}));
+
+class StorefrontClientTest : public StorefrontFixture
+{
+protected:
+    [[nodiscard]] QCoro::Task<Number> send(Retry retry, std::stop_token stop = {})
+    {
+        return client.send(query, {}, retry, readNumber, std::move(stop));
+    }
+    void pauseBeforeRetry(std::chrono::milliseconds pause)
+    {
+        const std::size_t before = sent();
+        waitUntil([&] { return clock.nextWake() == pause; }, "the client waits before it tries again");
+        clock.advance(pause - 1ms);
+        EXPECT_EQ(clock.nextWake(), 1ms);
+        EXPECT_EQ(sent(), before);
+        clock.advance(1ms);
+        server.waitForRequests(before + 1);
+    }
+};
+
+TEST_F(StorefrontClientTest, ARequestIsSentByteForByte)
+{
+    answer("Q", json(R"({"n": 7})"));
+    EXPECT_EQ(
+        run(client.send(QStringLiteral("query Q($country: CountryCode) {\n  q(a: \"ł\")\n}"),
+                        {{QStringLiteral("after"), QJsonValue::Null}, {QStringLiteral("a"), QStringLiteral("👗")}},
+                        Retry::Never, readNumber, {})),
+        Number(7));
+    const ReceivedRequest& request = server.onlyRequest();
+    EXPECT_EQ(request.query, "");
+    EXPECT_EQ(request.header("Accept"), "application/json");
+    EXPECT_EQ(request.header("Content-Type"), "application/json");
+    EXPECT_EQ(request.header("X-Shopify-Storefront-Access-Token"), "token-1");
+    EXPECT_EQ(request.header("Cookie"), "");
+    EXPECT_EQ(request.body, R"({"query":"query Q($country: CountryCode) {\n  q(a: \"ł\")\n}",)"
+                            R"("variables":{"a":"👗","after":null,"country":"US"}})");
+}
+
+TEST_F(StorefrontClientTest, CountryAndLanguageAreFilledWhereTheDocumentDeclaresThemAndTheCallerNamedNone)
+{
+    struct Row {
+        const char* declaration;
+        const char* variables;
+        const char* sent;
+    };
+    client.setCountry(QStringLiteral("DE"));
+    client.setLanguage(AppLanguage::ZhHant);
+    for (const Row& row : {
+             Row{"", "{}", "{}"},
+             Row{"", R"({"a":1})", R"({"a":1})"},
+             Row{"country", "{}", "{}"}, // no variable
+             Row{"$country: CountryCode", "{}", R"({"country":"DE"})"},
+             Row{"$language: LanguageCode", "{}", R"({"language":"ZH_TW"})"},
+             Row{"$language: LanguageCode, $country: CountryCode", R"({"a":null})",
+                 R"({"a":null,"country":"DE","language":"ZH_TW"})"},
+             Row{"$country: CountryCode", R"({"country":"FR"})", R"({"country":"FR"})"},
+             Row{"$country: CountryCode", R"({"country":null})", R"({"country":null})"},
+             Row{"$language: LanguageCode", R"({"language":"NB"})", R"({"language":"NB"})"},
+         }) {
+        const QJsonObject body =
+            QJsonDocument::fromJson(client.requestBody(QLatin1String(row.declaration), json(row.variables).toObject()))
+                .object();
+        EXPECT_EQ(bytes(body.value(QStringLiteral("variables"))), row.sent) << row.declaration;
+    }
+}
+
+TEST_F(StorefrontClientTest, TheMarketToBeginWithFollowsTheSystem)
+{
+    struct Row {
+        const char* language;
+        const char* region;
+        const char* country;
+        const char* sentLanguage;
+    };
+    for (const Row& row : {
+             Row{"de", "at", "AT", "DE"},
+             Row{"en", "", "US", "EN"},
+             Row{"es", "419", "US", "ES"},
+             Row{"es", "PR", "US", "ES"},
+             Row{"en", "ZZ", "ZZ", "EN"},
+             Row{"xx", "FRA", "US", "EN"},
+             Row{"pt", "BR", "BR", "PT_BR"},
+             Row{"pt", "PT", "PT", "PT_PT"},
+             Row{"pt", "br", "BR", "PT_BR"},
+             Row{"pt", "AO", "AO", "PT"},
+             Row{"no", "NO", "NO", "NB"},
+             Row{"tl", "PH", "PH", "FIL"},
+             Row{"zh", "SG", "SG", "ZH_CN"},
+         }) {
+        const StorefrontClient fresh(
+            server.host(), QStringLiteral("token-1"),
+            {.language = QLatin1String(row.language), .script = {}, .region = QLatin1String(row.region)}, transport,
+            clock);
+        EXPECT_EQ(fresh.country(), QLatin1String(row.country)) << row.language << '-' << row.region;
+        EXPECT_TRUE(fresh.requestBody(QStringLiteral("$language"), {})
+                        .contains(QByteArray("\"language\":\"") + row.sentLanguage + '"'))
+            << row.language << '-' << row.region;
+    }
+    for (const char* const none : {"", "U", "us", "U ", " U", "US ", "PR", "AQ", "Ü"})
+        EXPECT_FALSE(isStorefrontCountry(QString::fromUtf8(none))) << none;
+}
+
+TEST_F(StorefrontClientTest, EveryFailureIsReportedAndOnlyAPassingOneIsTriedAgain)
+{
+    struct Row {
+        Answer answer;
+        APIError error;
+        bool passes;
+    };
+    const auto http = [](int status) {
+        const auto code = status == 429 ? std::optional(QStringLiteral("RATE_LIMITED")) : std::nullopt;
+        return APIError{APIError::Http{.status = status, .code = code, .message = {}}};
+    };
+    const auto refusal = [](const QStringList& messages) {
+        return APIError{APIError::GraphQL{messages}};
+    };
+    const APIError invalid{APIError::InvalidResponse{}};
+    const auto undecodable = [](const char* why) {
+        return APIError{APIError::Decoding{QString::fromLatin1(why)}};
+    };
+    std::vector<Row> rows{
+        {Answer::drop(), {APIError::Offline{}}, false},
+        {Answer::body("{\"data\":{\"n\":1}}").cutAfter(9), {APIError::Offline{}}, false},
+        {Answer::body(R"({"errors":[{"message":"no"}],"data":{"n":1}})"), refusal({QStringLiteral("no")}), false},
+        {Answer::body(R"({"errors":[{"message":"a"},{"x":1},{"message":"b"}]})"),
+         refusal({QStringLiteral("a"), QString(), QStringLiteral("b")}), false},
+        {Answer::body(R"({"errors":[{"message":"no"},{"message":"Was tHROTTLEd."}]})"),
+         refusal({QStringLiteral("no"), QStringLiteral("Was tHROTTLEd.")}), true},
+        {Answer::body(R"({"errors":[{"message":"thrott"},{"message":"led"}]})"),
+         refusal({QStringLiteral("thrott"), QStringLiteral("led")}), false},
+        {Answer::body(R"({"data":null})"), invalid, false},
+        {Answer::body(R"({"errors":[],"data":null})"), invalid, false},
+        {Answer::body("{}"), invalid, false},
+        {Answer::body("[]"), undecodable("document: expected an object"), false},
+        {Answer::body("null"), undecodable("document: expected an object"), false},
+        {Answer::body(R"({"data":5})"), undecodable("data: expected an object"), false},
+        {Answer::body(R"({"data":{"n":"x"}})"), undecodable("data.n: expected a whole number"), false},
+    };
+    for (const int status : {300, 302, 400, 401, 402, 403, 404, 418, 422, 430, 499})
+        rows.push_back({Answer::body(R"({"data":{"n":1},"code":"X","message":"m"})", status), http(status), false});
+    for (const int status : {429, 500, 502, 503, 599})
+        rows.push_back({Answer::body(R"({"code":"X","message":"m"})", status), http(status), true});
+
+    for (const Row& row : rows) {
+        const std::size_t before = sent();
+        answer("Q", row.answer);
+        EXPECT_EQ(run(send(Retry::Never)), failed(row.error));
+        for (int i = 0; i < (row.passes ? 3 : 1); ++i)
+            answer("Q", row.answer);
+        Running<Number> retried(send(Retry::Transient));
+        if (row.passes) {
+            server.waitForRequests(before + 2);
+            pauseBeforeRetry(500ms);
+            pauseBeforeRetry(1s);
+        }
+        EXPECT_EQ(retried.result(), failed(row.error));
+        EXPECT_EQ(sent(), before + (row.passes ? 4 : 2));
+        EXPECT_EQ(clock.sleepers(), 0);
+    }
+}
+
+TEST_F(StorefrontClientTest, AnAnswerThatIsNoJsonIsAFailureThatSaysSo)
+{
+    for (const char* const body :
+         {"", "<html>", R"({"data":{"n":1})", R"({"data":{"n":1}} x)", "{\"data\":\"\xff\"}"}) {
+        answer("Q", Answer::body(body));
+        const Number result = run(send(Retry::Transient));
+        ASSERT_FALSE(result) << body;
+        EXPECT_TRUE(result.error().error().as<APIError::Decoding>()) << body;
+    }
+    answer("Q", Answer::body(R"({"data":{"n":3.0},"errors":null,"extensions":{"cost":[1]}})"));
+    EXPECT_EQ(run(send(Retry::Never)), Number(3));
+}
+
+TEST_F(StorefrontClientTest, NetworkFailuresAndTimeoutsAreTriedAgain)
+{
+    answer("Q", Answer::body("no gzip").header("Content-Encoding", "gzip"));
+    answer("Q", Answer::silence());
+    answer("Q", json(R"({"n": 1})"));
+    Running<Number> call(send(Retry::Transient));
+    server.waitForRequests(1);
+    pauseBeforeRetry(500ms);
+    EXPECT_EQ(clock.nextWake(), 15s);
+    clock.advance(15s);
+    pauseBeforeRetry(1s);
+    EXPECT_EQ(call.result(), Number(1));
+
+    answer("Q", Answer::silence());
+    Running<Number> once(send(Retry::Never));
+    server.waitForRequests(4);
+    clock.advance(15s);
+    EXPECT_EQ(once.result(), failed({APIError::Timeout{}}));
+}
+
+TEST_F(StorefrontClientTest, AnAnswerThatTricklesInMayTakeFortySeconds)
+{
+    answer("Q", Answer::body(R"({"data":{"n":1}})").pauseAfter(0).pauseAfter(1).pauseAfter(2).pauseAfter(3));
+    Running<Number> call(send(Retry::Never));
+    server.waitForRequests(1);
+    for (int i = 0; i < 3; ++i) {
+        // Everything that was sent before has arrived after it.
+        answer("Settle", json(R"({"n": 1})"));
+        ASSERT_TRUE(run(client.send(QStringLiteral("query Settle"), {}, Retry::Never, readNumber, {})));
+        clock.advance(13s);
+        server.proceed();
+    }
+    answer("Settle", json(R"({"n": 1})"));
+    ASSERT_TRUE(run(client.send(QStringLiteral("query Settle"), {}, Retry::Never, readNumber, {})));
+    EXPECT_EQ(clock.nextWake(), 1s);
+    clock.advance(1s);
+    EXPECT_EQ(call.result(), failed({APIError::Timeout{}}));
+}
+
+TEST_F(StorefrontClientTest, ACallIsCancelledWhileItIsSentAndWhileItWaitsToBeSentAgain)
+{
+    std::stop_source sending;
+    answer("Q", Answer::silence());
+    Running<Number> first(send(Retry::Transient, sending.get_token()));
+    server.waitForRequests(1);
+    sending.request_stop();
+    EXPECT_EQ(first.result(), cancelled);
+
+    std::stop_source pausing;
+    answer("Q", Answer::body("", 503));
+    Running<Number> second(send(Retry::Transient, pausing.get_token()));
+    waitUntil([this] { return clock.nextWake() == 500ms; }, "the client waits before it tries again");
+    pausing.request_stop();
+    EXPECT_EQ(second.result(), cancelled);
+    EXPECT_EQ(sent(), 2U);
+    EXPECT_EQ(clock.sleepers(), 0);
+}
+
+QSemaphore decoding;
+QSemaphore proceed;
+
+qint64 readSlowly(const JsonReader& data)
+{
+    decoding.release();
+    QMetaObject::invokeMethod(qApp, [] {}, Qt::QueuedConnection); // whoever waits for it looks again
+    proceed.acquire();
+    return data.integer("n");
+}
+
+TEST_F(StorefrontClientTest, WhatIsDecodedForNobodyIsDroppedAlsoWhenTheClientIsGone)
+{
+    for (const char* const body : {R"({"data":{"n":1}})", R"({"data":{}})"}) {
+        for (const bool clientGoes : {false, true}) {
+            std::optional<StorefrontClient> ours(std::in_place, server.host(), QStringLiteral("token-1"), locale,
+                                                 transport, clock);
+            std::stop_source stop;
+            answer("Q", Answer::body(body));
+            Running<Number> call(ours->send(query, {}, Retry::Transient, readSlowly, stop.get_token()));
+            waitUntil([] { return decoding.tryAcquire(); }, "an answer is being decoded");
+            stop.request_stop();
+            if (clientGoes)
+                ours.reset();
+            proceed.release();
+            EXPECT_EQ(call.result(), cancelled);
+        }
+    }
+}
+
+TEST_F(StorefrontClientTest, CallsMadeAtOnceEachGetTheirOwnAnswer)
+{
+    std::vector<Running<Number>> calls;
+    for (int i = 0; i < 12; ++i) {
+        const QString name = QStringLiteral("Q%1").arg(i);
+        answer(name, envelope(QJsonObject{{QStringLiteral("n"), i}}));
+        calls.emplace_back(client.send(QStringLiteral("query ") + name, {}, Retry::Never, readNumber, {}));
+    }
+    for (int i = 0; i < 12; ++i)
+        EXPECT_EQ(calls.at(static_cast<std::size_t>(i)).result(), Number(i));
+}
+
+TEST_F(StorefrontClientTest, WithoutConfigurationNothingIsSent)
+{
+    for (const auto& [domain, token] :
+         {std::pair(QString(), QStringLiteral("token-1")), std::pair(server.host(), QString()),
+          std::pair(QStringLiteral("no host"), QStringLiteral("token-1"))}) {
+        StorefrontClient bare(domain, token, locale, transport, clock);
+        EXPECT_EQ(run(bare.send(query, {}, Retry::Transient, readNumber, {})), failed({APIError::NotConfigured{}}));
+    }
+}
+
+} // namespace
