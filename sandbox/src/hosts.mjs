@@ -7,6 +7,7 @@ export const hosts = {
   web: `www.${domain}`,
   bareWeb: domain,
   cdn: `cdn.${domain}`,
+  bank: `bank.${domain}`,
 };
 
 export const hostNames = Object.values(hosts);

@@ -4,6 +4,14 @@ import { join } from 'node:path';
 import { BackendSite } from './backend/site.mjs';
 import { Tracker } from './backend/endpoints/track.mjs';
 import { Catalog } from './catalog/catalog.mjs';
+import { Stock } from './catalog/stock.mjs';
+import { checkoutUrl } from './checkout/addresses.mjs';
+import { BankSite } from './checkout/bankSite.mjs';
+import { Checkouts } from './checkout/checkouts.mjs';
+import { checkoutControls } from './checkout/controls.mjs';
+import { HandOvers } from './checkout/handOvers.mjs';
+import { CheckoutSettings } from './checkout/settings.mjs';
+import { CheckoutSite } from './checkout/site.mjs';
 import { domain, hostNames, hosts, storefrontToken, supportKey } from './hosts.mjs';
 import { PictureSite } from './pictures/site.mjs';
 import { Studio } from './pictures/studio.mjs';
@@ -13,6 +21,7 @@ import { Faults } from './server/faults.mjs';
 import { Journal } from './server/journal.mjs';
 import { createProxy } from './server/proxy.mjs';
 import { createSecureStore } from './server/secure.mjs';
+import { ShopSite } from './shop.mjs';
 import { Carts } from './storefront/carts.mjs';
 import { StorefrontSite } from './storefront/site.mjs';
 import { BareWebSite, WebSite } from './web/site.mjs';
@@ -26,28 +35,39 @@ export async function startStore({ seed = 'loomstreet', pieces = 420, stateDir, 
   const journal = new Journal({ log });
   const faults = new Faults();
   const carts = new Carts();
+  const settings = new CheckoutSettings();
+  const checkouts = new Checkouts(carts);
+  const handOvers = new HandOvers();
   const tracker = new Tracker();
   const catalog = new Catalog({ seed, count: pieces, startedAt });
+  const stock = new Stock(catalog);
   const pictures = new PictureSite({ catalog, studio: new Studio(join(stateDir, 'pictures')), journal });
-  const storefront = new StorefrontSite({ catalog, carts, journal });
+  const storefront = new StorefrontSite({ catalog, carts, checkoutUrl: (cart) => checkoutUrl(cart, settings.values), journal });
+  const pages = new CheckoutSite({ carts, checkouts, settings, journal });
   const sites = new Map([
-    [hosts.shop, storefront],
-    [hosts.service, new BackendSite({ store: { catalog, carts, tracker }, journal })],
+    [hosts.shop, new ShopSite({ storefront, checkout: pages })],
+    [hosts.service, new BackendSite({ store: { catalog, carts, handOvers, settings, tracker }, journal })],
     [hosts.cdn, pictures],
     [hosts.web, new WebSite({ catalog, storefront, pictures, journal })],
     [hosts.bareWeb, new BareWebSite()],
+    [hosts.bank, new BankSite({ checkouts, journal })],
   ]);
 
   const reset = () => {
     faults.clear();
     carts.clear();
+    checkouts.clear();
+    handOvers.clear();
+    stock.clear();
+    settings.clear();
+    pages.release();
     tracker.clear();
     journal.clear();
   };
   const certificates = await certificatesLoaded;
   const secure = createSecureStore({ certificates, sites, journal, faults });
   const proxy = createProxy({ secureServer: secure, hostNames, journal });
-  const control = createControl({ journal, faults, tracker, reset });
+  const control = createControl({ journal, faults, tracker, more: checkoutControls({ carts, checkouts, settings, pages, stock }), reset });
   const [proxyPort, ownControlPort] = await Promise.all([listen(proxy, port), listen(control, controlPort)]);
 
   return {

@@ -4,7 +4,7 @@ import { BadRequest, Exchange } from './exchange.mjs';
 import { FaultError } from './faults.mjs';
 
 /** The plain HTTP server through which tests and developers steer the store. See README.md for examples. */
-export function createControl({ journal, faults, tracker, reset }) {
+export function createControl({ journal, faults, tracker, more = {}, reset }) {
   const routes = {
     'GET /requests': () => journal.requests,
     'GET /unexpected': () => journal.unexpected,
@@ -13,6 +13,7 @@ export function createControl({ journal, faults, tracker, reset }) {
     'POST /faults': async (exchange) => ({ id: faults.add(await exchange.json()) }),
     'DELETE /faults': () => faults.clear(),
     'POST /reset': () => reset(),
+    ...more,
   };
 
   return createServer(async (req, res) => {

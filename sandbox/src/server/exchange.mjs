@@ -18,7 +18,7 @@ export class Exchange {
 
   /** Set by a fault: the answer leaves with status 200 and only half of its bytes. */
   truncated = false;
-  /** The name of the GraphQL operation, for the log and for faults. */
+  /** The name of the GraphQL operation or of the step of checkout, for the log and for faults. */
   operation = null;
 
   constructor(req, res) {
@@ -65,6 +65,11 @@ export class Exchange {
     }
   }
 
+  /** The fields of a form that a page sent; of two with one name, the last. */
+  async form() {
+    return Object.fromEntries(new URLSearchParams((await this.body()).toString('utf8')));
+  }
+
   reply(status, headers, body = '') {
     if (this.finished) return;
     let bytes = Buffer.isBuffer(body) ? body : Buffer.from(body);
@@ -82,8 +87,15 @@ export class Exchange {
       JSON.stringify(value));
   }
 
-  sendHtml(status, markup) {
-    this.reply(status, { 'content-type': 'text/html; charset=utf-8', 'cache-control': 'no-cache' }, markup);
+  sendHtml(status, markup, headers = {}) {
+    this.reply(status, { 'content-type': 'text/html; charset=utf-8', 'cache-control': 'no-cache', ...headers }, markup);
+  }
+
+  /** Sends the beginning of an answer whose rest never comes; the function it returns cuts it off. */
+  begin(status, headers, part) {
+    this.#res.writeHead(status, headers);
+    this.#res.write(part);
+    return () => this.#res.end();
   }
 
   redirect(location, status = 302) {

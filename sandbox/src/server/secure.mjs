@@ -4,7 +4,8 @@ import { BadRequest, Exchange } from './exchange.mjs';
 
 /**
  * The TLS server, HTTP/2 and HTTP/1.1. Each host name has one site: an object with handle(exchange) and, where the
- * request's body tells what is asked, identify(exchange), which runs before faults are looked up.
+ * request's body tells what is asked, identify(exchange), which runs before faults are looked up; takesCalls(exchange) says
+ * whether a fault is to look like one of the Storefront API.
  */
 export function createSecureStore({ certificates, sites, journal, faults }) {
   const server = createSecureServer({
@@ -41,7 +42,7 @@ async function serve(exchange, { sites, journal, faults }) {
     }
     await site.identify?.(exchange);
     entry.operation = exchange.operation;
-    if (await faults.apply(exchange, { storefront: site.storefront === true })) return;
+    if (await faults.apply(exchange, { storefront: site.takesCalls?.(exchange) === true })) return;
     await site.handle(exchange);
   } catch (error) {
     if (exchange.finished) return;

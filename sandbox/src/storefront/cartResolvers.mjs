@@ -1,14 +1,14 @@
-import { hosts } from '../hosts.mjs';
 import { addLines, attributesOf, CartProblem, codesOf, removeLines, touch, updateLines } from './carts.mjs';
 import { costOf } from './cartCost.mjs';
 import { connect } from './connection.mjs';
+import { requireGlobalId, requireSize } from './inputs.mjs';
 import { amountIn } from './money.mjs';
 
 const Cart = {
   appliedGiftCards: () => [],
   attribute: ({ attributes }, { key }) => attributes.find((attribute) => attribute.key === key) ?? null,
   buyerIdentity: ({ buyer }) => ({ countryCode: buyer.countryCode ?? null, email: buyer.email ?? null, phone: buyer.phone ?? null }),
-  checkoutUrl: ({ token, key }) => `https://${hosts.shop}/cart/c/${token}?key=${key}`,
+  checkoutUrl: (cart, _, { checkoutUrl }) => checkoutUrl(cart),
   cost: (cart, _, { market }) => {
     const cost = costOf(cart, market);
     const subtotal = amountIn(cost.market, cost.subtotal);
@@ -51,7 +51,9 @@ const CartLine = {
 const Mutation = {
   cartCreate: (_, { input }, context) =>
     answer(() => {
+      requireSizes(input ?? {});
       const cart = context.carts.create(input ?? {});
+      cart.country = context.market.country;
       const warnings = addLines(cart, input?.lines, variantsOf(context));
       context.carts.keep(cart);
       return { cart, warnings };
@@ -79,6 +81,8 @@ export const cartResolvers = { Cart, CartLine, Mutation };
 function change(apply) {
   return (_, args, context) =>
     answer(() => {
+      requireGlobalId(args.cartId);
+      requireSizes(args);
       const cart = context.carts.find(args.cartId);
       if (!cart) throw new CartProblem('The specified cart does not exist.', ['cartId']);
       const before = cart.lines.map((line) => ({ line, was: { ...line } }));
@@ -86,6 +90,7 @@ function change(apply) {
       try {
         const warnings = apply(cart, args, context) ?? [];
         touch(cart);
+        cart.country = context.market.country;
         return { cart, warnings };
       } catch (error) {
         before.forEach(({ line, was }) => Object.assign(line, was));
@@ -93,6 +98,11 @@ function change(apply) {
         throw error;
       }
     });
+}
+
+/** Of any list a call may bring at most 250. */
+function requireSizes(input) {
+  Object.values(input).filter(Array.isArray).forEach(requireSize);
 }
 
 function answer(work) {
@@ -106,6 +116,7 @@ function answer(work) {
 
 function variantsOf({ catalog }) {
   return (id) => {
+    requireGlobalId(id);
     const found = catalog.byId.get(id);
     return found?.__typename === 'ProductVariant' ? found : null;
   };

@@ -1,6 +1,7 @@
 import { randomBytes, randomUUID } from 'node:crypto';
 
 const mostLines = 500;
+const mostOfOne = 1000000;
 const mostCarts = 5000;
 
 /** What a mutation returns when the shopper, not the store, got something wrong. */
@@ -43,6 +44,15 @@ export class Carts {
     return this.#carts.get(id) ?? null;
   }
 
+  get all() {
+    return [...this.#carts.values()];
+  }
+
+  /** A cart that was paid for, or that nobody came back to, is gone for good. */
+  end(id) {
+    return this.#carts.delete(id);
+  }
+
   clear() {
     this.#carts.clear();
   }
@@ -55,9 +65,10 @@ export function addLines(cart, inputs, variantOf) {
     const quantity = input.quantity ?? 1;
     if (quantity < 1) throw tooSmall(1, place);
     const attributes = attributesOf(input.attributes);
+    if (quantity > mostOfOne) throw tooLarge(place);
     let line = cart.lines.find((other) => other.variant === variant && sameAttributes(other.attributes, attributes));
     if (!line) {
-      if (cart.lines.length >= mostLines) throw new CartProblem('The cart is full', ['lines'], 'MAXIMUM_EXCEEDED');
+      if (cart.lines.length >= mostLines) throw new CartProblem(`The cart cannot hold more than ${mostLines} lines`, ['lines'], 'MAXIMUM_EXCEEDED');
       line = newLine(cart, variant, attributes);
       cart.lines.push(line);
     }
@@ -74,6 +85,7 @@ export function updateLines(cart, inputs, variantOf) {
     if (input.attributes) line.attributes = attributesOf(input.attributes);
     const quantity = input.quantity ?? line.quantity;
     if (quantity < 0) throw tooSmall(0, place);
+    if (quantity > mostOfOne) throw tooLarge(place);
     if (quantity === 0) cart.lines.splice(cart.lines.indexOf(line), 1);
     else setQuantity(line, quantity, warnings);
   }
@@ -105,6 +117,10 @@ function newLine(cart, variant, attributes) {
 
 function tooSmall(least, place) {
   return new CartProblem(`Quantity must be greater than or equal to ${least}`, ['lines', String(place), 'quantity'], 'LESS_THAN');
+}
+
+function tooLarge(place) {
+  return new CartProblem(`Quantity must be less than or equal to ${mostOfOne}`, ['lines', String(place), 'quantity'], 'MAXIMUM_EXCEEDED');
 }
 
 /** More than there is becomes what there is, nothing included, and the shopper is told. */

@@ -1,18 +1,18 @@
-import { GraphQLError } from 'graphql';
-
 import { collectionTitle } from '../catalog/titles.mjs';
 import { hosts } from '../hosts.mjs';
 import { markets } from '../markets/markets.mjs';
 import { connect } from './connection.mjs';
 import { filterPieces, offerFilters } from './filters.mjs';
+import { requireGlobalId, requireSize } from './inputs.mjs';
 import { parseProductQuery } from './productQuery.mjs';
 import { words } from './searchIndex.mjs';
 import { sortPieces } from './sorting.mjs';
 
-const idLimit = 250;
-
 const QueryRoot = {
-  cart: (_, { id }, { carts }) => carts.find(id),
+  cart: (_, { id }, { carts }) => {
+    requireGlobalId(id);
+    return carts.find(id);
+  },
   collection: (_, { handle, id }, { catalog, market }) => {
     if (handle) return catalog.collection(handle, market);
     const collection = id ? lookUp(catalog, id) : null;
@@ -22,11 +22,7 @@ const QueryRoot = {
   localization: () => ({}),
   node: (_, { id }, context) => nodeOf(id, context),
   nodes: (_, { ids }, context) => {
-    if (ids.length > idLimit) {
-      throw new GraphQLError(`The input array size of ${ids.length} is greater than the maximum allowed of ${idLimit}.`, {
-        extensions: { code: 'MAX_INPUT_SIZE_EXCEEDED' },
-      });
-    }
+    requireSize(ids);
     return ids.map((id) => nodeOf(id, context));
   },
   predictiveSearch,
@@ -113,8 +109,6 @@ function nodeOf(id, { catalog, carts }) {
 
 /** One malformed identifier fails the whole field; an unknown one is merely absent. */
 function lookUp(catalog, id) {
-  if (!/^gid:\/\/shopify\/[A-Za-z]+\/[\w-]+/.test(id)) {
-    throw new GraphQLError(`Invalid global id '${id}'`, { extensions: { code: 'BAD_REQUEST' } });
-  }
+  requireGlobalId(id);
   return catalog.byId.get(id) ?? null;
 }

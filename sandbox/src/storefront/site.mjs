@@ -8,26 +8,31 @@ import { SearchIndex } from './searchIndex.mjs';
 
 const endpoint = '/api/2025-04/graphql.json';
 
-/** The shop's host: the Storefront API. */
+/** The Storefront API, on the shop's host. */
 export class StorefrontSite {
-  storefront = true;
   #catalog;
   #carts;
+  #checkoutUrl;
   #journal;
   #schema = loadSchema();
   #documents = new Documents(this.#schema);
   #index = null;
   #calls = new WeakMap();
 
-  constructor({ catalog, carts, journal }) {
+  constructor({ catalog, carts, checkoutUrl, journal }) {
     this.#catalog = catalog;
     this.#carts = carts;
+    this.#checkoutUrl = checkoutUrl;
     this.#journal = journal;
   }
 
   get index() {
     this.#index ??= new SearchIndex(this.#catalog);
     return this.#index;
+  }
+
+  takesCalls(exchange) {
+    return exchange.path === endpoint;
   }
 
   /** Reads the call ahead of everything else, because faults are asked for by operation. */
@@ -89,6 +94,7 @@ export class StorefrontSite {
       contextValue: {
         catalog: this.#catalog,
         carts: this.#carts,
+        checkoutUrl: this.#checkoutUrl,
         index: () => this.index,
         market: marketOf(context.country),
         language: context.language ?? 'EN',

@@ -1,0 +1,62 @@
+import { hosts } from '../hosts.mjs';
+import { BadRequest } from '../server/exchange.mjs';
+import { handOverModes } from './handOvers.mjs';
+import { trickNames } from './pages/tricks.mjs';
+import { languages } from './pages/words.mjs';
+
+const defaults = {
+  address: 'cart',
+  url: null,
+  page: 'form',
+  status: 503,
+  target: `https://${hosts.web}/pages/about-us`,
+  tricks: [],
+  prefilled: true,
+  bank: 'none',
+  thankYou: 'order',
+  thankYouPath: 'thank-you',
+  language: 'en',
+  handOver: 'guest',
+};
+
+const checks = {
+  address: oneOf('cart', 'checkouts'),
+  url: [(value) => value === null || (typeof value === 'string' && value.length <= 65536), 'null or a text of at most 65536 characters'],
+  page: oneOf('form', 'redirect', 'stall', 'error'),
+  status: [(value) => Number.isInteger(value) && value >= 400 && value <= 599, 'from 400 to 599'],
+  target: [(value) => typeof value === 'string' && URL.canParse(value), 'an absolute address'],
+  tricks: [(value) => Array.isArray(value) && value.every((name) => trickNames.includes(name)), `a list of ${trickNames.join(', ')}`],
+  prefilled: [(value) => typeof value === 'boolean', 'true or false'],
+  bank: oneOf('none', 'popup', 'frame'),
+  thankYou: oneOf('order', 'order-number', 'confirmation', 'unnumbered', 'hostile', 'huge', 'huge-tail'),
+  thankYouPath: oneOf('thank-you', 'thank_you', 'orders'),
+  language: oneOf(...languages),
+  handOver: oneOf(...handOverModes),
+};
+
+/** How checkout is to behave, as told through the control port; what was not told stays as it is. */
+export class CheckoutSettings {
+  #values = { ...defaults };
+
+  get values() {
+    return this.#values;
+  }
+
+  change(wanted) {
+    if (wanted === null || typeof wanted !== 'object' || Array.isArray(wanted)) throw new BadRequest('the settings are a JSON object');
+    for (const [name, value] of Object.entries(wanted)) {
+      if (!Object.hasOwn(checks, name)) throw new BadRequest(`checkout has no setting "${name}"`);
+      const [holds, explanation] = checks[name];
+      if (!holds(value)) throw new BadRequest(`${name} is ${explanation}`);
+    }
+    this.#values = { ...this.#values, ...wanted };
+  }
+
+  clear() {
+    this.#values = { ...defaults };
+  }
+}
+
+function oneOf(...names) {
+  return [(value) => names.includes(value), `one of ${names.join(', ')}`];
+}
