@@ -17,6 +17,7 @@
 
 #include <QDesktopServices>
 #include <QGuiApplication>
+#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QStandardPaths>
@@ -41,7 +42,8 @@ QString pictureCacheFolder()
            QStringLiteral("/LOOMSTREET/pictures");
 }
 
-int runShop(const AppConfig& config, const LaunchOptions& options, QQmlEngine& engine, SystemAppearance& appearance)
+int runShop(const AppConfig& config, const LaunchOptions& options, const SingleInstance& instance, QQmlEngine& engine,
+            SystemAppearance& appearance)
 {
     SystemClock clock;
     SystemRandom random;
@@ -62,9 +64,6 @@ int runShop(const AppConfig& config, const LaunchOptions& options, QQmlEngine& e
     model.setWindowHost(&windows);
     AppLifecycle lifecycle(model, windows, clock);
 
-    SingleInstance instance(applicationID);
-    if (instance.claim(options.links) == SingleInstance::Role::Second)
-        return 0;
     QObject::connect(&instance, &SingleInstance::activated, &lifecycle, &AppLifecycle::handleReopen);
     QObject::connect(&instance, &SingleInstance::linksOpened, &lifecycle, [&lifecycle](const QStringList& links) {
         for (const QString& link : links)
@@ -83,6 +82,8 @@ int runShop(const AppConfig& config, const LaunchOptions& options, QQmlEngine& e
         probe.emplace();
     lifecycle.didFinishLaunching(
         {.link = options.links.isEmpty() ? std::nullopt : std::optional(options.links.first())});
+    for (const QString& link : options.links.mid(1))
+        lifecycle.handleOpen(link);
     StartReport report(options.startReportFile, options.screenshotFile);
     if (const WindowSession* const session = model.keySession())
         report.watch(windows.windowOf(*session));
@@ -102,19 +103,24 @@ int main(int argc, char* argv[])
     // Reading certificates takes longer than all the rest of this; they are needed with the first request.
     QFuture<bool> authority =
         QtConcurrent::run([file = options.authorityFile] { return file.isEmpty() || addCertificateAuthority(file); });
-    registerFonts();
-
     PictureLoading pictures(pictureCacheFolder());
-    DesktopAppearance appearance;
     QQmlEngine engine;
     prepareEngine(engine, pictures);
+    const auto preloaded = WindowManager::preload(engine);
 
+    SingleInstance instance(applicationID);
+    if (instance.claim(options.links) == SingleInstance::Role::Second)
+        return 0;
+    registerFonts();
+    DesktopAppearance appearance;
     if (!authority.result())
         return 1;
     const std::optional<AppConfig> config = AppConfig::load();
     if (!config) {
         const auto window = WindowManager::showConfigurationMissing(engine, appearance);
+        QObject::connect(&instance, &SingleInstance::activated, window.get(), &QWindow::requestActivate);
+        QObject::connect(&instance, &SingleInstance::linksOpened, window.get(), &QWindow::requestActivate);
         return QCoreApplication::exec();
     }
-    return runShop(*config, options, engine, appearance);
+    return runShop(*config, options, instance, engine, appearance);
 }

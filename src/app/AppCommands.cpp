@@ -126,6 +126,9 @@ void AppCommands::perform(AppCommand::Id id)
     case AppCommand::Id::Search:
         m_session.setPendingSearchFocus(true);
         break;
+    case AppCommand::Id::ShoppingBag:
+        m_session.setCartOpen(!m_session.isCartOpen());
+        break;
     case AppCommand::Id::ToggleSidebar:
         m_session.setSidebarCollapsed(!m_session.isSidebarCollapsed());
         break;

@@ -32,6 +32,7 @@ enum class Id {
     NextTab,
     PreviousTab,
     Search,
+    ShoppingBag,
     ToggleSidebar,
     ToggleFullScreen,
     HelpCenter,
@@ -53,7 +54,7 @@ struct AppCommandEntry {
 };
 
 /// The commands in the order of their menus.
-inline constexpr std::array<AppCommandEntry, 18> appCommandEntries{{
+inline constexpr std::array<AppCommandEntry, 19> appCommandEntries{{
     {AppCommand::Id::NewTab, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "New Tab")}, {"Ctrl+T"}},
     {AppCommand::Id::NewWindow, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "New Window")}, {"Ctrl+N"}},
     {AppCommand::Id::CloseTab, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "Close Tab")}, {"Ctrl+W"}},
@@ -71,6 +72,10 @@ inline constexpr std::array<AppCommandEntry, 18> appCommandEntries{{
      AppCommand::Menu::View,
      {QT_TRANSLATE_NOOP("Loomstreet", "Reload This Page")},
      {"Ctrl+R", "F5"}},
+    {AppCommand::Id::ShoppingBag,
+     AppCommand::Menu::View,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Shopping bag")},
+     {"Ctrl+Shift+B"}},
     {AppCommand::Id::ToggleSidebar,
      AppCommand::Menu::View,
      {QT_TRANSLATE_NOOP("Loomstreet", "Collapse Sidebar")},

@@ -1,5 +1,7 @@
 #include "app/AppConfig.h"
 
+#include "navigation/StorePages.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QMap>
@@ -31,6 +33,9 @@ std::optional<QMap<QString, QString>> parseTexts(const QByteArray& propertyList)
             return std::nullopt;
         texts.insert(key, xml.readElementText());
     }
+    // A file that was cut off, or goes on after its end, is not one of ours.
+    while (!xml.atEnd())
+        xml.readNext();
     if (xml.hasError())
         return std::nullopt;
     return texts;
@@ -83,7 +88,8 @@ std::optional<AppConfig> AppConfig::parse(const QByteArray& propertyList)
     if (config.shopifyDomain.isEmpty() || config.storefrontToken.isEmpty() || config.supportKey.isEmpty() ||
         !isAddress(config.supportBase))
         return std::nullopt;
-    if (!isAddress(config.storeWebURL))
+    // What the store's own pages could not be loaded from is no address of theirs.
+    if (!isAddress(config.storeWebURL) || !StorePages(config.storeWebURL).mayLoad(QUrl(config.storeWebURL)))
         config.storeWebURL = defaultStoreWebURL;
     return config;
 }

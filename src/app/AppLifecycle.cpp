@@ -57,8 +57,8 @@ void AppLifecycle::handleOpen(const QString& link)
         m_model.openWindow({.link = link});
         return;
     }
-    session->openTab(SidebarItem::Home, TabActivation::Activate)->open(link);
-    m_windows.raise(*session);
+    m_windows.raise(*session); // first: a link may lead on to the browser, which is then in front
+    session->openLink(link);
 }
 
 } // namespace loom

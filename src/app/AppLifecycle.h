@@ -31,7 +31,7 @@ public:
     [[nodiscard]] static constexpr bool shouldTerminateAfterLastWindowClosed() { return false; }
     /// The application was started again, or its icon activated: brings its front window forward, or opens one.
     void handleReopen();
-    /// A link came from outside: opens in a new tab of the front window.
+    /// A link came from outside: opens in the front window.
     void handleOpen(const QString& link);
 
 private:

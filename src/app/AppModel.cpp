@@ -47,6 +47,15 @@ AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
     , m_money(appLanguageFor(m_platform.locale))
     , m_market({.country = defaultCountry(m_platform.locale), .language = appLanguageFor(m_platform.locale)},
                m_storefrontClient, m_storefront, m_folder, m_preferences, m_platform.clock)
+    , m_cartAPI(m_storefrontClient)
+    , m_cart(m_cartAPI, m_preferences, m_platform.clock)
+    , m_cartModel(m_cart, AppConfig::freeShippingThreshold, m_market, m_money, m_platform.clock)
+    , m_checkout(m_widget, m_cart, m_config.supportBase,
+                 {.clock = m_platform.clock,
+                  .announcements = m_announcements,
+                  .openExternally = m_platform.openExternally,
+                  .appVersion = AppConfig::appVersion()},
+                 [this] { return storefrontLanguageCode(m_market.context().language, m_platform.locale.region); })
     , m_services{.clock = m_platform.clock,
                  .random = m_platform.random,
                  .resolver = LinkResolver(StorePages(m_config.storeWebURL).storeHost()),
@@ -54,9 +63,33 @@ AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
                  .openExternally = m_platform.openExternally,
                  .heldKeys = m_platform.heldKeys}
 {
+    connectStores();
 }
 
 AppModel::~AppModel() = default;
+
+void AppModel::connectStores()
+{
+    connect(&m_market, &MarketStore::revisionChanged, &m_cart, &CartStore::syncBuyerCountry);
+    // The platform ends a cart that was paid for; one that was only looked at may have a new address.
+    connect(&m_announcements, &Announcements::posted, &m_cart, [this](Announcement announcement) {
+        if (announcement != Announcement::AuthChanged)
+            m_cart.refresh();
+    });
+    connect(&m_checkout, &CheckoutStarter::ready, this, [this](CheckoutModel* checkout) {
+        if (m_windows)
+            m_windows->showCheckout(*checkout);
+    });
+}
+
+void AppModel::takePendingCheckout(WindowSession& session)
+{
+    const std::optional<CheckoutRequest> request = session.pendingCheckout();
+    if (!request)
+        return;
+    session.setPendingCheckout({});
+    m_checkout.start(*request);
+}
 
 bool AppModel::claim(const QString& key)
 {
@@ -71,6 +104,7 @@ void AppModel::bootstrap()
     if (std::exchange(m_didBootstrap, true))
         return;
     m_market.load();
+    m_cart.refresh();
     m_tracker.report(Tracker::AppOpened{});
 }
 
@@ -85,6 +119,7 @@ WindowSession& AppModel::openWindow(const WindowSeed& seed)
 {
     WindowSession& session = *m_sessions.emplace_back(std::make_unique<WindowSession>(m_services, seed));
     m_keyOrder.prepend(&session);
+    connect(&session, &WindowSession::pendingCheckoutChanged, this, [this, &session] { takePendingCheckout(session); });
     beginFirstPage(session);
     m_windows->show(session);
     bootstrap();
@@ -115,6 +150,7 @@ void AppModel::beginFirstPage(const WindowSession& session)
     case PageKind::Kind::Product:
         begin(entry.handle, makeProduct(nullptr, entry.handle, entry.itemVariant()));
         break;
+    case PageKind::Kind::Cart:
     case PageKind::Kind::StorePage:
     case PageKind::Kind::Unknown:
         break;
@@ -185,6 +221,14 @@ CollectionTilesModel* AppModel::makeDepartment(QObject* owner, const QString& id
     const Department* const department = findDepartment(id);
     return new CollectionTilesModel(department ? department->collections : allCollections(), m_storefront, m_market,
                                     owner);
+}
+
+BuyModel* AppModel::makeBuying(QObject* owner, ProductModel* product)
+{
+    auto* const buying = new BuyModel(*product, m_cart, m_platform.clock, owner);
+    connect(buying, &BuyModel::checkoutWanted, this,
+            [this](const QUrl& url) { m_checkout.start({.url = url, .fromCart = false}); });
+    return buying;
 }
 
 QString AppModel::screenshotPath() const

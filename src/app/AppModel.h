@@ -6,6 +6,7 @@
 #include "app/AppSettings.h"
 #include "app/WindowServices.h"
 #include "app/WindowSession.h"
+#include "base/Announcements.h"
 #include "base/FeatureGates.h"
 #include "catalog/CollectionModel.h"
 #include "catalog/CollectionTilesModel.h"
@@ -13,6 +14,9 @@
 #include "catalog/MoneyFormat.h"
 #include "catalog/ProductModel.h"
 #include "catalog/StorefrontAPI.h"
+#include "commerce/BuyModel.h"
+#include "commerce/CartModel.h"
+#include "commerce/CheckoutStarter.h"
 #include "net/HttpTransport.h"
 #include "net/SessionSource.h"
 #include "net/Tracker.h"
@@ -46,6 +50,8 @@ class AppModel final : public QObject
     Q_OBJECT
     Q_PROPERTY(loom::MarketStore* market READ market CONSTANT)
     Q_PROPERTY(loom::AppSettings* settings READ settings CONSTANT)
+    Q_PROPERTY(loom::CartModel* cart READ cart CONSTANT)
+    Q_PROPERTY(loom::CheckoutStarter* checkout READ checkout CONSTANT)
     Q_PROPERTY(loom::AppSession* session READ session CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QString storeWebAddress READ storeWebAddress CONSTANT)
@@ -60,6 +66,10 @@ public:
     [[nodiscard]] AppSession* session() { return &m_session; }
     [[nodiscard]] MarketStore* market() { return &m_market; }
     [[nodiscard]] AppSettings* settings() { return &m_settings; }
+    [[nodiscard]] CartModel* cart() { return &m_cartModel; }
+    [[nodiscard]] CartStore& cartStore() { return m_cart; }
+    [[nodiscard]] CheckoutStarter* checkout() { return &m_checkout; }
+    [[nodiscard]] Announcements& announcements() { return m_announcements; }
     [[nodiscard]] Preferences& preferences() { return m_preferences; }
     [[nodiscard]] Tracker& tracker() { return m_tracker; }
     /// The address of the store's own site.
@@ -94,6 +104,8 @@ public:
                                                               const QVariant& item);
     /// The collections of a department, or with an empty id those of all departments.
     [[nodiscard]] Q_INVOKABLE loom::CollectionTilesModel* makeDepartment(QObject* owner, const QString& id);
+    /// The ways to buy what a product's page shows; its `product` belongs to the page too.
+    [[nodiscard]] Q_INVOKABLE loom::BuyModel* makeBuying(QObject* owner, loom::ProductModel* product);
     [[nodiscard]] Q_INVOKABLE loom::AppCommands* makeCommands(QObject* owner, loom::WindowSession* session);
 
     /// Where a picture of the window taken now is to be saved.
@@ -106,6 +118,9 @@ private:
     /// Asks for what the first page of a new window shows while the window itself is still being built; the page takes
     /// the models over.
     void beginFirstPage(const WindowSession& session);
+    /// Who tells whom.
+    void connectStores();
+    void takePendingCheckout(WindowSession& session);
     template <typename Model>
     [[nodiscard]] Model* takeBegun(QObject* owner, const QString& handle);
 
@@ -124,6 +139,11 @@ private:
     QSet<QString> m_claimed;
     MoneyFormat m_money;
     MarketStore m_market;
+    Announcements m_announcements;
+    CartAPI m_cartAPI;
+    CartStore m_cart;
+    CartModel m_cartModel;
+    CheckoutStarter m_checkout;
     bool m_didBootstrap = false;
     WindowServices m_services;
     WindowHost* m_windows = nullptr;

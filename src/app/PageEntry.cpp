@@ -35,6 +35,8 @@ PageEntry pageFor(SidebarItem item, const StorePages& storePages)
     PageEntry page{.title = entry.title.translated(), .symbol = QString::fromLatin1(entry.symbol), .item = {}};
     if (item == SidebarItem::Home) {
         page.kind = PageKind::Kind::Explore;
+    } else if (item == SidebarItem::Cart) {
+        page.kind = PageKind::Kind::Cart;
     } else if (const auto handle = collectionHandle(item)) {
         page.kind = PageKind::Kind::Collection;
         page.handle = *handle;

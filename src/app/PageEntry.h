@@ -20,6 +20,7 @@ enum class Kind {
     Department, ///< of the department whose id is the handle
     Collection,
     Product,
+    Cart,
     StorePage, ///< the store's own web page
     Unknown,
 };

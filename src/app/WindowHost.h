@@ -3,6 +3,7 @@
 namespace loom
 {
 
+class CheckoutModel;
 class WindowSession;
 
 /// Shows windows for sessions. What the application model knows of the user interface. Main thread.
@@ -19,6 +20,8 @@ public:
     /// Brings a window to the front.
     virtual void raise(WindowSession& session) = 0;
     virtual void showSettings() = 0;
+    /// Shows a checkout in a window of its own, or brings that window to the front. It ends with the checkout.
+    virtual void showCheckout(CheckoutModel& checkout) = 0;
     /// Whether any main window can be seen.
     [[nodiscard]] virtual bool hasVisibleWindow() const = 0;
     /// Gives every open window the application's style.

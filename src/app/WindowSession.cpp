@@ -42,6 +42,16 @@ Router* WindowSession::insertTab(int index, SidebarItem section, TabActivation a
     return router;
 }
 
+void WindowSession::openLink(const QString& link)
+{
+    const LinkResolver::Target target = m_services.resolver.resolve(link);
+    const bool isPage = !std::holds_alternative<LinkResolver::External>(target) &&
+                        !std::holds_alternative<LinkResolver::Cart>(target) &&
+                        !std::holds_alternative<LinkResolver::None>(target);
+    Router* const tab = isPage ? openTab(SidebarItem::Home, TabActivation::Activate) : selected();
+    tab->open(link);
+}
+
 void WindowSession::newTab()
 {
     openTab(SidebarItem::Home, TabActivation::Activate);
@@ -97,7 +107,7 @@ void WindowSession::closeOtherTabs(int index)
         return;
     select(kept->id());
     for (int i = m_tabs.count() - 1; i >= 0; --i) {
-        if (m_tabs.at(i) != kept && !m_tabs.at(i)->isPinned())
+        if (m_tabs.at(i) != kept)
             dropTab(i);
     }
 }
@@ -139,6 +149,36 @@ void WindowSession::setPendingCheckout(const std::optional<CheckoutRequest>& req
 {
     m_pendingCheckout = request;
     Q_EMIT pendingCheckoutChanged();
+}
+
+void WindowSession::expandCart()
+{
+    setCartOpen(false);
+    if (Router* const tab = selected())
+        tab->select(SidebarItem::Cart);
+}
+
+void WindowSession::dockCart()
+{
+    leaveCart();
+    setCartOpen(true);
+}
+
+void WindowSession::leaveCart()
+{
+    setCartOpen(false);
+    Router* const tab = selected();
+    if (!tab || tab->selection() != SidebarItem::Cart)
+        return;
+    if (tab->canGoBack())
+        tab->back();
+    else
+        tab->select(SidebarItem::Home);
+}
+
+void WindowSession::checkOut(const QUrl& cartCheckoutURL)
+{
+    setPendingCheckout(CheckoutRequest{.url = cartCheckoutURL, .fromCart = true});
 }
 
 void WindowSession::openLightbox(const QStringList& images, int index, const QString& title)

@@ -50,13 +50,15 @@ public:
 
     /// Opens a tab behind the last one.
     Router* openTab(SidebarItem section, TabActivation activation);
+    /// Opens a link from outside: a page in a tab of its own; what is no page, such as the cart's panel, needs none.
+    void openLink(const QString& link);
     Q_INVOKABLE void newTab();
     /// Opens a tab directly to the right of the one with this number.
     Q_INVOKABLE void newTabToTheRight(int index);
     Q_INVOKABLE void selectTab(int index);
     /// The most recently used tab comes to the front. Closing the last one asks for the window to be closed.
     Q_INVOKABLE void closeTab(int index);
-    /// Pinned tabs stay.
+    /// Pinned ones too.
     Q_INVOKABLE void closeOtherTabs(int index);
     Q_INVOKABLE void selectNextTab();
     Q_INVOKABLE void selectPreviousTab();
@@ -76,6 +78,12 @@ public:
 
     [[nodiscard]] const std::optional<CheckoutRequest>& pendingCheckout() const { return m_pendingCheckout; }
     void setPendingCheckout(const std::optional<CheckoutRequest>& request);
+    /// The cart as a page instead of as a panel, the other way around, and neither.
+    Q_INVOKABLE void expandCart();
+    Q_INVOKABLE void dockCart();
+    Q_INVOKABLE void leaveCart();
+    /// Asks for the cart to be paid for.
+    Q_INVOKABLE void checkOut(const QUrl& cartCheckoutURL);
     [[nodiscard]] const std::optional<LightboxRequest>& lightbox() const { return m_lightbox; }
     Q_INVOKABLE void openLightbox(const QStringList& images, int index, const QString& title);
     Q_INVOKABLE void closeLightbox();

@@ -247,13 +247,15 @@ double JsonReader::decimal(std::string_view key) const
 
 QDateTime JsonReader::date(std::string_view key) const
 {
-    QString problem = QStringLiteral("expected a date");
+    QString problem;
     if (const auto element = member(key)) {
         if (const auto value = dateOf(*element, &problem))
             return *value;
     }
-    if (m_exists && !m_context->error)
-        m_context->error = path(key) + QStringLiteral(": ") + problem;
+    if (problem.isEmpty())
+        fail(key, "a date");
+    else if (!m_context->error)
+        m_context->error = problem;
     return {};
 }
 

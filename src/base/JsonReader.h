@@ -39,7 +39,7 @@ public:
     [[nodiscard]] double number(std::string_view key) const;
     /// A number, or a text that is one, such as "19.5".
     [[nodiscard]] double decimal(std::string_view key) const;
-    /// A date in one of the forms of parseDate().
+    /// A date in one of the forms of parseDate(), whose failure stands alone, without a path.
     [[nodiscard]] QDateTime date(std::string_view key) const;
     /// Whatever is under `key`, which must be there.
     [[nodiscard]] JsonReader value(std::string_view key) const;

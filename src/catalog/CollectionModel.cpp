@@ -8,6 +8,14 @@
 namespace loom
 {
 
+namespace
+{
+
+/// How many pages that add nothing are passed over in one go.
+constexpr int maximumPassedOver = 10;
+
+} // namespace
+
 CollectionModel::CollectionModel(QString handle, QString fallbackTitle, StorefrontAPI& api, const MarketStore& market,
                                  const MoneyFormat& money, const Clock& clock, QObject* parent)
     : QObject(parent)
@@ -130,6 +138,16 @@ QCoro::Task<> CollectionModel::loadFirst()
     m_products.replace(std::move(page->products));
     if (m_isMissing)
         co_return;
+    if (m_products.count() == 0) {
+        auto failure = co_await append(run.stop());
+        if (run.isStopped())
+            co_return;
+        if (failure) {
+            m_failure = std::move(failure);
+            m_loadedKey.clear();
+            co_return;
+        }
+    }
     if (m_hasNextPage)
         static_cast<void>(count());
     else
@@ -138,18 +156,28 @@ QCoro::Task<> CollectionModel::loadFirst()
 
 QCoro::Task<> CollectionModel::loadNext()
 {
+    m_loadMoreFailure.reset(); // first: who is told of the beginning must not see it
     const Work::Run run = m_loadingMore.begin();
-    m_loadMoreFailure.reset();
-    auto page = co_await m_api.collectionProducts(request(m_cursor), run.stop());
-    if (run.isStopped())
-        co_return;
-    if (!page) {
-        m_loadMoreFailure = page.error().error();
-        co_return;
+    auto failure = co_await append(run.stop());
+    if (!run.isStopped())
+        m_loadMoreFailure = std::move(failure);
+}
+
+QCoro::Task<std::optional<APIError>> CollectionModel::append(std::stop_token stop)
+{
+    // A page adds nothing when none of its products can be read, or all are shown already.
+    const int before = m_products.count();
+    for (int pages = 0; m_hasNextPage && m_products.count() == before && pages < maximumPassedOver; ++pages) {
+        auto page = co_await m_api.collectionProducts(request(m_cursor), stop);
+        if (stop.stop_requested())
+            co_return std::nullopt;
+        if (!page)
+            co_return page.error().error();
+        m_hasNextPage = page->hasNextPage && page->endCursor != m_cursor; // one that does not move leads nowhere
+        m_cursor = page->endCursor;
+        m_products.append(std::move(page->products));
     }
-    m_hasNextPage = page->hasNextPage && page->endCursor != m_cursor; // one that does not move leads nowhere
-    m_cursor = page->endCursor;
-    m_products.append(std::move(page->products));
+    co_return std::nullopt;
 }
 
 QCoro::Task<> CollectionModel::count()

@@ -95,6 +95,8 @@ private:
     [[nodiscard]] CollectionRequest request(const std::optional<QString>& after) const;
     [[nodiscard]] QCoro::Task<> loadFirst();
     [[nodiscard]] QCoro::Task<> loadNext();
+    /// Appends pages until one has added something or the list ends; gives what stopped it, if anything did.
+    [[nodiscard]] QCoro::Task<std::optional<APIError>> append(std::stop_token stop);
     [[nodiscard]] QCoro::Task<> count();
     [[nodiscard]] qlonglong totalCountOrUnknown() const { return m_totalCount.value_or(-1); }
     [[nodiscard]] int sortIndex() const { return static_cast<int>(m_sort); }

@@ -22,6 +22,8 @@ MarketRate decodeStoredRate(const JsonReader& json)
                     .country = json.text("country")};
     if (!std::isfinite(rate.rate) || rate.rate <= 0)
         json.fail(QStringLiteral("a rate that is not above zero"));
+    if (rate.currency.isEmpty())
+        json.fail(QStringLiteral("a rate into no currency"));
     return rate;
 }
 

@@ -149,8 +149,8 @@ QCoro::Task<> MarketStore::fetchCountries()
 {
     const Work::Run run = m_fetching.begin();
     auto countries = co_await m_api.countries(run.stop());
-    // A failure keeps the list that was there.
-    if (run.isStopped() || !countries)
+    // A failure keeps the list that was there, and so does a list of which nothing can be read.
+    if (run.isStopped() || !countries || countries->empty())
         co_return;
     m_countries = *std::move(countries);
     QJsonArray stored;

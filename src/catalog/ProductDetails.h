@@ -35,7 +35,7 @@ struct ProductDetails {
 [[nodiscard]] QVariantList specList(const ProductDetails& details);
 /// {"title", "paragraphs", "questions"} each; the questions are {"question", "answer"}.
 [[nodiscard]] QVariantList storyList(const ProductDetails& details);
-/// {"rating", "count", "tags", "reviews", "footer" …}; empty without ratings and reviews.
+/// {"rating", "count", "tags", "reviews", "footer" …}; empty without ratings and reviews. A count of 0 is not known.
 [[nodiscard]] QVariantMap reviewSummary(const ProductDetails& details);
 
 } // namespace loom

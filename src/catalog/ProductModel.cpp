@@ -45,19 +45,19 @@ ProductModel::ProductModel(QString handle, std::optional<ProductListItem> item, 
     connect(&market, &MarketStore::rateChanged, this, &ProductModel::rateChanged);
     connect(&preferences, &Preferences::changed, this, [this](const QString& key) {
         if (key == QLatin1String(preferences::sizeUnit.key))
-            Q_EMIT sizeTablesChanged();
+            readSizeTables();
     });
 }
 
 ProductModel::Phase ProductModel::phase() const
 {
-    if (m_isMissing)
-        return Phase::Missing;
     if (m_product)
         return Phase::Loaded;
     if (isLoading())
         return Phase::Loading;
-    return m_failure ? Phase::Failed : Phase::Idle;
+    if (m_failure)
+        return Phase::Failed;
+    return m_isMissing ? Phase::Missing : Phase::Idle;
 }
 
 const ProductListItem* ProductModel::item() const
@@ -136,7 +136,9 @@ int ProductModel::pictureIndex() const
 
 QVariantMap ProductModel::service() const
 {
-    const ServiceWording wording = serviceWording(m_details.serviceClass);
+    // Before the product has arrived its card says enough to promise nothing that will be taken back.
+    const ServiceWording wording =
+        serviceWording(m_product || !item() ? m_details.serviceClass : serviceClass(item()->tags, {}, item()->title));
     return {{QStringLiteral("returns"), wording.returns},
             {QStringLiteral("note"), wording.note},
             {QStringLiteral("service"), wording.service}};
@@ -150,11 +152,6 @@ bool ProductModel::isMetric() const
 void ProductModel::setMetric(bool isMetric)
 {
     m_preferences.set(preferences::sizeUnit, isMetric ? QStringLiteral("metric") : imperial);
-}
-
-QVariantList ProductModel::sizeTables() const
-{
-    return sizeTableList(m_details, isMetric() ? SizeUnit::Metric : SizeUnit::Imperial);
 }
 
 bool ProductModel::hasSizeUnits() const
@@ -180,7 +177,7 @@ QString ProductModel::freeShippingFrom() const
 
 void ProductModel::load()
 {
-    if (!m_product && !m_isMissing && !isLoading())
+    if (!isLoading() && (m_failure || (!m_product && !m_isMissing)))
         reload();
 }
 
@@ -201,8 +198,10 @@ QCoro::Task<> ProductModel::fetch()
     }
     m_failure.reset();
     m_isMissing = !answer->has_value();
-    if (m_isMissing)
+    if (m_isMissing) {
+        adopt(std::nullopt, {});
         co_return;
+    }
     Product product = **std::move(answer);
     ProductDetails details = co_await QtConcurrent::run(productDetails, product);
     if (run.isStopped())
@@ -210,20 +209,36 @@ QCoro::Task<> ProductModel::fetch()
     adopt(std::move(product), std::move(details));
 }
 
-void ProductModel::adopt(Product product, ProductDetails details)
+void ProductModel::adopt(std::optional<Product> product, ProductDetails details)
 {
-    // A reload, perhaps in another market, keeps what the shopper chose as far as it still exists.
-    Selection selection = initialSelection(product);
-    for (const ProductOption& option : product.options) {
-        const QString chosen = m_selection.value(option.name);
-        if (option.values.contains(chosen))
-            selection.insert(option.name, chosen);
-    }
+    const QStringList shownPictures = pictures();
+    const bool hasNews = m_details != details;
     m_product = std::move(product);
     m_details = std::move(details);
-    m_selection = std::move(selection);
+    // A reload, perhaps in another market, keeps what the shopper chose as far as it still exists.
+    if (m_product) {
+        Selection selection = initialSelection(*m_product);
+        for (const ProductOption& option : m_product->options) {
+            const QString chosen = m_selection.value(option.name);
+            if (option.values.contains(chosen))
+                selection.insert(option.name, chosen);
+        }
+        m_selection = std::move(selection);
+    }
+    // What is the same stays on the page as the shopper left it.
+    if (pictures() != shownPictures)
+        Q_EMIT picturesChanged();
     Q_EMIT productChanged();
     Q_EMIT selectionChanged();
+    if (hasNews) {
+        Q_EMIT detailsChanged();
+        readSizeTables();
+    }
+}
+
+void ProductModel::readSizeTables()
+{
+    m_sizeTables = sizeTableList(m_details, isMetric() ? SizeUnit::Metric : SizeUnit::Imperial);
     Q_EMIT sizeTablesChanged();
 }
 

@@ -31,19 +31,19 @@ class ProductModel final : public QObject
     Q_PROPERTY(QString title READ title NOTIFY productChanged)
     Q_PROPERTY(QString designer READ designer NOTIFY productChanged)
     Q_PROPERTY(QString label READ label NOTIFY productChanged)
-    Q_PROPERTY(QString presale READ presale NOTIFY productChanged)
-    Q_PROPERTY(QString sizeHint READ sizeHint NOTIFY productChanged)
-    Q_PROPERTY(QStringList highlights READ highlights NOTIFY productChanged)
-    Q_PROPERTY(QStringList composition READ composition NOTIFY productChanged)
-    Q_PROPERTY(QVariantList specs READ specs NOTIFY productChanged)
-    Q_PROPERTY(QVariantList sections READ sections NOTIFY productChanged)
-    Q_PROPERTY(QVariantList stories READ stories NOTIFY productChanged)
-    Q_PROPERTY(QVariantMap reviews READ reviews NOTIFY productChanged)
+    Q_PROPERTY(QString presale READ presale NOTIFY detailsChanged)
+    Q_PROPERTY(QString sizeHint READ sizeHint NOTIFY detailsChanged)
+    Q_PROPERTY(QStringList highlights READ highlights NOTIFY detailsChanged)
+    Q_PROPERTY(QStringList composition READ composition NOTIFY detailsChanged)
+    Q_PROPERTY(QVariantList specs READ specs NOTIFY detailsChanged)
+    Q_PROPERTY(QVariantList sections READ sections NOTIFY detailsChanged)
+    Q_PROPERTY(QVariantList stories READ stories NOTIFY detailsChanged)
+    Q_PROPERTY(QVariantMap reviews READ reviews NOTIFY detailsChanged)
     Q_PROPERTY(QVariantMap service READ service NOTIFY productChanged)
     Q_PROPERTY(QVariantList sizeTables READ sizeTables NOTIFY sizeTablesChanged)
-    Q_PROPERTY(bool hasSizeUnits READ hasSizeUnits NOTIFY productChanged)
+    Q_PROPERTY(bool hasSizeUnits READ hasSizeUnits NOTIFY detailsChanged)
     Q_PROPERTY(bool isMetric READ isMetric WRITE setMetric NOTIFY sizeTablesChanged)
-    Q_PROPERTY(QStringList pictures READ pictures NOTIFY productChanged)
+    Q_PROPERTY(QStringList pictures READ pictures NOTIFY picturesChanged)
     Q_PROPERTY(int pictureIndex READ pictureIndex NOTIFY selectionChanged)
     Q_PROPERTY(QString price READ price NOTIFY selectionChanged)
     Q_PROPERTY(QString formerPrice READ formerPriceText NOTIFY selectionChanged)
@@ -86,7 +86,7 @@ public:
     [[nodiscard]] bool isMetric() const;
     void setMetric(bool isMetric);
 
-    /// Loads unless it is loaded or loading.
+    /// Loads unless it is loaded or loading; after a failure it tries again.
     Q_INVOKABLE void load();
     Q_INVOKABLE void reload();
     /// Chooses an option's value; choosing it again takes it back, unless it is the only one.
@@ -95,13 +95,16 @@ public:
 Q_SIGNALS:
     void stateChanged();
     void productChanged();
+    void detailsChanged();
+    void picturesChanged();
     void selectionChanged();
     void sizeTablesChanged();
     void rateChanged();
 
 private:
     [[nodiscard]] QCoro::Task<> fetch();
-    void adopt(Product product, ProductDetails details);
+    void adopt(std::optional<Product> product, ProductDetails details);
+    void readSizeTables();
     [[nodiscard]] const ProductListItem* item() const;
 
     [[nodiscard]] QString presale() const { return m_details.metafields.presale.value_or(QString()); }
@@ -113,7 +116,7 @@ private:
     [[nodiscard]] QVariantList stories() const { return storyList(m_details); }
     [[nodiscard]] QVariantMap reviews() const { return reviewSummary(m_details); }
     [[nodiscard]] QVariantMap service() const;
-    [[nodiscard]] QVariantList sizeTables() const;
+    [[nodiscard]] const QVariantList& sizeTables() const { return m_sizeTables; }
     [[nodiscard]] bool hasSizeUnits() const;
     [[nodiscard]] QVariantList options() const;
     [[nodiscard]] QString freeShippingFrom() const;
@@ -128,6 +131,7 @@ private:
     const Clock& m_clock;
     std::optional<Product> m_product;
     ProductDetails m_details;
+    QVariantList m_sizeTables; ///< in the unit of the settings
     Selection m_selection;
     bool m_isMissing = false;
     std::optional<APIError> m_failure;

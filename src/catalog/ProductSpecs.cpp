@@ -12,10 +12,10 @@ namespace
 {
 
 constexpr std::size_t maximumSpecs = 200;
-constexpr std::size_t maximumTables = 50;
+constexpr std::size_t maximumTables = 20;
 constexpr std::size_t maximumRows = 200;
 constexpr std::size_t maximumColumns = 40;
-constexpr qsizetype maximumCells = 5000; ///< of all tables of a product: each is read anew when the unit changes
+constexpr qsizetype maximumCells = 1000; ///< of all tables of a product: each is read anew when the unit changes
 constexpr qsizetype maximumCellLength = 200;
 
 SpecRow decodeSpecRow(const JsonReader& json)

@@ -164,7 +164,7 @@ std::optional<MarketSample> readRateSample(const JsonReader& data)
         sample.sum += price->optionalDecimal("amount").value_or(0);
         sample.currency = price->optionalText("currencyCode").value_or(QString());
     }
-    return sample.sum > 0 ? std::optional(sample) : std::nullopt;
+    return sample.sum > 0 && !sample.currency.isEmpty() ? std::optional(sample) : std::nullopt;
 }
 
 QJsonValue orNull(const std::optional<QString>& text)

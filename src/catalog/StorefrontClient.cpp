@@ -19,6 +19,11 @@ constexpr std::chrono::milliseconds retryPause{500};
 
 } // namespace
 
+bool isThrottled(const APIError::GraphQL& refusal)
+{
+    return refusal.messages.join(QLatin1Char('\n')).contains(QLatin1String("throttled"), Qt::CaseInsensitive);
+}
+
 StorefrontClient::StorefrontClient(const QString& domain, QString accessToken, SystemLocale locale,
                                    HttpTransport& transport, Clock& clock)
     : m_endpoint(QStringLiteral("https://") + domain + QStringLiteral("/api/2025-04/graphql.json"))
@@ -78,7 +83,7 @@ bool StorefrontClient::isTransient(const Failure& failure)
     if (const auto* const http = error.as<APIError::Http>())
         return http->status == 429 || http->status >= 500;
     if (const auto* const graphQL = error.as<APIError::GraphQL>())
-        return graphQL->messages.join(QLatin1Char('\n')).contains(QLatin1String("throttled"), Qt::CaseInsensitive);
+        return isThrottled(*graphQL);
     return false;
 }
 

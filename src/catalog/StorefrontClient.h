@@ -20,6 +20,9 @@ class HttpTransport;
 /// Whether a call may be sent again after a failure that may pass. Queries may, mutations may not.
 enum class Retry { Never, Transient };
 
+/// Whether the platform refused a call only because there were too many.
+[[nodiscard]] bool isThrottled(const APIError::GraphQL& refusal);
+
 /// The one transport to the Storefront GraphQL API. It fills the market's country and the content language into
 /// every query that declares them, sends a throttled or failed query up to three times, and decodes answers on a
 /// worker thread. Holds configuration and the market, nothing else. Main thread.

@@ -184,9 +184,12 @@ QCoro::Task<ApiResult<HttpResponse>> HttpTransport::send(HttpRequest request, st
 
     const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
     // Qt reports a 4xx or 5xx answer as an error of its own numbers, and a redirection of what cannot be sent twice as
-    // another; for us each is an answer.
+    // another; for us each is an answer. So is a 407 of the server itself, which came through TLS: a proxy's has no
+    // status here.
     const bool isAnswer = (reply->error() >= QNetworkReply::ContentAccessDenied && status.toInt() >= 400) ||
-                          (reply->error() == QNetworkReply::ContentReSendError && status.isValid());
+                          (reply->error() == QNetworkReply::ContentReSendError && status.isValid()) ||
+                          (reply->error() == QNetworkReply::ProxyAuthenticationRequiredError && status.isValid() &&
+                           request.url.scheme() == QLatin1String("https"));
     if (reply->error() != QNetworkReply::NoError && !isAnswer) {
         qCWarning(logNet) << request.url.toString(QUrl::RemoveQuery | QUrl::RemoveFragment) << reply->error();
         co_return Unexpected(Failure(transportError(*reply)));
@@ -211,6 +214,8 @@ QNetworkReply* HttpTransport::start(const HttpRequest& request)
                                                                        : QNetworkRequest::ManualRedirectPolicy);
     if (request.method == HttpMethod::Get)
         return m_access->get(message);
+    // Every step, however soon after the one before: the watchdog knows by them that a body is being sent again.
+    message.setAttribute(QNetworkRequest::EmitAllUploadProgressSignalsAttribute, true);
     if (request.body.size() > uploadStepBytes)
         return m_access->post(message, request.body);
     auto body = std::make_unique<SingleUseBody>(request.body);

@@ -1,5 +1,7 @@
 #include "platform/DesktopAppearance.h"
 
+#include "base/Log.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -51,8 +53,11 @@ DesktopAppearance::DesktopAppearance(QObject* parent)
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-                SLOT(settingChanged(QString, QString, QDBusVariant)));
+    // The slot is found by the names of its types, and this one's is not known by itself.
+    qRegisterMetaType<QDBusVariant>();
+    if (!bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+                     SLOT(settingChanged(QString, QString, QDBusVariant))))
+        qCWarning(logPlatform) << "cannot follow the desktop's settings";
     read(appearanceGroup, colourSchemeKey);
     read(interfaceGroup, animationsKey);
     read(interfaceGroup, textScaleKey);

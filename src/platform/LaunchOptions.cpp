@@ -44,7 +44,10 @@ LaunchOptions readLaunchOptions(const QStringList& arguments)
 
 bool addCertificateAuthority(const QString& file)
 {
-    const QList<QSslCertificate> authorities = QSslCertificate::fromPath(file, QSsl::Pem);
+    // Opened here: for a name that is no file's, Qt's own function would search all folders beside it.
+    QFile pem(file);
+    const QList<QSslCertificate> authorities =
+        pem.open(QIODevice::ReadOnly) ? QSslCertificate::fromDevice(&pem, QSsl::Pem) : QList<QSslCertificate>();
     if (authorities.isEmpty()) {
         qCCritical(logPlatform) << "no certificate authority in" << file;
         return false;

@@ -4,6 +4,7 @@
 #include "platform/FreedesktopApplication.h"
 
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDir>
 #include <QJsonArray>
@@ -61,7 +62,12 @@ SingleInstance::Role SingleInstance::claimOnBus(const QStringList& links)
     bus.registerObject(objectPath(m_applicationID), this, QDBusConnection::ExportAdaptors);
     if (bus.registerService(m_applicationID))
         return Role::First;
+    const QDBusError refusal = bus.lastError();
     bus.unregisterObject(objectPath(m_applicationID));
+    if (!bus.interface()->isServiceRegistered(m_applicationID)) {
+        qCWarning(logPlatform) << "the session bus refuses the application its name:" << refusal.name();
+        return claimSocket(links);
+    }
 
     QDBusMessage call = QDBusMessage::createMethodCall(
         m_applicationID, objectPath(m_applicationID), QStringLiteral("org.freedesktop.Application"),
@@ -89,6 +95,10 @@ SingleInstance::Role SingleInstance::claimSocket(const QStringList& links)
         connect(m_server.get(), &QLocalServer::newConnection, this, &SingleInstance::readRequest);
         return Role::First;
     }
+    if (m_lock->error() != QLockFile::LockFailedError) {
+        qCWarning(logPlatform) << "cannot find out whether another instance runs: no lock at" << m_lock->fileName();
+        return Role::First;
+    }
     QLocalSocket socket;
     socket.connectToServer(name);
     if (socket.waitForConnected(answerTimeout)) {
@@ -107,7 +117,7 @@ void SingleInstance::readRequest()
     QLocalSocket* const socket = m_server->nextPendingConnection();
     connect(socket, &QLocalSocket::disconnected, this, [this, socket] {
         QStringList links;
-        for (const QJsonValue& link : QJsonDocument::fromJson(socket->read(maximumRequestBytes)).array())
+        for (const auto& link : QJsonDocument::fromJson(socket->read(maximumRequestBytes)).array())
             links.append(link.toString());
         receive(links);
         socket->deleteLater();

@@ -7,7 +7,18 @@ namespace loom
 
 SystemLocale readSystemLocale()
 {
-    return readLocale(QLocale::system());
+    SystemLocale locale = readLocale(QLocale::system());
+    // Whoever reads another language than the country's still lives there. Qt takes the place from the language; how
+    // money is written tells it better.
+    for (const char* const name : {"LC_ALL", "LC_MONETARY", "LANG"}) {
+        const QString value = qEnvironmentVariable(name);
+        if (value.isEmpty())
+            continue;
+        if (const QLocale place(value); place.language() != QLocale::C)
+            locale.region = readLocale(place).region;
+        break;
+    }
+    return locale;
 }
 
 SystemLocale readLocale(const QLocale& locale)

@@ -3,6 +3,8 @@
 #include "base/Log.h"
 #include "storage/Preferences.h"
 
+#include <QPointer>
+
 namespace loom
 {
 
@@ -14,56 +16,71 @@ const QString filesChoice = QStringLiteral("file");
 
 } // namespace
 
+struct ChosenSecureStore::State {
+    QPointer<Preferences> preferences;
+    std::unique_ptr<SecureStore> system;
+    std::unique_ptr<SecureStore> files;
+    std::optional<QCoro::Task<bool>> probe; ///< shared by the calls that come before the choice
+};
+
 ChosenSecureStore::ChosenSecureStore(Preferences& preferences, std::unique_ptr<SecureStore> system,
                                      std::unique_ptr<SecureStore> files)
-    : m_preferences(preferences)
-    , m_system(std::move(system))
-    , m_files(std::move(files))
+    : m_state(std::make_shared<State>(&preferences, std::move(system), std::move(files)))
 {
 }
 
 QCoro::Task<Result<void, QString>> ChosenSecureStore::store(QString key, QByteArray bytes)
 {
-    SecureStore* const chosen = co_await choose();
+    const std::shared_ptr<State> state = m_state;
+    SecureStore* const chosen = co_await choose(state);
     co_return co_await chosen->store(key, bytes);
 }
 
 QCoro::Task<Result<std::optional<QByteArray>, QString>> ChosenSecureStore::read(QString key)
 {
-    SecureStore* const chosen = co_await choose();
+    const std::shared_ptr<State> state = m_state;
+    SecureStore* const chosen = co_await choose(state);
     co_return co_await chosen->read(key);
 }
 
 QCoro::Task<Result<void, QString>> ChosenSecureStore::remove(QString key)
 {
-    SecureStore* const chosen = co_await choose();
+    const std::shared_ptr<State> state = m_state;
+    SecureStore* const chosen = co_await choose(state);
     co_return co_await chosen->remove(key);
 }
 
-QCoro::Task<SecureStore*> ChosenSecureStore::choose()
+QCoro::Task<SecureStore*> ChosenSecureStore::choose(std::shared_ptr<State> state)
 {
-    if (m_preferences.value(preferences::secureStore).isEmpty()) {
+    const auto remembered = [&state] {
+        return state->preferences ? state->preferences->value(preferences::secureStore) : QString();
+    };
+    QString choice = remembered();
+    if (choice.isEmpty()) {
         // One probe for all: two at a time would remove the probe from under each other.
-        if (!m_probe)
-            m_probe.emplace(systemStoreWorks());
-        const bool works = co_await *m_probe;
-        if (m_preferences.value(preferences::secureStore).isEmpty()) {
-            m_preferences.set(preferences::secureStore, works ? systemChoice : filesChoice);
+        if (!state->probe)
+            state->probe.emplace(systemStoreWorks(state->system.get()));
+        const bool works = co_await *state->probe;
+        choice = remembered();
+        if (choice.isEmpty()) {
+            choice = works ? systemChoice : filesChoice;
             qCInfo(logStorage) << "secrets are kept in" << (works ? "the system's credential store" : "files");
+            if (state->preferences)
+                state->preferences->set(preferences::secureStore, choice);
         }
     }
-    co_return m_preferences.value(preferences::secureStore) == systemChoice ? m_system.get() : m_files.get();
+    co_return choice == systemChoice ? state->system.get() : state->files.get();
 }
 
-QCoro::Task<bool> ChosenSecureStore::systemStoreWorks()
+QCoro::Task<bool> ChosenSecureStore::systemStoreWorks(SecureStore* system)
 {
     // A locked wallet answers reads with "not found" and refuses writes: only a written value proves that it works.
     const QString key = QStringLiteral("lst_probe");
     const QByteArray probe("loomstreet");
-    if (!co_await m_system->store(key, probe))
+    if (!co_await system->store(key, probe))
         co_return false;
-    const Result<std::optional<QByteArray>, QString> found = co_await m_system->read(key);
-    static_cast<void>(co_await m_system->remove(key)); // a probe left behind does no harm
+    const Result<std::optional<QByteArray>, QString> found = co_await system->read(key);
+    static_cast<void>(co_await system->remove(key)); // a probe left behind does no harm
     co_return found && found->has_value() && found->value() == probe;
 }
 

@@ -11,7 +11,7 @@ class Preferences;
 
 /// Keeps secrets in the system's credential store when one answers at the first use, otherwise in files. The choice
 /// is made once for an installation and remembered; it never changes silently, because a secret written to one place
-/// would then not be found in the other. Owns both stores.
+/// would then not be found in the other. Owns both stores. A call goes on when this is gone.
 class ChosenSecureStore final : public SecureStore
 {
 public:
@@ -23,13 +23,12 @@ public:
     [[nodiscard]] QCoro::Task<Result<void, QString>> remove(QString key) override;
 
 private:
-    [[nodiscard]] QCoro::Task<SecureStore*> choose();
-    [[nodiscard]] QCoro::Task<bool> systemStoreWorks();
+    struct State;
 
-    Preferences& m_preferences;
-    std::unique_ptr<SecureStore> m_system;
-    std::unique_ptr<SecureStore> m_files;
-    std::optional<QCoro::Task<bool>> m_probe; ///< shared by the calls that come before the choice
+    [[nodiscard]] static QCoro::Task<SecureStore*> choose(std::shared_ptr<State> state);
+    [[nodiscard]] static QCoro::Task<bool> systemStoreWorks(SecureStore* system);
+
+    std::shared_ptr<State> m_state; ///< every call holds it, and goes on when this is gone
 };
 
 } // namespace loom

@@ -3,10 +3,12 @@
 #include "base/Log.h"
 #include "storage/AtomicFile.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <filesystem>
 
 namespace loom
 {
@@ -30,17 +32,35 @@ QByteArray encode(const QJsonValue& value)
     return list.mid(1, list.size() - 2);
 }
 
-/// Runs on the writer's thread.
-void setAside(const QString& path, bool isKnownUnreadable)
+/// Whether the file, if there is one, can be replaced without losing what nobody could read.
+bool isReadable(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return;
-    const QByteArray bytes = file.readAll();
-    if (!isKnownUnreadable && JsonDocument::parse(bytes))
-        return;
-    if (const auto kept = writeFileAtomically(setAsidePath(path), bytes); !kept)
-        qCWarning(logStorage) << "cannot set aside" << path << kept.error();
+        return !file.exists();
+    return JsonDocument::parse(file.readAll()).hasValue();
+}
+
+/// Keeps the file, if there is one, beside its place; that takes neither room for its bytes nor the right to read them.
+[[nodiscard]] bool setAside(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return true;
+    const std::filesystem::path aside = QFileInfo(setAsidePath(path)).filesystemFilePath();
+    std::error_code failure;
+    std::filesystem::remove(aside, failure);
+    // Linked, it also stays in its place until something else is there.
+    std::filesystem::create_hard_link(file.filesystemCanonicalFilePath(), aside, failure);
+    if (failure)
+        std::filesystem::rename(file.filesystemFilePath(), aside, failure);
+    if (failure) {
+        qCWarning(logStorage) << "cannot set aside" << path << failure.message().c_str();
+        return false;
+    }
+    std::filesystem::permissions(aside, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write,
+                                 failure);
+    return true;
 }
 
 } // namespace
@@ -63,9 +83,8 @@ QString DataFolder::filePath(const QString& name) const
 
 void DataFolder::save(const QString& name, const QJsonValue& value)
 {
-    const bool isKnownUnreadable = m_unreadable.remove(fileName(name));
     m_writer.write(filePath(name), encode(value),
-                   [isKnownUnreadable](const QString& path) { setAside(path, isKnownUnreadable); });
+                   [this, file = fileName(name)](const QString& path) { return mayReplace(file, path); });
 }
 
 void DataFolder::saveSnapshot(const QString& name, const QJsonValue& value, const QDateTime& savedAt)
@@ -73,9 +92,29 @@ void DataFolder::saveSnapshot(const QString& name, const QJsonValue& value, cons
     save(name, QJsonObject{{QStringLiteral("value"), value}, {QStringLiteral("savedAt"), formatDate(savedAt)}});
 }
 
+bool DataFolder::mayReplace(const QString& file, const QString& path)
+{
+    if (!isKnownUnreadable(file) && isReadable(path))
+        return true;
+    if (!setAside(path))
+        return false;
+    const QMutexLocker lock(&m_mutex);
+    m_unreadable.remove(file);
+    return true;
+}
+
+bool DataFolder::isKnownUnreadable(const QString& file) const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_unreadable.contains(file);
+}
+
 void DataFolder::remove(const QString& name)
 {
-    m_unreadable.remove(fileName(name));
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_unreadable.remove(fileName(name));
+    }
     m_writer.remove(filePath(name));
     m_writer.remove(setAsidePath(filePath(name)));
 }
@@ -86,14 +125,18 @@ std::optional<QByteArray> DataFolder::read(const QString& name)
     if (auto pending = m_writer.pending(path))
         return *std::move(pending);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (file.exists())
+            markUnreadable(name, file.errorString());
         return std::nullopt;
+    }
     return file.readAll();
 }
 
 void DataFolder::markUnreadable(const QString& name, const QString& reason)
 {
     qCWarning(logStorage) << fileName(name) << "does not decode:" << reason;
+    const QMutexLocker lock(&m_mutex);
     m_unreadable.insert(fileName(name));
 }
 

@@ -5,6 +5,7 @@
 #include "storage/FileWriter.h"
 
 #include <QJsonValue>
+#include <QMutex>
 #include <QSet>
 
 namespace loom
@@ -22,7 +23,8 @@ struct Snapshot {
 /// The JSON files that survive a restart, each addressed by its store's name. One per process; main thread. Saving
 /// returns at once and is carried out in the background; a write that fails leaves the previous file in place.
 ///
-/// Nothing is lost by a file that cannot be read: before a save replaces it, its bytes are set aside beside it.
+/// Nothing is lost by a file that cannot be read: before a save replaces it, it is set aside beside its place, and
+/// where it cannot be set aside it is not replaced.
 class DataFolder
 {
 public:
@@ -93,11 +95,15 @@ private:
     [[nodiscard]] QString filePath(const QString& name) const;
     [[nodiscard]] std::optional<QByteArray> read(const QString& name);
     void markUnreadable(const QString& name, const QString& reason);
+    [[nodiscard]] bool isKnownUnreadable(const QString& file) const;
+    /// Sets the file aside first if that has to be. Runs on the writer's thread.
+    [[nodiscard]] bool mayReplace(const QString& file, const QString& path);
     [[nodiscard]] static std::vector<QByteArray> completeElements(const QByteArray& list, bool* isWhole);
 
     QString m_path;
-    QSet<QString> m_unreadable; ///< file names
-    FileWriter m_writer;
+    mutable QMutex m_mutex;
+    QSet<QString> m_unreadable; ///< names of files that could not be read and still lie in their place
+    FileWriter m_writer;        ///< the last: its thread uses the others until it ends
 };
 
 } // namespace loom

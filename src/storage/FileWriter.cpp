@@ -18,9 +18,9 @@ FileWriter::~FileWriter()
     waitUntilWritten();
 }
 
-void FileWriter::write(const QString& path, const QByteArray& bytes, BeforeReplacing before)
+void FileWriter::write(const QString& path, const QByteArray& bytes, MayReplace mayReplace)
 {
-    enqueue(path, {.bytes = bytes, .before = std::move(before)});
+    enqueue(path, {.bytes = bytes, .mayReplace = std::move(mayReplace)});
 }
 
 void FileWriter::remove(const QString& path)
@@ -46,11 +46,7 @@ void FileWriter::enqueue(const QString& path, Change change)
 {
     const QMutexLocker lock(&m_mutex);
     change.number = ++m_changes;
-    const auto waiting = m_waiting.constFind(path);
-    const bool isScheduled = waiting != m_waiting.cend();
-    // A change that overtakes a waiting one replaces the same file: what that one had to do first still has to be done.
-    if (isScheduled && waiting->before)
-        change.before = waiting->before;
+    const bool isScheduled = m_waiting.contains(path);
     m_waiting.insert(path, change);
     if (!isScheduled)
         m_thread.start([this, path] { carryOut(path); });
@@ -62,17 +58,13 @@ void FileWriter::carryOut(const QString& path)
         Change change;
         {
             const QMutexLocker lock(&m_mutex);
-            Change& waiting = m_waiting[path];
-            change = waiting;
-            waiting.before = {}; // not for a change that comes from now on, which replaces another file
+            change = m_waiting.value(path);
         }
-        if (change.bytes) {
-            if (change.before)
-                change.before(path);
+        if (!change.bytes) {
+            QFile::remove(path);
+        } else if (!change.mayReplace || change.mayReplace(path)) {
             if (const auto written = writeFileAtomically(path, *change.bytes); !written)
                 qCWarning(logStorage) << "cannot write" << path << written.error();
-        } else {
-            QFile::remove(path);
         }
         const QMutexLocker lock(&m_mutex);
         if (m_waiting.value(path).number == change.number) {

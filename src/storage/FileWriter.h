@@ -18,15 +18,15 @@ namespace loom
 class FileWriter
 {
 public:
-    /// Runs on the writer's thread just before a file is replaced.
-    using BeforeReplacing = std::function<void(const QString& path)>;
+    /// Asked on the writer's thread just before a file is replaced; it stays as it is if the answer is no.
+    using MayReplace = std::function<bool(const QString& path)>;
 
     FileWriter();
     FileWriter(const FileWriter&) = delete;
     FileWriter& operator=(const FileWriter&) = delete;
     ~FileWriter();
 
-    void write(const QString& path, const QByteArray& bytes, BeforeReplacing before = {});
+    void write(const QString& path, const QByteArray& bytes, MayReplace mayReplace = {});
     /// A file that does not exist or cannot be removed is ignored.
     void remove(const QString& path);
 
@@ -39,7 +39,7 @@ public:
 private:
     struct Change {
         std::optional<QByteArray> bytes; ///< none removes the file
-        BeforeReplacing before;
+        MayReplace mayReplace;
         quint64 number = 0;
     };
     void enqueue(const QString& path, Change change);

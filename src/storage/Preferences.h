@@ -21,6 +21,7 @@ struct Preference {
 /// The one table of settings.
 namespace preferences
 {
+inline constexpr Preference<const char*> cartID{"shopify_cart_id", ""};          ///< opaque, and as good as a key
 inline constexpr Preference<const char*> appearance{"lst_appearance", "system"}; ///< "system", "light" or "dark"
 inline constexpr Preference<const char*> marketCountry{"lst_market_country", ""};
 inline constexpr Preference<const char*> marketCurrency{"lst_market_currency", ""};

@@ -23,10 +23,11 @@ TEST(PageEntryTest, EverySectionHasAPage)
         const auto collection = collectionHandle(entry.item);
         const bool isDepartment =
             QStringList({QStringLiteral("women"), QStringLiteral("men"), QStringLiteral("luxury")}).contains(name);
-        const Kind kind = entry.item == SidebarItem::Home ? Kind::Explore
-                          : collection                    ? Kind::Collection
-                          : isDepartment                  ? Kind::Department
-                                                          : Kind::StorePage;
+        const Kind kind = entry.item == SidebarItem::Home   ? Kind::Explore
+                          : entry.item == SidebarItem::Cart ? Kind::Cart
+                          : collection                      ? Kind::Collection
+                          : isDepartment                    ? Kind::Department
+                                                            : Kind::StorePage;
         EXPECT_EQ(page.kind, kind) << entry.rawValue;
         EXPECT_EQ(page.handle, collection.value_or(isDepartment ? name : QString())) << entry.rawValue;
         EXPECT_EQ(page.title, entry.title.translated());

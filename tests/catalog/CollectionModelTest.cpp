@@ -1,6 +1,6 @@
 #include "catalog/CollectionModel.h"
 
-#include "ShopFixture.h"
+#include "support/ShopFixture.h"
 
 #include <QAbstractItemModelTester>
 #include <QThreadPool>
@@ -168,8 +168,12 @@ TEST_F(CollectionModelTest, MoreIsAppendedOnceUntilTheListEnds)
     EXPECT_TRUE(model->hasNextPage());
 
     answer(products, page("e"));
+    bool wasToldOfBoth = false;
+    QObject::connect(model.get(), &CollectionModel::changed, model.get(),
+                     [&] { wasToldOfBoth |= model->isLoadingMore() && model->hasLoadMoreFailed(); });
     model->loadMore();
     EXPECT_FALSE(model->hasLoadMoreFailed());
+    EXPECT_FALSE(wasToldOfBoth);
     settle(5);
     EXPECT_EQ(lastVariables().value(QStringLiteral("after")), QStringLiteral("c2"));
     EXPECT_EQ(shown(), "abcde");
@@ -190,6 +194,44 @@ TEST_F(CollectionModelTest, ACursorThatDoesNotMoveEndsTheList)
     EXPECT_FALSE(model->hasNextPage());
     EXPECT_EQ(shown(), "ab");
     EXPECT_EQ(model->totalCount(), std::nullopt);
+}
+
+TEST_F(CollectionModelTest, PagesThatAddNothingArePassedOver)
+{
+    const auto unreadable = [](const char* cursor) {
+        return changed(page("", cursor), QStringLiteral("collection.products.nodes"), json("[{}, null]"));
+    };
+    answer(products, unreadable("c1"));
+    answer(products, Answer::body("", 404));
+    model->load();
+    settle(2);
+    EXPECT_EQ(model->phase(), Phase::Failed);
+    answer(products, unreadable("c1"));
+    answer(products, page("ab", "c2"));
+    answer(counting, counted(9));
+    model->load(); // the next attempt
+    settleAll(5);
+    EXPECT_EQ(model->phase(), Phase::Loaded);
+    EXPECT_EQ(shown(), "ab");
+    EXPECT_EQ(model->totalCount(), 9);
+
+    answer(products, page("ba", "c3")); // all of it is shown already
+    answer(products, unreadable("c4"));
+    answer(products, page("c"));
+    model->loadMore();
+    settle(8);
+    EXPECT_EQ(lastVariables().value(QStringLiteral("after")), QStringLiteral("c4"));
+    EXPECT_EQ(shown(), "abc");
+    EXPECT_FALSE(model->hasNextPage());
+
+    // A store whose pages never hold anything is not walked for ever.
+    for (int i = 0; i < 11; ++i)
+        answer(products, unreadable(QByteArray::number(i).constData()));
+    answer(counting, Answer::body("", 404));
+    model->reload();
+    settleAll(20);
+    EXPECT_EQ(model->phase(), Phase::Empty);
+    EXPECT_EQ(sent(), 20U);
 }
 
 TEST_F(CollectionModelTest, AnotherOrderBeginsAtItsFirstPage)

@@ -1,6 +1,6 @@
 #include "catalog/CollectionTilesModel.h"
 
-#include "ShopFixture.h"
+#include "support/ShopFixture.h"
 
 #include <QAbstractItemModelTester>
 

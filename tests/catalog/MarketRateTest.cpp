@@ -1,7 +1,7 @@
 #include "catalog/MarketRate.h"
 
-#include "Json.h"
 #include "catalog/StorefrontAPI.h"
+#include "support/Json.h"
 
 namespace loom
 {
@@ -86,8 +86,9 @@ TEST(MarketRateTest, AStoredRateComesBackAndAnythingElseDoesNot)
               R"({"country":"DE","currency":"EUR","rate":0.9125,"sampledAt":"2025-03-09T08:07:06.000Z"})");
     EXPECT_EQ(*decodeJson(bytes(stored), decodeStoredRate), rateOf(0.9125));
     for (const auto& [path, value] :
-         {std::pair("currency", "null"), std::pair("rate", "0"), std::pair("rate", "-1"), std::pair("rate", "null"),
-          std::pair("rate", "\"0.9\""), std::pair("sampledAt", "\"today\""), std::pair("country", "7")})
+         {std::pair("currency", "null"), std::pair("currency", "\"\""), std::pair("rate", "0"), std::pair("rate", "-1"),
+          std::pair("rate", "null"), std::pair("rate", "\"0.9\""), std::pair("sampledAt", "\"today\""),
+          std::pair("country", "7")})
         EXPECT_FALSE(decodeJson(bytes(changed(stored, QLatin1String(path), json(value))), decodeStoredRate)) << value;
 }
 

@@ -1,6 +1,6 @@
 #include "catalog/MarketStore.h"
 
-#include "ShopFixture.h"
+#include "support/ShopFixture.h"
 
 #include <QFile>
 
@@ -127,7 +127,9 @@ TEST_F(MarketStoreTest, WithoutTwoSamplesInTwoCurrenciesThereIsNoRate)
     const Answer none = envelope(json(R"({"products": {"nodes": []}})"));
     for (const Row& row :
          {Row{"DE", failed, envelope(sample("200", "USD"))}, Row{"DE", envelope(sample("180", "EUR")), failed},
-          Row{"DE", none, envelope(sample("200", "USD"))}, Row{"DE", envelope(sample("180", "EUR")), none},
+          Row{"DE", none, envelope(sample("200", "USD"))},
+          Row{"DE", envelope(sample("180", "")), envelope(sample("200", "USD"))},
+          Row{"DE", envelope(sample("180", "EUR")), none},
           Row{"EC", envelope(sample("180", "USD")), envelope(sample("200", "USD"))}}) {
         put("lst_market_rate_v1.json", QByteArray(fresh).replace("2025", "2024"));
         const auto store = make(QLatin1String(row.country));
@@ -181,13 +183,19 @@ TEST_F(MarketStoreTest, CountriesAreShownFromTheSnapshotUntilTheStoreAnswers)
     answer("Countries", Answer::body("", 404));
     store->refreshCountries();
     settle(2);
-    EXPECT_EQ(store->countries().size(), 2U);             // a failure keeps what was there
+    EXPECT_EQ(store->countries().size(), 2U); // a failure keeps what was there
+    const QByteArray kept = stored("snap-countries.json");
+    answer("Countries", json(R"({"localization": {"availableCountries": [{"isoCode": "DE"}, null]}})"));
+    store->refreshCountries();
+    settle(3);
+    EXPECT_EQ(store->countries().size(), 2U); // and so does a list that cannot be read
+    EXPECT_EQ(stored("snap-countries.json"), kept);
     EXPECT_EQ(make()->currency(), QStringLiteral("EUR")); // the next start knows it before it knows the list
     put("snap-countries.json", R"({"value":[]})");
     answer("Countries", Answer::body("", 404));
     const auto broken = make();
     broken->load();
-    settle(3);
+    settle(4);
     EXPECT_THAT(broken->countries(), IsEmpty());
 }
 

@@ -75,7 +75,7 @@ TEST(ProductDetailsTest, ReviewsAreSummedUpFromWhatThereIs)
     EXPECT_TRUE(reviewSummary(productDetails({})).isEmpty());
     const QVariantMap rated = reviewSummary(productDetails(product({{"reviews.rating", "4.5"}})));
     EXPECT_EQ(rated.value(QStringLiteral("rating")), 4.5);
-    EXPECT_EQ(rated.value(QStringLiteral("count")), 0);
+    EXPECT_EQ(rated.value(QStringLiteral("count")), 0); // not known
     const QVariantMap whole = reviewSummary(productDetails(product({
         {"reviews.rating", "4.5"},
         {"custom.reviews",

@@ -1,7 +1,7 @@
 #include "catalog/ProductListModel.h"
 
-#include "Json.h"
 #include "catalog/MoneyFormat.h"
+#include "support/Json.h"
 
 #include "support/FakeClock.h"
 

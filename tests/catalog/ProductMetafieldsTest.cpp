@@ -244,15 +244,15 @@ TEST(ProductMetafieldsTest, HostileSizesAreBounded)
     };
 
     EXPECT_EQ(specs(many("[", R"({"key":"a","value":"b"},)", "]")).specs.size(), 200);
-    EXPECT_EQ(specs(many(R"({"sizeTables":[)", R"({"rows":[["a"]]},)", "]}")).sizeSections.size(), 50);
+    EXPECT_EQ(specs(many(R"({"sizeTables":[)", R"({"rows":[["a"]]},)", "]}")).sizeSections.size(), 20);
     const auto rows = specs(many(R"({"sizeTables":[{"rows":[)", R"(["a"],)", "]}]}")).sizeSections[0].rows;
     EXPECT_EQ(rows.size(), 200);
     const auto columns = specs(many(R"({"sizeTables":[{"rows":[[)", R"("a",)", "]]}]}")).sizeSections[0].rows[0];
     EXPECT_EQ(columns.size(), 40);
     const QString row = u'[' + QStringLiteral(R"("a",)").repeated(40).chopped(1) + QStringLiteral("],");
-    const QString tableOf2000 = QStringLiteral(R"({"rows":[)") + row.repeated(50).chopped(1) + QStringLiteral("]},");
+    const QString tableOf400 = QStringLiteral(R"({"rows":[)") + row.repeated(10).chopped(1) + QStringLiteral("]},");
     const QString tables =
-        QStringLiteral(R"({"sizeTables":[)") + tableOf2000.repeated(4).chopped(1) + QStringLiteral("]}");
+        QStringLiteral(R"({"sizeTables":[)") + tableOf400.repeated(4).chopped(1) + QStringLiteral("]}");
     EXPECT_EQ(specs(tables).sizeSections.size(), 2);
     EXPECT_TRUE(specs(many("", "[[", "]")).specs.isEmpty());
 

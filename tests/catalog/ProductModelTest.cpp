@@ -1,6 +1,6 @@
 #include "catalog/ProductModel.h"
 
-#include "ShopFixture.h"
+#include "support/ShopFixture.h"
 
 using namespace loom;
 using namespace std::chrono_literals;
@@ -166,6 +166,40 @@ TEST_F(ProductModelTest, AReloadKeepsWhatWasChosenAsFarAsItStillExists)
     EXPECT_EQ(model->selection(), (Selection{{size, QStringLiteral("M")}}));
 }
 
+TEST_F(ProductModelTest, AReloadTellsOnlyOfWhatHasChanged)
+{
+    const auto model = make();
+    load(*model, dress);
+    const auto pictures = emissions(*model, &ProductModel::picturesChanged);
+    const auto details = emissions(*model, &ProductModel::detailsChanged);
+    const auto tables = emissions(*model, &ProductModel::sizeTablesChanged);
+    load(*model, changed(dress, QStringLiteral("title"), QStringLiteral("Renamed")));
+    EXPECT_EQ(model->title(), QStringLiteral("Renamed"));
+    EXPECT_EQ(*pictures + *details + *tables, 0);
+    load(*model, changed(dress, QStringLiteral("images.nodes[0].url"), QStringLiteral("https://img.example/new.jpg")));
+    EXPECT_EQ(*pictures, 1);
+    EXPECT_EQ(*details, 0);
+    load(*model, changed(dress, QStringLiteral("descriptionHtml"), QStringLiteral("<p>New</p>")));
+    EXPECT_EQ(*details, 1);
+    EXPECT_EQ(*tables, 1);
+}
+
+TEST_F(ProductModelTest, ACardInTheFinalSalePromisesNoReturns)
+{
+    const auto returns = [](const ProductModel& model) {
+        return get(model, "service").toMap().value(QStringLiteral("returns")).toString();
+    };
+    const QString standard = returns(*make(card));
+    card.tags = {QStringLiteral("Final Sale")};
+    const auto model = make(card);
+    const QString final = returns(*model);
+    EXPECT_NE(final, standard);
+    load(*model, changed(dress, QStringLiteral("tags"), json(R"(["Final Sale"])")));
+    EXPECT_EQ(returns(*model), final);
+    load(*model, dress);
+    EXPECT_EQ(returns(*model), standard);
+}
+
 TEST_F(ProductModelTest, AnotherMarketLoadsAnewWhateverThereWasBefore)
 {
     const auto model = make();
@@ -175,6 +209,7 @@ TEST_F(ProductModelTest, AnotherMarketLoadsAnewWhateverThereWasBefore)
         market.setLanguage(language);
         EXPECT_TRUE(model->isLoading());
         settle(*model);
+        waitUntil([this] { return clock.sleepers() == 0; }, "the countries have their answer too");
         EXPECT_EQ(model->phase(), phase);
     };
     answer("Product", missing());
@@ -186,8 +221,13 @@ TEST_F(ProductModelTest, AnotherMarketLoadsAnewWhateverThereWasBefore)
 
     turn(AppLanguage::German, found(dress), Phase::Loaded);
     turn(AppLanguage::Greek, missing(), Phase::Missing);
-    turn(AppLanguage::Czech, json("[]"), Phase::Missing); // a failure tells nothing new
+    EXPECT_EQ(model->title(), QString()); // nothing is shown of what is not sold here
+    turn(AppLanguage::Czech, json("[]"), Phase::Failed);
     EXPECT_NE(model->errorText(), QString());
+    answer("Product", found(dress));
+    model->load(); // the next attempt
+    settle(*model);
+    EXPECT_EQ(model->phase(), Phase::Loaded);
     turn(AppLanguage::Thai, found(dress), Phase::Loaded);
 
     const auto failed = make();

@@ -1,6 +1,6 @@
 #include "catalog/Product.h"
 
-#include "Json.h"
+#include "support/Json.h"
 
 #include <QJsonArray>
 

@@ -1,6 +1,6 @@
 #include "catalog/StorefrontAPI.h"
 
-#include "StorefrontFixture.h"
+#include "support/StorefrontFixture.h"
 
 #include <QJsonArray>
 

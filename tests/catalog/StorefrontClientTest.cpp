@@ -1,7 +1,7 @@
 #include "catalog/StorefrontClient.h"
 
-#include "StorefrontFixture.h"
 #include "catalog/StorefrontLanguage.h"
+#include "support/StorefrontFixture.h"
 
 #include <QSemaphore>
 

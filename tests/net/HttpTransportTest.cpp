@@ -4,7 +4,9 @@
 #include "support/FakeNetworkStatus.h"
 #include "support/TestServer.h"
 
+#include <QNetworkProxy>
 #include <QTcpServer>
+#include <QTcpSocket>
 
 using namespace loom;
 using namespace std::chrono_literals;
@@ -79,7 +81,7 @@ TEST_F(HttpTransportTest, ARequestIsSentAsItIs)
 
 TEST_F(HttpTransportTest, AnAnswerOfAnyStatusIsAResponseWithItsBody)
 {
-    for (const int status : {200, 201, 204, 304, 400, 401, 403, 404, 409, 410, 422, 429, 500, 501, 503, 599}) {
+    for (const int status : {200, 201, 204, 304, 400, 401, 403, 404, 407, 409, 410, 422, 429, 500, 501, 503, 599}) {
         for (const char* const challenge : {"", "Basic realm=\"store\"", "Bearer"}) {
             const QByteArray body = status == 204 || status == 304 ? "" : R"({"code":"WHY"})";
             Answer answer = Answer::body(body, status);
@@ -223,7 +225,7 @@ TEST_F(HttpTransportTest, ACallIsCancelledInEveryPhase)
 
 TEST_F(HttpTransportTest, ALostConnectionIsOfflineAndNoPostIsSentTwice)
 {
-    for (const qsizetype size : {0, 2, 16 * 1024, 20'000'000}) {
+    for (const qsizetype size : {0, 2, 16 * 1024, 20'000, 200'000, 20'000'000}) {
         const std::size_t before = requests("/a");
         settle(); // on a connection that has served before a client is tempted most to try again
         server.expect("POST /a", Answer::drop());
@@ -260,6 +262,24 @@ TEST_F(HttpTransportTest, WhatCannotBeReachedIsAFailureOfTheNetworkUnlessThereIs
     EXPECT_TRUE(isNetworkFailure(send(request)));
     network.setOffline(true);
     EXPECT_EQ(send(request), offline);
+}
+
+TEST_F(HttpTransportTest, WhatAProxyRefusesIsAFailureOfTheNetwork)
+{
+    QTcpServer proxy;
+    ASSERT_TRUE(proxy.listen(QHostAddress::LocalHost));
+    QObject::connect(&proxy, &QTcpServer::newConnection, &proxy, [&proxy] {
+        QTcpSocket* const client = proxy.nextPendingConnection();
+        QObject::connect(client, &QTcpSocket::readyRead, client, [client] {
+            client->write("HTTP/1.1 407 Not for you\r\nProxy-Authenticate: Basic\r\nContent-Length: 0\r\n\r\n");
+            client->readAll();
+        });
+    });
+    const QNetworkProxy before = QNetworkProxy::applicationProxy();
+    QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), proxy.serverPort()});
+    const Response refused = send({.url = QUrl(QStringLiteral("https://store.invalid/a"))});
+    QNetworkProxy::setApplicationProxy(before);
+    EXPECT_TRUE(isNetworkFailure(refused)) << testing::PrintToString(refused);
 }
 
 TEST_F(HttpTransportTest, AnAnswerThatMakesNoSenseIsAFailure)

@@ -52,6 +52,34 @@ protected:
         struct stat status{};
         return stat(path.toLocal8Bit().constData(), &status) == 0 ? static_cast<int>(status.st_mode & 0777) : -1;
     }
+    static void setMode(const QString& path, mode_t mode) { ASSERT_EQ(chmod(path.toLocal8Bit().constData(), mode), 0); }
+    /// A folder that may be changed or not; the superuser may change any, so somebody else tries.
+    void asOrdinaryUser(mode_t folderMode, const std::function<void()>& action) const
+    {
+        constexpr uid_t nobody = 65534;
+        const uid_t user = geteuid();
+        for (const QString& outside : {home.path(), home.path() + QStringLiteral("/data")})
+            setMode(outside, 0755);
+        setMode(folder.path(), folderMode);
+        if (user == 0) {
+            ASSERT_EQ(chown(folder.path().toLocal8Bit().constData(), nobody, nobody), 0);
+            ASSERT_EQ(seteuid(nobody), 0);
+        }
+        action();
+        ASSERT_EQ(seteuid(user), 0);
+        setMode(folder.path(), 0755);
+    }
+    /// A disk that takes no files bigger than this.
+    static void onFullDisk(rlim_t bytes, const std::function<void()>& action)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit before{};
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit full{.rlim_cur = bytes, .rlim_max = before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &full);
+        action();
+        setrlimit(RLIMIT_FSIZE, &before);
+    }
     [[nodiscard]] QStringList files() const
     {
         return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
@@ -66,9 +94,10 @@ class BusyWriter
 {
 public:
     BusyWriter(DataFolder& folder, const QString& file, QByteArray content)
-        : m_content(std::move(content))
+        : m_path(folder.path() + QLatin1Char('/') + file + QStringLiteral(".json"))
+        , m_content(std::move(content))
     {
-        const QByteArray pipe = (folder.path() + QLatin1Char('/') + file + QStringLiteral(".json")).toLocal8Bit();
+        const QByteArray pipe = m_path.toLocal8Bit();
         QDir().mkpath(folder.path());
         unlink(pipe.constData());
         EXPECT_EQ(mkfifo(pipe.constData(), 0600), 0);
@@ -82,11 +111,17 @@ public:
     BusyWriter& operator=(const BusyWriter&) = delete;
     ~BusyWriter()
     {
+        QFile::remove(m_path);
+        QFile file(m_path); // what is set aside is a file again
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(m_content);
+        file.close();
         EXPECT_EQ(write(m_pipe, m_content.constData(), static_cast<std::size_t>(m_content.size())), m_content.size());
         close(m_pipe);
     }
 
 private:
+    QString m_path;
     QByteArray m_content;
     int m_pipe = -1;
 };
@@ -217,7 +252,7 @@ TEST_F(DataFolderTest, AFileThatDoesNotDecodeIsAbsentAndSetAsideBeforeItIsReplac
 
 TEST_F(DataFolderTest, AFileIsSetAsideOnceHoweverManySavesOvertakeEachOther)
 {
-    const QByteArray broken = "{\"title\":7}";
+    QByteArray broken = "{\"title\":7}";
     const auto expectSetAside = [&](const char* saved) {
         folder.waitUntilWritten();
         EXPECT_EQ(bytes(QStringLiteral("lst_thing.json.unreadable")), broken);
@@ -232,13 +267,73 @@ TEST_F(DataFolderTest, AFileIsSetAsideOnceHoweverManySavesOvertakeEachOther)
     }
     expectSetAside(R"({"title":"second"})");
 
-    put(QStringLiteral("lst_thing.json"), broken);
-    EXPECT_EQ(folder.load(name, decodeTitle), std::nullopt);
+    broken = "{\"title\":";
     {
         const BusyWriter busy(folder, name, broken); // is just being set aside
         folder.save(name, titled(QStringLiteral("third")));
     }
     expectSetAside(R"({"title":"third"})");
+}
+
+TEST_F(DataFolderTest, WhatCannotBeReadIsReplacedOnlyOnceItIsSetAside)
+{
+    const QString file = QStringLiteral("lst_thing.json");
+    const QString aside = QStringLiteral("lst_thing.json.unreadable");
+    const QByteArray broken(4096, '\0');
+    const QByteArray foreign = R"({"title":7})";
+    const auto saveTwo = [&] {
+        EXPECT_EQ(folder.load(name, decodeTitle), std::nullopt);
+        folder.save(name, titled(QStringLiteral("a")));
+        folder.waitUntilWritten();
+        folder.save(name, titled(QStringLiteral("b")));
+        folder.waitUntilWritten();
+    };
+
+    // There is no room for a copy.
+    put(file, broken);
+    onFullDisk(64, saveTwo);
+    EXPECT_EQ(bytes(aside), broken);
+    EXPECT_EQ(bytes(file), R"({"title":"b"})");
+
+    // Where nothing can be set aside everything stays, until it can be.
+    put(file, foreign);
+    QFile::remove(path(aside));
+    QDir().mkpath(path(aside) + QStringLiteral("/in the way"));
+    saveTwo();
+    EXPECT_EQ(bytes(file), foreign);
+    QDir(path(aside)).removeRecursively();
+    put(aside, broken);
+    asOrdinaryUser(0555, saveTwo);
+    EXPECT_EQ(bytes(aside), broken);
+    EXPECT_EQ(bytes(file), foreign);
+    folder.save(name, titled(QStringLiteral("c")));
+    folder.waitUntilWritten();
+    EXPECT_EQ(bytes(aside), foreign);
+    EXPECT_EQ(bytes(file), R"({"title":"c"})");
+
+    // A file may have been closed to its owner for a while,
+    const auto save = [this] {
+        folder.save(name, titled(QStringLiteral("d")));
+        folder.waitUntilWritten();
+    };
+    const auto load = [this] {
+        EXPECT_EQ(folder.load(name, decodeTitle), std::nullopt);
+    };
+    setMode(path(file), 0);
+    asOrdinaryUser(0755, load);
+    setMode(path(file), 0600);
+    save();
+    EXPECT_EQ(bytes(aside), R"({"title":"c"})");
+    EXPECT_EQ(bytes(file), R"({"title":"d"})");
+
+    // or belong to somebody else.
+    if (geteuid() == 0) {
+        const QByteArray closed = R"({"title":"of somebody else"})";
+        put(file, closed);
+        asOrdinaryUser(0755, save);
+        EXPECT_EQ(bytes(aside), closed);
+        EXPECT_EQ(bytes(file), R"({"title":"d"})");
+    }
 }
 
 TEST_F(DataFolderTest, AListGivesEveryRecordThatIsWhole)
@@ -336,35 +431,20 @@ TEST_F(DataFolderTest, AWriteThatFailsLeavesThePreviousFileAndNothingElse)
     folder.save(name, titled(QStringLiteral("previous")));
     folder.waitUntilWritten();
 
-    // A disk that takes no more than this.
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit full{.rlim_cur = 512, .rlim_max = before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-    folder.save(name, titled(QString(100'000, QLatin1Char('x'))));
-    folder.waitUntilWritten();
-    setrlimit(RLIMIT_FSIZE, &before);
+    onFullDisk(512, [this] {
+        folder.save(name, titled(QString(100'000, QLatin1Char('x'))));
+        folder.waitUntilWritten();
+    });
     EXPECT_EQ(folder.load(name, decodeTitle), QStringLiteral("previous"));
     EXPECT_THAT(files(), ElementsAre(QStringLiteral("lst_thing.json")));
 
-    // A folder that may not be changed; the superuser may change any, so nobody tries.
-    constexpr uid_t nobody = 65534;
-    const QByteArray outside = home.path().toLocal8Bit();
-    const QByteArray inside = folder.path().toLocal8Bit();
-    ASSERT_EQ(chmod(outside.constData(), 0755), 0);
-    ASSERT_EQ(chmod((outside + "/data").constData(), 0755), 0);
-    ASSERT_EQ(chmod(inside.constData(), 0555), 0);
-    const uid_t user = geteuid();
-    if (user == 0)
-        ASSERT_EQ(seteuid(nobody), 0);
-    folder.save(name, titled(QStringLiteral("refused")));
-    folder.waitUntilWritten();
-    folder.remove(name);
-    folder.waitUntilWritten();
-    ASSERT_EQ(seteuid(user), 0);
+    asOrdinaryUser(0555, [this] {
+        folder.save(name, titled(QStringLiteral("refused")));
+        folder.waitUntilWritten();
+        folder.remove(name);
+        folder.waitUntilWritten();
+    });
     EXPECT_EQ(folder.load(name, decodeTitle), QStringLiteral("previous"));
-    ASSERT_EQ(chmod(inside.constData(), 0755), 0);
     folder.save(name, titled(QStringLiteral("again")));
     folder.waitUntilWritten();
     EXPECT_EQ(bytes(QStringLiteral("lst_thing.json")), R"({"title":"again"})");

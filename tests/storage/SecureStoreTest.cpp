@@ -166,4 +166,26 @@ TEST_F(ChosenSecureStoreTest, CallsThatComeWhileAWalletIsOpenedShareOneChoice)
     EXPECT_EQ(system->calls().filter(QStringLiteral("store lst_probe")).size(), 1);
 }
 
+TEST_F(ChosenSecureStoreTest, ACallGoesOnWhenItsStoreIsGone)
+{
+    for (const bool arePreferencesGone : {false, true}) {
+        start();
+        preferences->remove(preferences::secureStore);
+        system->setHolding(true);
+        Running<Done> storing(chosen->store(key, "secret"));
+        Running<Found> reading(chosen->read(key));
+        chosen.reset();
+        if (arePreferencesGone)
+            preferences.reset();
+        while (!storing.isDone() || !reading.isDone()) {
+            ASSERT_GT(system->waiting(), 0);
+            system->release();
+        }
+        EXPECT_TRUE(storing.result());
+        EXPECT_EQ(reading.result(), Found(QByteArray("secret")));
+        if (preferences)
+            EXPECT_EQ(choice(), QStringLiteral("system"));
+    }
+}
+
 } // namespace

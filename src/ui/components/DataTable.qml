@@ -19,7 +19,9 @@ Item {
     readonly property int naturalWidth: naturalWidths.reduce((sum, width) => sum + width, 0)
     // What is left over is shared out evenly.
     readonly property real spare: headings.length > 0 ? Math.max(0, width - naturalWidth) / headings.length : 0
+    readonly property var cellWidths: naturalWidths.map(natural => natural + spare)
     readonly property int rowHeight: type.line + 10
+    readonly property int cellsAtOnce: 80
 
     // Takes the font that it measures with, so that another one has it measured again.
     function measure(font: font): var {
@@ -30,7 +32,6 @@ Item {
             return Math.ceil(widest) + 2 * inset
         })
     }
-    function cellWidth(column: int): real { return (naturalWidths[column] ?? 0) + spare }
     function sentence(row: var): string {
         return row.map((cell, column) => column === 0 ? cell : (headings[column] ?? "") + " " + cell).join(", ")
     }
@@ -47,38 +48,6 @@ Item {
         font.family: Theme.fontFigures
         font.pixelSize: table.type.size
         font.weight: Font.DemiBold
-    }
-
-    component Cells: Row {
-        id: cells
-
-        property var texts: []
-        property bool marked: false
-        property color color: Theme.ink
-
-        Repeater {
-            model: cells.texts
-
-            TextLabel {
-                required property string modelData
-                required property int index
-
-                objectName: "cell" + index
-                width: table.cellWidth(index)
-                height: table.rowHeight
-                leftPadding: table.inset
-                rightPadding: table.inset
-                text: modelData
-                type: table.type
-                figures: true
-                elide: Text.ElideNone
-                font.weight: cells.marked ? Font.DemiBold : type.weight
-                color: cells.color
-                horizontalAlignment: index === 0 ? Text.AlignLeft : Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                Accessible.ignored: true
-            }
-        }
     }
 
     Flickable {
@@ -106,9 +75,13 @@ Item {
 
             width: Math.max(table.width, table.naturalWidth)
 
-            Cells {
+            DataCells {
                 objectName: "headings"
                 texts: table.headings
+                widths: table.cellWidths
+                type: table.type
+                rowHeight: table.rowHeight
+                inset: table.inset
                 color: Theme.muted
             }
             Rectangle {
@@ -116,32 +89,18 @@ Item {
                 height: Theme.strokeHairline
                 color: Theme.border
             }
+            // By number: a row stays while its texts change. Many cells are made between frames, which moves nothing:
+            // every row is as tall as the others.
             Repeater {
-                model: table.rows
+                model: table.rows.length
 
-                Rectangle {
-                    id: line
-
-                    required property var modelData
+                Loader {
                     required property int index
 
-                    objectName: "row" + index
                     width: body.width
                     height: table.rowHeight + Theme.strokeHairline
-                    color: index === table.markedRow ? Theme.accentTint : "transparent"
-
-                    Accessible.role: Accessible.Row
-                    Accessible.name: table.sentence(modelData)
-                    Accessible.selected: index === table.markedRow
-
-                    Cells {
-                        texts: line.modelData
-                        marked: line.index === table.markedRow
-                    }
-                    Hairline {
-                        anchors.bottom: parent.bottom
-                        width: parent.width
-                    }
+                    asynchronous: table.rows.length * table.headings.length > table.cellsAtOnce
+                    Component.onCompleted: setSource("DataRow.qml", { table: table, number: index })
                 }
             }
         }

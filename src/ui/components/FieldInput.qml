@@ -16,6 +16,8 @@ FocusScope {
     property string label
     property string message
     property string error
+    // What stands after the input, as the button that sends it; the words above and below take the whole width.
+    property real trailingRoom: 0
     // What was typed has been checked and is right.
     property bool confirmed: false
 
@@ -49,7 +51,7 @@ FocusScope {
             id: input
 
             objectName: "input"
-            width: parent.width
+            width: parent.width - field.trailingRoom
             endPadding: Theme.space1_5 + (check.visible ? check.width + Theme.space1 : 0)
             focus: true
             background: Rectangle {

@@ -19,7 +19,8 @@ Rectangle {
 
     anchors.fill: parent
     anchors.margins: -distance
-    visible: target !== null && target.activeFocus && InputMode.keyboard
+    // The mode is asked first, so that it is watched from before the first key on.
+    visible: InputMode.keyboard && target !== null && target.activeFocus
     radius: controlRadius + distance
     z: overPicture ? -1 : 0
     color: overPicture ? Theme.surface : "transparent"

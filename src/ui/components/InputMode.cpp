@@ -37,13 +37,26 @@ bool InputMode::eventFilter(QObject* watched, QEvent* event)
     // Every event of the application passes here: the type alone decides in nearly all cases.
     switch (event->type()) {
     case QEvent::KeyPress:
-        if (!isModifier(static_cast<QKeyEvent*>(event)->key()))
+        switch (const int key = static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
             setKeyboard(true);
+            Q_EMIT acted();
+            Q_EMIT tabPressed();
+            break;
+        default:
+            if (!isModifier(key)) {
+                setKeyboard(true);
+                Q_EMIT acted();
+            }
+            break;
+        }
         break;
     case QEvent::MouseButtonPress:
     case QEvent::TouchBegin:
     case QEvent::TabletPress:
         setKeyboard(false);
+        Q_EMIT acted();
         break;
     default:
         break;

@@ -24,6 +24,10 @@ public:
 
 Q_SIGNALS:
     void keyboardChanged();
+    /// The shopper moves on by the Tab key, to where is known once the key is dealt with.
+    void tabPressed();
+    /// The shopper pressed a key or a button.
+    void acted();
 
 private:
     void setKeyboard(bool keyboard);

@@ -12,6 +12,9 @@ T.ScrollBar {
     minimumSize: 0.06
     visible: policy !== T.ScrollBar.AlwaysOff && size < 1
 
+    // Assistive tools scroll by what they look at.
+    Accessible.ignored: true
+
     contentItem: Rectangle {
         implicitWidth: 6
         implicitHeight: 6

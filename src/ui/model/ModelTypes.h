@@ -43,6 +43,34 @@ struct AppSettingsForQml {
     QML_UNCREATABLE("made by the application model")
 };
 
+struct BuyModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::BuyModel)
+    QML_NAMED_ELEMENT(BuyModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct CartModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::CartModel)
+    QML_NAMED_ELEMENT(CartModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct CheckoutModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::CheckoutModel)
+    QML_NAMED_ELEMENT(CheckoutModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct CheckoutStarterForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::CheckoutStarter)
+    QML_NAMED_ELEMENT(CheckoutStarter)
+    QML_UNCREATABLE("made by the application model")
+};
+
 struct CollectionModelForQml {
     Q_GADGET
     QML_FOREIGN(loom::CollectionModel)

@@ -8,7 +8,10 @@ import Loomstreet.Theme
 Column {
     id: box
 
+    property AppModel app
     property ProductModel product
+
+    signal added()
 
     readonly property var reviews: product?.reviews ?? ({})
     readonly property var service: product?.service ?? ({})
@@ -43,7 +46,9 @@ Column {
             value: box.reviews.rating ?? 0
             note: {
                 const rating = Number(box.reviews.rating ?? 0).toFixed(1)
-                const count = box.reviews.count ?? 0
+                const count = box.reviews.count
+                if (count === undefined)
+                    return rating
                 return count === 1 ? qsTranslate("Loomstreet", "%1  1 review").arg(rating)
                                    : qsTranslate("Loomstreet", "%1  %2 reviews").arg(rating).arg(count)
             }
@@ -90,6 +95,12 @@ Column {
         color: box.product.isSoldOut ? Theme.muted : Theme.warning
     }
 
+    BuyButtons {
+        width: parent.width
+        app: box.app
+        product: box.product
+        onAdded: box.added()
+    }
     Column {
         width: parent.width
 

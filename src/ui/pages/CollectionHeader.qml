@@ -77,7 +77,11 @@ Item {
                     text: modelData
                     checkable: true
                     checked: header.collection ? header.collection.sort === index : false
-                    onTriggered: header.collection.sort = index
+                    onTriggered: {
+                        header.collection.sort = index
+                        // The press itself has turned the mark around.
+                        checked = Qt.binding(() => header.collection ? header.collection.sort === index : false)
+                    }
                 }
             }
         }

@@ -14,13 +14,17 @@ PageBase {
     title: phase === CollectionModel.Missing ? qsTranslate("Loomstreet", "Not available") : collection?.title ?? ""
     settled: grid.settled || (phase !== CollectionModel.Loading && phase !== CollectionModel.Idle
                               && phase !== CollectionModel.Loaded)
-    scrollY: grid.scrollY
+    flickable: grid
 
-    function scrollTo(y: real): void { grid.scrollTo(y) }
     function takeFocus(): void { (phase === CollectionModel.Loaded ? grid : page).forceActiveFocus() }
     function reload(): void { collection.reload() }
 
-    onShownChanged: if (shown && collection) collection.load()
+    onShownChanged: {
+        if (!shown || !collection)
+            return
+        collection.load()
+        grid.noteNearEnd() // what is near while hidden is asked for when it is shown
+    }
     Component.onCompleted: if (shown && collection) collection.load()
 
     OfflineStrip {
@@ -62,6 +66,8 @@ PageBase {
             collection: page.collection
         }
         ScrollBar.vertical: ScrollBar {}
+
+        FocusFollower { flickable: grid }
     }
 
     CollectionSkeleton {

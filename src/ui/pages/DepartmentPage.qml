@@ -10,14 +10,14 @@ PageBase {
 
     readonly property string name: context.entry?.title ?? ""
     readonly property CollectionTilesModel collections: context.model
-    readonly property bool failed: collections ? collections.count === 0 && collections.errorText !== "" : false
-    readonly property bool empty: collections ? collections.isLoaded && collections.count === 0 : false
+    readonly property bool hasContent: collections ? collections.count > 0 : false
+    readonly property bool failed: collections ? !hasContent && !collections.isLoading && collections.errorText !== "" : false
+    readonly property bool empty: collections ? !hasContent && collections.isLoaded && collections.errorText === "" : false
 
     title: name
     settled: tiles.decoded > 0 || failed || empty
-    scrollY: flick.contentY
+    flickable: flick
 
-    function scrollTo(y: real): void { flick.contentY = y }
     function takeFocus(): void { flick.forceActiveFocus() }
     function reload(): void { collections.reload() }
 
@@ -32,7 +32,7 @@ PageBase {
         canRetry: true
         onRetry: page.reload()
         width: parent.width
-        visible: !page.failed && text !== ""
+        visible: page.hasContent && text !== ""
         text: page.collections ? page.collections.errorText : ""
     }
     Flickable {
@@ -44,6 +44,8 @@ PageBase {
         contentHeight: column.height + Theme.space3 + Theme.space8
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {}
+
+        FocusFollower { flickable: flick }
 
         Column {
             id: column

@@ -12,15 +12,22 @@ PageBase {
     property CollectionModel newIn: null
     property CollectionModel finalSale: null
 
-    // Everything it is made of failed for the same reason.
-    readonly property bool failed: collections && collections.count === 0 && collections.errorText !== ""
-                                   && (!newIn || newIn.phase === CollectionModel.Failed)
+    readonly property bool hasContent: news.count > 0 || sale.count > 0 || (collections ? collections.count > 0 : false)
+    readonly property bool loading: !newIn || !finalSale || !collections
+                                    || newIn.isLoading || finalSale.isLoading || collections.isLoading
+    readonly property string errorText: newIn?.errorText || finalSale?.errorText || collections?.errorText || ""
+    readonly property bool failed: !hasContent && !loading && errorText !== ""
+    // The store has none of what this page is made of.
+    readonly property bool empty: !hasContent && errorText === "" && hasNothing(newIn) && hasNothing(finalSale)
+                                  && (collections ? collections.isLoaded : false)
 
     title: qsTranslate("Loomstreet", "Explore")
-    settled: news.settled || failed
-    scrollY: flick.contentY
+    settled: (news.visible ? news.settled : sale.settled || tiles.decoded > 0) || failed || empty
+    flickable: flick
 
-    function scrollTo(y: real): void { flick.contentY = y }
+    function hasNothing(collection: CollectionModel): bool {
+        return collection !== null && (collection.phase === CollectionModel.Missing || collection.phase === CollectionModel.Empty)
+    }
     function takeFocus(): void { flick.forceActiveFocus() }
     function reload(): void {
         collections.reload()
@@ -56,18 +63,20 @@ PageBase {
         canRetry: true
         onRetry: page.reload()
         width: parent.width
-        visible: !page.failed && text !== ""
-        text: page.newIn?.errorText || page.collections?.errorText || ""
+        visible: page.hasContent && text !== ""
+        text: page.errorText
     }
     Flickable {
         id: flick
 
         objectName: "flick"
         anchors { left: parent.left; right: parent.right; top: strip.visible ? strip.bottom : parent.top; bottom: parent.bottom }
-        visible: !page.failed
+        visible: !page.failed && !page.empty
         contentHeight: column.height + Theme.space4 + Theme.space8
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {}
+
+        FocusFollower { flickable: flick }
 
         Column {
             id: column
@@ -105,6 +114,8 @@ PageBase {
                 }
             }
             ProductRail {
+                id: sale
+
                 objectName: "finalSale"
                 width: parent.width
                 title: qsTranslate("Loomstreet", "Final Sale")
@@ -120,8 +131,26 @@ PageBase {
         anchors.centerIn: parent
         visible: page.failed
         width: Math.min(parent.width, 480)
-        sentence: page.collections?.errorText ?? ""
+        sentence: page.errorText
         takesFocus: page.shown
         onRetry: page.reload()
+    }
+    EmptyState {
+        objectName: "missing"
+        anchors.centerIn: parent
+        visible: page.empty
+        width: Math.min(parent.width, 480)
+        iconName: "hanger"
+        title: qsTranslate("Loomstreet", "Nothing here yet")
+        sentence: qsTranslate("Loomstreet", "New pieces arrive every week.")
+
+        PushButton {
+            text: qsTranslate("Loomstreet", "Designers")
+            onClicked: page.router.openLink("/pages/brands-at-loomstreet")
+        }
+        PushButton {
+            text: qsTranslate("Loomstreet", "Try again")
+            onClicked: page.reload()
+        }
     }
 }

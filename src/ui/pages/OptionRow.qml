@@ -12,6 +12,8 @@ Column {
 
     readonly property bool isSwatch: group?.isSwatch ?? false
     readonly property var choices: group?.choices ?? []
+    // More than these are made between frames.
+    readonly property int choicesAtOnce: 16
 
     signal chosen(string value)
 
@@ -41,36 +43,13 @@ Column {
         Repeater {
             model: row.choices.length
 
-            Item {
-                id: choice
-
+            OptionChoice {
                 required property int index
-                readonly property var value: row.choices[index] ?? ({ text: "", picture: "", isSelected: false, isAvailable: true })
 
-                implicitWidth: row.isSwatch ? swatch.implicitWidth : size.implicitWidth
-                implicitHeight: row.isSwatch ? swatch.implicitHeight : size.implicitHeight
-
-                Swatch {
-                    id: swatch
-
-                    objectName: "swatch." + choice.value.text
-                    visible: row.isSwatch
-                    label: choice.value.text
-                    picture: choice.value.picture
-                    selected: choice.value.isSelected
-                    soldOut: !choice.value.isAvailable
-                    onClicked: row.chosen(choice.value.text)
-                }
-                SizeButton {
-                    id: size
-
-                    objectName: "size." + choice.value.text
-                    visible: !row.isSwatch
-                    text: choice.value.text
-                    selected: choice.value.isSelected
-                    soldOut: !choice.value.isAvailable
-                    onClicked: row.chosen(choice.value.text)
-                }
+                asynchronous: row.choices.length > row.choicesAtOnce
+                isSwatch: row.isSwatch
+                value: row.choices[index] ?? ({ text: "", picture: "", isSelected: false, isAvailable: true })
+                onChosen: row.chosen(value.text)
             }
         }
     }

@@ -13,8 +13,9 @@ FocusScope {
     readonly property Router router: context.router
     readonly property bool shown: context.shown
 
-    // Where it is scrolled to; the host keeps this too.
-    property real scrollY: 0
+    // What of the page scrolls, if anything does, and where it is scrolled to; the host keeps the place too.
+    property Flickable flickable: null
+    property real scrollY: place.scrollY
     property string title
     // The first pictures of the page have been decoded.
     property bool settled: false
@@ -28,9 +29,17 @@ FocusScope {
 
     // A page gives the focus to what it is about.
     function takeFocus(): void { page.forceActiveFocus() }
-    function scrollTo(y: real): void {}
+    function scrollTo(y: real): void { place.goTo(y) }
     function reload(): void {}
+    // In place: the models of pages show what they have until something newer has arrived.
+    function refresh(): void { reload() }
 
     onTitleChanged: router?.setPageTitle(context.depth, title) // the router may go first
     Component.onCompleted: if (title !== "") router.setPageTitle(context.depth, title)
+
+    AwaitedPlace {
+        id: place
+
+        flickable: page.flickable
+    }
 }

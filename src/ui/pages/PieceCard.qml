@@ -20,7 +20,7 @@ ProductCard {
     signal opened(string handle, var item, int modifiers)
 
     objectName: "card." + handle
-    activeFocusOnTab: false // the list takes the focus and hands it on
+    activeFocusOnTab: false // one card of a list is a stop, and the arrows move on from it
     dotPictures: colourPictures
     onActivated: modifiers => card.opened(card.handle, card.item, modifiers)
     onOpenFull: card.opened(card.handle, card.item, 0)

@@ -20,9 +20,27 @@ FocusScope {
 
     signal enlarged(int index)
 
+    // The picture of what is chosen comes forward when something else is chosen.
+    readonly property int chosenIndex: product ? product.pictureIndex : -1
+    // What is looked at stays when other pictures come around it.
+    property string shownPicture
+
     function show(index: int): void {
-        if (index >= 0 && index < pictures.length)
-            main.currentIndex = index
+        if (index < 0 || index >= pictures.length)
+            return
+        main.currentIndex = index
+        shownPicture = pictures[index]
+    }
+
+    onChosenIndexChanged: show(chosenIndex)
+    onPicturesChanged: {
+        thumbs.model = pictures
+        main.model = pictures
+        const again = pictures.indexOf(shownPicture)
+        if (again > 0) {
+            main.currentIndex = again
+            main.positionViewAtIndex(again, ListView.Beginning)
+        }
     }
 
     objectName: "gallery"
@@ -37,15 +55,6 @@ FocusScope {
     Keys.onReturnPressed: enlarged(main.currentIndex)
     Keys.onEnterPressed: enlarged(main.currentIndex)
 
-    // A colour's picture comes forward when the colour is chosen.
-    Connections {
-        target: gallery.product
-        function onSelectionChanged(): void {
-            if (gallery.product.pictureIndex >= 0)
-                gallery.show(gallery.product.pictureIndex)
-        }
-    }
-
     ListView {
         id: thumbs
 
@@ -56,7 +65,6 @@ FocusScope {
         spacing: Theme.space1
         clip: true
         boundsBehavior: Flickable.StopAtBounds
-        model: gallery.pictures
         currentIndex: main.currentIndex
         highlightMoveDuration: Theme.durationPage
 
@@ -101,7 +109,6 @@ FocusScope {
         orientation: ListView.Horizontal
         spacing: Theme.space1_5
         clip: true
-        model: gallery.pictures
         boundsBehavior: Flickable.StopAtBounds
         snapMode: ListView.SnapToItem
         highlightRangeMode: ListView.ApplyRange
@@ -109,7 +116,7 @@ FocusScope {
         preferredHighlightEnd: gallery.pictureWidth
         highlightMoveDuration: Theme.durationPanel
         cacheBuffer: Math.max(0, width)
-        onMovementEnded: currentIndex = indexAt(contentX + gallery.pictureWidth / 2, 0)
+        onMovementEnded: gallery.show(indexAt(contentX + gallery.pictureWidth / 2, 0))
 
         delegate: Picture {
             id: large
@@ -125,12 +132,13 @@ FocusScope {
             description: qsTranslate("Loomstreet", "%1, picture %2").arg(gallery.product.title).arg(index + 1)
             onDecodedNowChanged: if (decodedNow && index < gallery.perView) ++main.decoded
 
-            TapHandler {
-                onTapped: {
-                    main.currentIndex = large.index
-                    gallery.enlarged(large.index)
-                }
+            function enlarge(): void {
+                gallery.show(index)
+                gallery.enlarged(index)
             }
+            Accessible.onPressAction: enlarge()
+
+            TapHandler { onTapped: large.enlarge() }
             HoverHandler { cursorShape: Qt.PointingHandCursor }
         }
     }

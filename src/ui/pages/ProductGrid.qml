@@ -34,7 +34,6 @@ GridView {
     cellHeight: measure.implicitHeight + Theme.cardGapY
     cacheBuffer: cellHeight
     reuseItems: true
-    activeFocusOnTab: count > 0
     keyNavigationEnabled: true
     boundsBehavior: Flickable.StopAtBounds
     highlightFollowsCurrentItem: true
@@ -49,19 +48,6 @@ GridView {
 
     // Where the list is scrolled to, from the top of its head.
     property real scrollY: 0
-    // A place to come back to, until there is enough of the list to go there.
-    property real awaitedY: -1
-
-    function scrollTo(y: real): void {
-        awaitedY = y
-        comeBack()
-    }
-    function comeBack(): void {
-        if (awaitedY < 0 || contentHeight + topMargin + bottomMargin < awaitedY + height)
-            return
-        contentY = originY - topMargin + awaitedY
-        awaitedY = -1
-    }
 
     topMargin: head?.height ?? 0
     bottomMargin: foot?.height ?? 0
@@ -96,11 +82,16 @@ GridView {
         scrollY = contentY - originY + topMargin
         noteNearEnd()
     }
-    onContentHeightChanged: {
-        comeBack()
-        noteNearEnd()
+    onContentHeightChanged: noteNearEnd()
+    // Later: what it sets off may be what this height follows from.
+    onHeightChanged: later.restart()
+
+    Timer {
+        id: later
+
+        interval: 0
+        onTriggered: grid.noteNearEnd()
     }
-    onHeightChanged: noteNearEnd()
 
     Accessible.role: Accessible.List
     Accessible.name: qsTranslate("Loomstreet", "Pieces")
@@ -118,6 +109,7 @@ GridView {
 
         width: grid.cardWidth
         focus: GridView.isCurrentItem
+        activeFocusOnTab: GridView.isCurrentItem
         onOpened: (handle, item, modifiers) => {
             grid.currentIndex = card.index
             grid.opened(handle, item, modifiers)

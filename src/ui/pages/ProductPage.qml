@@ -17,10 +17,14 @@ PageBase {
 
     title: phase === ProductModel.Missing ? qsTranslate("Loomstreet", "Not available") : product?.title ?? ""
     settled: gallery.settled || phase === ProductModel.Missing || phase === ProductModel.Failed
-    scrollY: left.contentY
+    flickable: left
 
-    function scrollTo(y: real): void { left.contentY = y }
-    function takeFocus(): void { gallery.forceActiveFocus() }
+    // What had the keyboard when the page was left; at first, and before there is anything to see, the pictures.
+    function takeFocus(): void {
+        page.forceActiveFocus()
+        if (Window.activeFocusItem === page)
+            gallery.forceActiveFocus()
+    }
     function reload(): void { product.reload() }
 
     onShownChanged: if (shown && product) product.load()
@@ -48,6 +52,8 @@ PageBase {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         ScrollBar.vertical: ScrollBar {}
+
+        FocusFollower { flickable: left }
 
         Column {
             id: body
@@ -117,6 +123,8 @@ PageBase {
         clip: true
         ScrollBar.vertical: ScrollBar {}
 
+        FocusFollower { flickable: buy }
+
         Item {
             id: column
 
@@ -129,7 +137,9 @@ PageBase {
 
         parent: page.narrow ? stacked : column
         width: parent.width
+        app: page.app
         product: page.product
+        onAdded: page.session.isCartOpen = true
     }
     Hairline {
         anchors { left: buy.left; top: buy.top; bottom: parent.bottom; topMargin: Theme.space2 }

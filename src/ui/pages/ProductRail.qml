@@ -59,7 +59,6 @@ Column {
 
         width: parent.width
         height: measure.implicitHeight
-        activeFocusOnTab: rail.count > 0
         Keys.onLeftPressed: move(LayoutMirroring.enabled ? 1 : -1)
         Keys.onRightPressed: move(LayoutMirroring.enabled ? -1 : 1)
 
@@ -71,6 +70,7 @@ Column {
 
             anchors.fill: parent
             visible: !rail.waiting
+            focus: true
             orientation: ListView.Horizontal
             spacing: Theme.cardGapX
             interactive: false
@@ -81,10 +81,13 @@ Column {
             highlightMoveDuration: Theme.durationPanel
             highlightMoveVelocity: -1
             model: rail.collection ? rail.collection.products : null
+            // A list that fills after it was made has no card at its start yet.
+            onCountChanged: if (count > 0) rail.show(currentIndex)
 
             delegate: PieceCard {
                 width: rail.cardWidth
                 focus: index === cards.focused
+                activeFocusOnTab: index === cards.focused
                 // Beyond the rail's edges a card is out of sight, not cut.
                 opacity: index >= row.currentIndex && index < row.currentIndex + rail.perView ? 1 : 0
                 visible: opacity > 0

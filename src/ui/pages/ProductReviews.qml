@@ -3,16 +3,26 @@ import QtQuick
 import Loomstreet.Components
 import Loomstreet.Theme
 
-// What buyers say: the sum, the words they use most, and their reviews, a few at first.
+// What buyers say: the sum, the words they use most, and their reviews, a few at first and more on request.
 Column {
     id: reviews
 
     property var summary: ({})
-    property int shownCount: 3
 
+    readonly property int first: 3
+    readonly property int step: 10
     readonly property var all: summary.reviews ?? []
 
     signal pictureOpened(var pictures, int index)
+
+    function reveal(count: int): void {
+        while (shown.count < Math.min(count, all.length))
+            shown.append({ number: shown.count })
+        if (shown.count > all.length)
+            shown.remove(all.length, shown.count - all.length)
+    }
+
+    onAllChanged: reveal(Math.max(first, shown.count))
 
     spacing: Theme.space1_5
 
@@ -30,10 +40,8 @@ Column {
                 const count = reviews.summary.count ?? 0
                 if (rating <= 0)
                     return reviews.summary.totalLabel ?? ""
-                return qsTranslate("Loomstreet", "%1 of %2").arg(rating.toFixed(1)).arg(count)
+                return count > 0 ? qsTranslate("Loomstreet", "%1 of %2").arg(rating.toFixed(1)).arg(count) : rating.toFixed(1)
             }
-            actionText: reviews.all.length > reviews.shownCount ? qsTranslate("Loomstreet", "All") : ""
-            onActivated: reviews.shownCount = reviews.all.length
         }
     }
     Flow {
@@ -52,18 +60,28 @@ Column {
             }
         }
     }
+    // Which of them are shown. It only grows, so that none is made twice.
+    ListModel { id: shown }
+
     Repeater {
-        model: reviews.all.slice(0, reviews.shownCount)
+        model: shown
 
         ProductReview {
-            required property var modelData
-            required property int index
+            required property int number
 
-            objectName: "review" + index
+            objectName: "review" + number
             width: reviews.width
-            review: modelData
+            review: reviews.all[number] ?? ({})
             onPictureOpened: (pictures, picture) => reviews.pictureOpened(pictures, picture)
         }
+    }
+    PushButton {
+        objectName: "more"
+        anchors.left: parent.left
+        visible: shown.count < reviews.all.length
+        size: "small"
+        text: qsTranslate("Loomstreet", "More reviews")
+        onClicked: reviews.reveal(shown.count + reviews.step)
     }
     TextLabel {
         width: parent.width

@@ -10,6 +10,8 @@ Column {
 
     property ProductModel product
 
+    readonly property var all: product ? product.sizeTables : []
+    readonly property int tablesAtOnce: 3
     // The chosen size, whose row is marked.
     readonly property string chosenSize: {
         for (const group of product ? product.options : []) {
@@ -43,33 +45,15 @@ Column {
             onActivated: index => tables.product.isMetric = index === 0
         }
     }
+    // By number: a table stays while the unit of its figures changes. More than a few are made between frames.
     Repeater {
-        model: tables.product ? tables.product.sizeTables : []
+        model: tables.all.length
 
-        Column {
-            id: section
-
-            required property var modelData
+        Loader {
             required property int index
 
-            width: tables.width
-            spacing: Theme.spaceHalf
-
-            TextLabel {
-                width: parent.width
-                visible: text !== ""
-                text: section.modelData.title
-                type: Theme.type.label
-                wrapMode: Text.Wrap
-            }
-            DataTable {
-                objectName: "sizeTable" + section.index
-                width: parent.width
-                name: section.modelData.title !== "" ? section.modelData.title : qsTranslate("Loomstreet", "Size table")
-                headings: section.modelData.columns
-                rows: section.modelData.rows
-                markedRow: tables.chosenSize === "" ? -1 : section.modelData.rows.findIndex(row => row[0] === tables.chosenSize)
-            }
+            asynchronous: tables.all.length > tables.tablesAtOnce
+            Component.onCompleted: setSource("SizeTable.qml", { tables: tables, number: index })
         }
     }
 }

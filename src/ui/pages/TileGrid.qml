@@ -13,7 +13,7 @@ Grid {
     property int expected: 6
     property int decoded: 0
 
-    readonly property bool waiting: collections ? !collections.isLoaded && collections.errorText === "" : true
+    readonly property bool waiting: collections ? !collections.isLoaded && (collections.isLoading || collections.errorText === "") : true
     readonly property real tileWidth: Math.floor((width + Theme.cardGapX) / columns) - Theme.cardGapX
 
     signal opened(string handle, string title)

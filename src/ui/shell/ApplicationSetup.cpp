@@ -20,6 +20,8 @@ void prepareApplication(const QString& applicationID)
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
         QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    // Glyphs as the font draws them: sharper at their own size, and the first window need not compute distance fields.
+    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     QGuiApplication::setApplicationName(QStringLiteral("LOOMSTREET"));
     QGuiApplication::setApplicationVersion(QStringLiteral(LOOM_VERSION));

@@ -10,12 +10,13 @@ FocusScope {
     required property AppCommands commands
     property bool open: false
     property Item cameFrom: null
+    readonly property var made: bar.item
 
     function show(): void {
         cameFrom = Window.activeFocusItem
         if (bar.status === Loader.Null) {
             bar.setSource("CommandMenus.qml", { commands: commands })
-            bar.item.done.connect(hide)
+            made.done.connect(hide)
         }
         open = true
         bar.item.forceActiveFocus(Qt.MenuBarFocusReason)

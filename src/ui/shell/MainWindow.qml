@@ -14,7 +14,10 @@ Window {
 
     readonly property bool ownFrame: app.settings.windowFrame === "own"
     readonly property AppCommands commands: app.makeCommands(window, session)
+    readonly property bool fullScreen: session.isWindowFullScreen
     readonly property bool narrow: width - Theme.layoutSidebarRegular < Theme.breakpointNarrow
+    // The window has been on the screen.
+    property bool wasSeen: false
     // The page on top has what it needs to be looked at.
     readonly property bool settled: pages.settled
 
@@ -27,7 +30,6 @@ Window {
     minimumWidth: Theme.breakpointMinimumWindow.width
     minimumHeight: Theme.breakpointMinimumWindow.height
     flags: ownFrame ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
-    visibility: session.isWindowFullScreen ? Window.FullScreen : Window.AutomaticVisibility
     title: session.selected ? qsTranslate("Loomstreet", "%1 – LOOMSTREET").arg(session.selected.title) : "LOOMSTREET"
     color: Theme.paper
     // On the window, so that menus and tooltips are mirrored as well.
@@ -35,6 +37,18 @@ Window {
     LayoutMirroring.childrenInherit: true
 
     onWidthChanged: session.windowWidth = width
+    // The window manager has a say in it too. While a window is away it keeps what it was. The signal comes late and
+    // what it carries may be over: what counts is how the window is now.
+    onVisibilityChanged: () => {
+        if (window.visibility === Window.FullScreen)
+            session.isWindowFullScreen = true
+        else if (window.visibility === Window.Windowed || window.visibility === Window.Maximized)
+            session.isWindowFullScreen = false
+    }
+    onFullScreenChanged: {
+        if (fullScreen !== (visibility === Window.FullScreen))
+            visibility = fullScreen ? Window.FullScreen : Window.Windowed
+    }
     onActiveChanged: if (active) app.windowBecameKey(session)
     onClosing: app.closeWindow(session)
     Component.onCompleted: {
@@ -47,14 +61,6 @@ Window {
         target: window.session
         function onCloseRequested(): void { window.close() }
         function onScreenshotRequested(): void { screenshot.take() }
-        // The cart has a page and, as yet, no panel.
-        function onPanelsChanged(): void {
-            if (window.session.isCartOpen) {
-                window.session.isCartOpen = false
-                window.session.selected.selectItem(cartItem)
-            }
-        }
-        readonly property int cartItem: 12
     }
 
     Connections {
@@ -96,6 +102,7 @@ Window {
             id: sidebar
 
             anchors { left: parent.left; top: menuBar.bottom; bottom: parent.bottom }
+            app: window.app
             session: window.session
             rail: window.narrow || window.session.isSidebarCollapsed
         }
@@ -119,6 +126,7 @@ Window {
                 anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom }
                 app: window.app
                 session: window.session
+                begun: window.wasSeen
             }
         }
         Hairline {
@@ -127,13 +135,30 @@ Window {
         Loader {
             id: screenshot
 
+            readonly property var made: item
+
             function take(): void {
                 if (status === Loader.Null)
                     setSource("Screenshot.qml", { app: window.app, subject: pages })
-                item.take()
+                made.take()
             }
 
             anchors { left: sidebar.right; right: parent.right; top: strip.bottom; bottom: parent.bottom }
+        }
+        // The bag slides in over the page, below the strip.
+        Loader {
+            id: cart
+
+            readonly property bool wanted: window.session.isCartOpen
+
+            function showPanel(): void {
+                if (wanted && status === Loader.Null)
+                    setSource("CartPanel.qml", { app: window.app, session: window.session })
+            }
+
+            anchors { left: parent.left; right: parent.right; top: strip.bottom; bottom: parent.bottom }
+            onWantedChanged: showPanel()
+            Component.onCompleted: showPanel() // it may have been asked for before the window was there
         }
         Loader {
             id: lightbox

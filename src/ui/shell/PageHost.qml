@@ -24,6 +24,8 @@ FocusScope {
     property bool wanted: false
     property int reloadKey: -1
 
+    objectName: "page"
+
     function takeFocus(): void {
         host.forceActiveFocus()
         if (page)
@@ -50,6 +52,7 @@ FocusScope {
         case PageKind.Department: return "DepartmentPage"
         case PageKind.Collection: return "CollectionPage"
         case PageKind.Product: return "ProductPage"
+        case PageKind.Cart: return "CartPage"
         case PageKind.StorePage: return "StorePage"
         default: return "UnknownPage"
         }
@@ -110,6 +113,14 @@ FocusScope {
     Connections {
         target: host.page
         function onScrollYChanged(): void { host.router.setScrollPosition(host.depth, host.page.scrollY) }
+    }
+
+    Connections {
+        target: host.shown ? host.router : null
+        function onSoftReloadTokenChanged(): void {
+            if (host.page)
+                host.page.refresh()
+        }
     }
 
     // A new page fades in; one that was there before is simply there again.

@@ -7,7 +7,7 @@
 namespace loom
 {
 
-/// Saves what an item shows as a picture. Encoding and writing happen on a worker thread.
+/// Saves what an item shows as a picture, in a file of its own. Encoding and writing happen on a worker thread.
 class ScreenshotSaver : public QObject
 {
     Q_OBJECT

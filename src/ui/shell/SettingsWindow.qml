@@ -19,6 +19,10 @@ Window {
     ]
     readonly property int current: Math.max(0, pages.findIndex(page => page.id === settings.settingsTab))
 
+    function applyStyle(): void {
+        color = Qt.binding(() => Theme.surface)
+    }
+
     objectName: "settings"
     width: Theme.layoutSettingsWindow.width
     height: Theme.layoutSettingsWindow.height
@@ -94,6 +98,8 @@ Window {
             boundsBehavior: Flickable.StopAtBounds
             clip: true
             ScrollBar.vertical: ScrollBar {}
+
+            FocusFollower { flickable: flick }
 
             Item {
                 id: sheet

@@ -8,6 +8,7 @@ import Loomstreet.Theme
 Rectangle {
     id: sidebar
 
+    required property AppModel app
     required property WindowSession session
     property bool rail: false
 
@@ -39,6 +40,7 @@ Rectangle {
             width: list.width
             rail: sidebar.rail
             focus: ListView.isCurrentItem
+            count: rawValue === "cart" ? sidebar.app.cart.itemCount : 0
             selected: sidebar.session.selected ? sidebar.session.selected.selection === index : false
             onChosen: sidebar.session.selected.selectItem(index)
         }

@@ -14,36 +14,41 @@ FocusScope {
     required property string rawValue
     property bool rail: false
     property bool selected: false
+    property int count: 0
 
     signal chosen()
 
     implicitHeight: control.y + control.height
 
-    TextLabel {
-        id: headingLabel
+    // Few rows have a heading or a line above them.
+    Loader {
+        id: heading
 
         anchors { left: parent.left; leftMargin: 20 }
-        height: Theme.layoutSidebarHeading
-        visible: row.heading !== "" && !row.rail
-        verticalAlignment: Text.AlignVCenter
-        text: row.heading
-        type: Theme.type.overline
-        color: Theme.muted
-        Accessible.role: Accessible.Heading
+        active: row.heading !== "" && !row.rail
+        sourceComponent: TextLabel {
+            height: Theme.layoutSidebarHeading
+            verticalAlignment: Text.AlignVCenter
+            text: row.heading // qmllint disable unqualified
+            type: Theme.type.overline
+            color: Theme.muted
+            Accessible.role: Accessible.Heading
+        }
     }
-    Hairline {
+    Loader {
         id: line
 
         anchors { left: parent.left; right: parent.right; leftMargin: row.rail ? Theme.space2 : 20; rightMargin: row.rail ? Theme.space2 : 20 }
         y: 7
-        visible: row.hasLine || (row.rail && row.heading !== "" && row.index > 0)
+        active: row.hasLine || (row.rail && row.heading !== "" && row.index > 0)
+        sourceComponent: Hairline {}
     }
     Pressable {
         id: control
 
         objectName: "section." + row.rawValue
         anchors { left: parent.left; right: parent.right; leftMargin: Theme.space1; rightMargin: Theme.space1 }
-        y: headingLabel.visible ? headingLabel.height : line.visible ? 15 : 0
+        y: heading.active ? Theme.layoutSidebarHeading : line.active ? 15 : 0
         height: Math.max(Theme.layoutSidebarRow, label.implicitHeight + Theme.space1)
         focus: true
         activeFocusOnTab: false // the list takes the focus and hands it on
@@ -52,6 +57,7 @@ FocusScope {
 
         Accessible.role: Accessible.ListItem
         Accessible.selected: row.selected
+        Accessible.description: row.count > 0 ? row.count : ""
 
         contentItem: Item {
             Icon {
@@ -64,12 +70,27 @@ FocusScope {
             TextLabel {
                 id: label
 
-                anchors { left: icon.right; leftMargin: Theme.space1_5; right: parent.right; verticalCenter: parent.verticalCenter }
+                anchors { left: icon.right; leftMargin: Theme.space1_5; right: count.left; verticalCenter: parent.verticalCenter }
                 visible: !row.rail
                 text: row.title
                 type: Theme.type.label
                 font.weight: row.selected ? Font.DemiBold : type.weight
                 Accessible.ignored: true
+            }
+            Loader {
+                id: count
+
+                anchors { right: parent.right; rightMargin: Theme.space1_5; verticalCenter: parent.verticalCenter }
+                active: row.count > 0 && !row.rail
+                sourceComponent: TextLabel {
+                    objectName: "count"
+                    text: row.count // qmllint disable unqualified
+                    elide: Text.ElideNone
+                    type: Theme.type.small
+                    figures: true
+                    color: Theme.muted
+                    Accessible.ignored: true
+                }
             }
         }
         background: Rectangle {

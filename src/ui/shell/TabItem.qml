@@ -95,10 +95,12 @@ Pressable {
     Loader {
         id: menu
 
+        readonly property var made: item
+
         function popup(): void {
             if (status === Loader.Null)
                 setSource("TabMenu.qml", { session: tab.session, index: Qt.binding(() => tab.index) })
-            item.popup()
+            made.popup()
         }
     }
 }

@@ -11,6 +11,17 @@ Item {
 
     readonly property TabStack current: repeater.count > 0 ? repeater.itemAt(session.selectedIndex) as TabStack : null
     readonly property bool settled: current?.settled ?? false
+    // The window itself is seen first; pages are built into it.
+    property bool begun: false
+    property bool entered: false
+
+    // The first page there is takes the focus that waits for it.
+    onCurrentChanged: {
+        if (current && !entered) {
+            entered = true
+            takeFocus()
+        }
+    }
 
     function takeFocus(): void {
         if (current)
@@ -22,7 +33,7 @@ Item {
     Repeater {
         id: repeater
 
-        model: pages.session.tabs
+        model: pages.begun ? pages.session.tabs : null
 
         TabStack {
             required property int index

@@ -117,29 +117,41 @@ Item {
             }
         }
         IconButton {
+            objectName: "bag"
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "bag"
+            badge: bar.app.cart.itemCount
+            on: bar.session.isCartOpen
+            text: qsTranslate("Loomstreet", "Shopping bag")
+            shortcut: "Ctrl Shift B"
+            onClicked: bar.session.isCartOpen = !bar.session.isCartOpen
+        }
+        IconButton {
             id: menuButton
 
             objectName: "menu"
             anchors.verticalCenter: parent.verticalCenter
             iconName: "menu"
             text: qsTranslate("Loomstreet", "Menu")
-            on: menu.item?.visible ?? false
+            on: menu.made?.visible ?? false
             onClicked: menu.toggle()
 
             // Made when it is first asked for.
             Loader {
                 id: menu
 
+                readonly property var made: item
+
                 function toggle(): void {
                     if (status === Loader.Null)
                         setSource("AppMenu.qml", { commands: bar.commands })
-                    if (item.visible)
-                        item.close()
+                    if (made.visible)
+                        made.close()
                     else
-                        item.open()
+                        made.open()
                 }
 
-                x: menuButton.mirrored || !item ? 0 : menuButton.width - item.width
+                x: menuButton.mirrored || !made ? 0 : menuButton.width - made.width
                 y: menuButton.height + Theme.spaceHalf
             }
         }

@@ -14,11 +14,15 @@ namespace loom
 namespace
 {
 
+QUrl addressOf(const QString& type)
+{
+    return QUrl(QStringLiteral("qrc:/qt/qml/Loomstreet/Shell/") + type + QStringLiteral(".qml"));
+}
+
 /// A window of the shell's QML module; null, with the reasons in the log, when it does not compile.
 QQuickWindow* createWindow(QQmlEngine& engine, const QString& type, const QVariantMap& properties)
 {
-    QQmlComponent component(&engine,
-                            QUrl(QStringLiteral("qrc:/qt/qml/Loomstreet/Shell/") + type + QStringLiteral(".qml")));
+    QQmlComponent component(&engine, addressOf(type));
     QObject* const object = component.isReady() ? component.createWithInitialProperties(properties) : nullptr;
     auto* const window = qobject_cast<QQuickWindow*>(object);
     if (!window) {
@@ -30,11 +34,17 @@ QQuickWindow* createWindow(QQmlEngine& engine, const QString& type, const QVaria
 
 void bringForward(QWindow* window)
 {
-    if (window->windowState() == Qt::WindowMinimized)
-        window->showNormal();
-    window->show();
+    // Out of the dock, but maximised or on the full screen if it was.
+    window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
+    window->setVisible(true);
     window->raise();
     window->requestActivate();
+}
+
+void applyStyle(QQuickWindow* window)
+{
+    if (window)
+        QMetaObject::invokeMethod(window, "applyStyle");
 }
 
 } // namespace
@@ -50,6 +60,7 @@ WindowManager::WindowManager(QQmlEngine& engine, AppModel& model, SystemAppearan
 WindowManager::~WindowManager()
 {
     delete m_settings;
+    qDeleteAll(m_checkouts);
     qDeleteAll(m_windows);
 }
 
@@ -57,7 +68,14 @@ QQuickWindow* WindowManager::create(const QString& type, QVariantMap properties)
 {
     properties.insert(QStringLiteral("app"), QVariant::fromValue(&m_model));
     properties.insert(QStringLiteral("systemAppearance"), QVariant::fromValue(&m_appearance));
-    return createWindow(m_engine, type, properties);
+    QQuickWindow* const window = createWindow(m_engine, type, properties);
+    if (window) {
+        connect(window, &QWindow::activeChanged, window, [window] {
+            if (window->isActive())
+                applyStyle(window);
+        });
+    }
+    return window;
 }
 
 void WindowManager::show(WindowSession& session)
@@ -67,6 +85,10 @@ void WindowManager::show(WindowSession& session)
     if (!window)
         return;
     m_windows.insert(&session, window);
+    // Told from the thread that draws.
+    connect(
+        window, &QQuickWindow::frameSwapped, window, [window] { window->setProperty("wasSeen", true); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     // The window goes before its session does: its pages hold on to the session's tabs.
     connect(&session, &QObject::destroyed, window, [this, key = &session] { delete m_windows.take(key); });
     bringForward(window);
@@ -86,6 +108,22 @@ void WindowManager::showSettings()
         bringForward(m_settings);
 }
 
+void WindowManager::showCheckout(CheckoutModel& checkout)
+{
+    if (!m_checkouts.contains(&checkout)) {
+        QQuickWindow* const window =
+            create(QStringLiteral("CheckoutWindow"), {{QStringLiteral("checkout"), QVariant::fromValue(&checkout)}});
+        if (!window)
+            return;
+        m_checkouts.insert(&checkout, window);
+        connect(&checkout, &CheckoutModel::closed, window, [this, key = &checkout] {
+            if (QQuickWindow* const closed = m_checkouts.take(key))
+                closed->deleteLater();
+        });
+    }
+    bringForward(m_checkouts.value(&checkout));
+}
+
 bool WindowManager::hasVisibleWindow() const
 {
     return std::ranges::any_of(m_windows, [](const auto& window) { return window && window->isVisible(); });
@@ -93,15 +131,22 @@ bool WindowManager::hasVisibleWindow() const
 
 void WindowManager::applyWindowStyle()
 {
-    for (const auto& window : std::as_const(m_windows)) {
-        if (window)
-            QMetaObject::invokeMethod(window, "applyStyle");
-    }
+    for (const auto& window : std::as_const(m_windows))
+        applyStyle(window);
+    for (const auto& window : std::as_const(m_checkouts))
+        applyStyle(window);
+    applyStyle(m_settings);
 }
 
 QQuickWindow* WindowManager::windowOf(const WindowSession& session) const
 {
     return m_windows.value(&session);
+}
+
+std::unique_ptr<QQmlComponent> WindowManager::preload(QQmlEngine& engine)
+{
+    return std::make_unique<QQmlComponent>(&engine, addressOf(QStringLiteral("MainWindow")),
+                                           QQmlComponent::Asynchronous);
 }
 
 std::unique_ptr<QQuickWindow> WindowManager::showConfigurationMissing(QQmlEngine& engine, SystemAppearance& appearance)

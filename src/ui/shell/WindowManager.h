@@ -30,11 +30,16 @@ public:
     void show(WindowSession& session) override;
     void raise(WindowSession& session) override;
     void showSettings() override;
+    void showCheckout(CheckoutModel& checkout) override;
     [[nodiscard]] bool hasVisibleWindow() const override;
     void applyWindowStyle() override;
 
     /// The window of a session; null when it has none.
     [[nodiscard]] QQuickWindow* windowOf(const WindowSession& session) const;
+
+    /// Begins to read the types of which a main window is made, in the background. What it returns is to be kept until
+    /// the first window is there, and no longer than the engine.
+    [[nodiscard]] static std::unique_ptr<QQmlComponent> preload(QQmlEngine& engine);
 
     /// Shows what there is to see of a build that belongs to no store.
     [[nodiscard]] static std::unique_ptr<QQuickWindow> showConfigurationMissing(QQmlEngine& engine,
@@ -47,6 +52,7 @@ private:
     AppModel& m_model;
     SystemAppearance& m_appearance;
     QHash<const WindowSession*, QPointer<QQuickWindow>> m_windows;
+    QHash<const CheckoutModel*, QPointer<QQuickWindow>> m_checkouts;
     QPointer<QQuickWindow> m_settings;
 };
 

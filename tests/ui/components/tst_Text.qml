@@ -101,6 +101,18 @@ TestCase {
         Theme.textScale = 2
         verify(item.naturalWidth > 1.5 * before, "columns grow with the text")
     }
+    function test_aLargeTableFillsBetweenFramesAndMovesNothing() {
+        const figures = unit => Array.from({ length: 50 }, (_, row) => Array.from({ length: 8 }, (_, column) => row + column + unit))
+        const item = createTemporaryObject(table, test, { headings: figures("")[0], rows: figures(" cm") })
+        const height = item.implicitHeight
+        verify(findChild(item, "row49") === null, "not all at once")
+        const cellOf = (row, column) => findChild(findChild(item, "row" + row), "cell" + column)
+        tryVerify(() => cellOf(49, 7) !== null && cellOf(3, 2) !== null, 20000)
+        compare(item.implicitHeight, height)
+        const cell = cellOf(3, 2)
+        item.rows = figures(" in")
+        compare(cell.text, "5 in", "the same cell in another unit")
+    }
 
     Component {
         id: search

@@ -1,4 +1,4 @@
-#include "StorefrontFixture.h"
+#include "support/StorefrontFixture.h"
 
 #include <QJsonArray>
 #include <QRegularExpression>
@@ -11,7 +11,7 @@ namespace
 
 QString operationIn(const QJsonObject& body)
 {
-    static const QRegularExpression name(QStringLiteral("\\bquery (\\w+)"));
+    static const QRegularExpression name(QStringLiteral("\\b(?:query|mutation) (\\w+)"));
     return name.match(body.value(QStringLiteral("query")).toString()).captured(1);
 }
 

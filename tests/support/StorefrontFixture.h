@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Json.h"
 #include "catalog/StorefrontAPI.h"
 #include "catalog/StorefrontClient.h"
 
+#include "support/Json.h"
 #include "support/NetworkFixture.h"
 
 #include <QMap>

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "StorefrontFixture.h"
 #include "catalog/MarketStore.h"
 #include "catalog/MoneyFormat.h"
 #include "storage/DataFolder.h"
 #include "storage/Preferences.h"
+
+#include "support/StorefrontFixture.h"
 
 #include <QJsonArray>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 // Checks every document of the program named on the command line against the Storefront's official schema: its
 // syntax, every rule of the language, that it uses nothing deprecated, and that its variables have values of their
-// types. Prints what is wrong.
+// types. The second argument is how many documents there are at least. Prints what is wrong.
 import { execFileSync } from 'node:child_process';
 import { readFileSync } from 'node:fs';
 import { createRequire } from 'node:module';
@@ -30,9 +30,11 @@ for (const { name, text, variables } of documents) {
   }
 }
 
-const known = schema.getType('CountryCode').getValues().map(({ name }) => name).sort();
-if (JSON.stringify(known) !== JSON.stringify(countries)) faults.push(`countries: ${known} are not ${countries}`);
+if (countries) {
+  const known = schema.getType('CountryCode').getValues().map(({ name }) => name).sort();
+  if (JSON.stringify(known) !== JSON.stringify(countries)) faults.push(`countries: ${known} are not ${countries}`);
+}
 
-if (documents.length < 100) faults.push(`only ${documents.length} documents`);
+if (!(documents.length >= Number(process.argv[3]))) faults.push(`only ${documents.length} documents`);
 for (const fault of faults) console.error(fault);
 process.exit(faults.length ? 1 : 0);

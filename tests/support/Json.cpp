@@ -1,4 +1,4 @@
-#include "Json.h"
+#include "support/Json.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

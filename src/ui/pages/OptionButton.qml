@@ -1,0 +1,12 @@
+import Loomstreet.Components
+
+// A value of an option by its name.
+SizeButton {
+    required property OptionChoice choice
+
+    objectName: "size." + text
+    text: choice.value.text
+    selected: choice.value.isSelected
+    soldOut: !choice.value.isAvailable
+    onClicked: choice.chosen()
+}

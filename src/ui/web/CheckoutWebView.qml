@@ -1,0 +1,115 @@
+import QtQuick
+import QtWebEngine
+
+// The platform's checkout page. Where it may go is for the model to judge; windows that a bank or a wallet opens
+// stand over it, and go when they are done.
+Item {
+    id: holder
+
+    required property var checkout
+
+    readonly property alias view: web
+
+    function isClick(request: var): bool {
+        return request.navigationType === WebEngineNavigationRequest.LinkClickedNavigation
+    }
+
+    focus: true
+    Accessible.ignored: true
+
+    WebEngineProfile {
+        id: own
+
+        offTheRecord: true
+        httpCacheType: WebEngineProfile.MemoryHttpCache
+        httpUserAgent: holder.checkout.userAgent
+        onDownloadRequested: download => download.cancel()
+    }
+    WebEngineView {
+        id: web
+
+        objectName: "checkoutView"
+        anchors.fill: parent
+        focus: true
+        visible: popup.item === null
+        profile: own
+        url: holder.checkout.address
+
+        settings.pluginsEnabled: false
+        settings.javascriptCanAccessClipboard: false
+        settings.localContentCanAccessRemoteUrls: false
+        settings.localContentCanAccessFileUrls: false
+        settings.screenCaptureEnabled: false
+
+        onNavigationRequested: request => {
+            // Frames are the page's own affair: the bank's questions live in them.
+            if (!request.isMainFrame || holder.checkout.mayNavigate(request.url, holder.isClick(request)))
+                request.accept()
+            else
+                request.reject()
+        }
+        onNewWindowRequested: request => {
+            // Nothing opens that the shopper did not ask for, and nothing that cannot be seen to be safe.
+            if (request.userInitiated && popup.item === null)
+                popup.open(request)
+        }
+        onFeaturePermissionRequested: (securityOrigin, feature) => grantFeaturePermission(securityOrigin, feature, false)
+        onAuthenticationDialogRequested: request => {
+            request.accepted = true
+            request.dialogReject()
+        }
+        onFileDialogRequested: request => {
+            request.accepted = true
+            request.dialogReject()
+        }
+        onContextMenuRequested: request => { request.accepted = true }
+        onPrintRequested: {}
+        onQuotaRequested: request => request.reject()
+        onRegisterProtocolHandlerRequested: request => request.reject()
+        onCertificateError: error => error.rejectCertificate()
+        onRenderProcessTerminated: (status, code) => {
+            if (status !== WebEngineView.NormalTerminationStatus)
+                holder.checkout.rendererGone()
+        }
+        onLoadingChanged: info => {
+            switch (info.status) {
+            case WebEngineView.LoadStartedStatus:
+                holder.checkout.loadStarted(info.url)
+                break
+            case WebEngineView.LoadSucceededStatus:
+                if (holder.checkout.loadFinished(info.url))
+                    web.readText()
+                break
+            case WebEngineView.LoadStoppedStatus:
+                holder.checkout.loadStopped()
+                break
+            case WebEngineView.LoadFailedStatus:
+                holder.checkout.loadFailed(info.errorString)
+                break
+            }
+        }
+
+        // As much of it as an order number could stand in.
+        function readText(): void {
+            runJavaScript("document.body.innerText.slice(0, 200000)", text => {
+                if (typeof text === "string")
+                    holder.checkout.readConfirmation(text)
+            })
+        }
+    }
+    Loader {
+        id: popup
+
+        function open(request: var): void {
+            setSource("CheckoutPopup.qml", { profile: own })
+            item.closed.connect(() => {
+                popup.source = ""
+                web.forceActiveFocus()
+            })
+            request.openIn(item.view)
+            item.forceActiveFocus()
+        }
+
+        anchors.fill: parent
+    }
+}

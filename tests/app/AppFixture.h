@@ -1,0 +1,86 @@
+#pragma once
+
+#include "FakeWindowHost.h"
+#include "app/AppModel.h"
+
+#include "support/NetworkFixture.h"
+#include "support/Running.h"
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+namespace loom
+{
+
+/// The whole application but for its windows, in front of a store that has nothing: every query is answered with 404,
+/// and noted.
+class AppFixture : public NetworkFixture
+{
+protected:
+    AppFixture()
+    {
+        server.allow("POST /api/2025-04/graphql.json", [this](const ReceivedRequest& request) {
+            asked.append(describe(request.json()));
+            return Answer::body("", 404);
+        });
+    }
+
+    /// What one start of the application makes.
+    void start() { start(config); }
+    void start(const AppConfig& with)
+    {
+        model.reset();
+        model.emplace(with, AppPlatform{.clock = clock,
+                                        .random = random,
+                                        .network = network,
+                                        .features = features,
+                                        .dataFolder = home.path() + QStringLiteral("/data"),
+                                        .locale = locale,
+                                        .openExternally = [this](const QUrl& url) { browsed.append(url); },
+                                        .heldKeys =
+                                            [this] {
+                                                return keys;
+                                            }});
+        model->setWindowHost(&host);
+    }
+
+    /// Waits until that many queries have come and been answered; returns them in the order of the alphabet, because
+    /// they travel side by side.
+    [[nodiscard]] QStringList queries(qsizetype count)
+    {
+        waitUntil([&] { return asked.size() >= count && clock.sleepers() == 0; }, "every query is answered");
+        drainEvents();
+        QStringList sorted = std::exchange(asked, {});
+        sorted.sort();
+        return sorted;
+    }
+
+    AllFeatures features;
+    SystemLocale locale{.language = QStringLiteral("de"), .script = {}, .region = QStringLiteral("AT")};
+    QTemporaryDir home;
+    QList<QUrl> browsed;
+    Qt::KeyboardModifiers keys;
+    AppConfig config{.shopifyDomain = server.host(),
+                     .storefrontToken = QStringLiteral("token-1"),
+                     .supportBase = server.base(),
+                     .supportKey = QStringLiteral("key-1"),
+                     .storeWebURL = QStringLiteral("https://www.loom.example")};
+    FakeWindowHost host;
+    QStringList asked; ///< such as "CollectionProducts new-in AT DE"
+    std::optional<AppModel> model;
+
+private:
+    [[nodiscard]] static QString describe(const QJsonObject& body)
+    {
+        static const QRegularExpression operation(QStringLiteral("\\bquery (\\w+)"));
+        const QJsonObject variables = body.value(QStringLiteral("variables")).toObject();
+        QString text = operation.match(body.value(QStringLiteral("query")).toString()).captured(1);
+        for (const char* const key : {"handle", "country", "language"}) {
+            if (const QString value = variables.value(QLatin1String(key)).toString(); !value.isEmpty())
+                text += QLatin1Char(' ') + value;
+        }
+        return text;
+    }
+};
+
+} // namespace loom

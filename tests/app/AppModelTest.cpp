@@ -1,0 +1,229 @@
+#include "AppFixture.h"
+
+#include <QRegularExpression>
+#include <QSignalSpy>
+
+#include <QStandardPaths>
+
+using namespace loom;
+
+namespace
+{
+
+class AppModelTest : public AppFixture
+{
+protected:
+    AppModelTest() { start(); }
+
+    /// Stores what the shopper agreed to, as an earlier start would have.
+    void agreeToReports()
+    {
+        model->settings()->setSharesUsage(true);
+        server.allow("POST /api/support/widget/track", [this](const ReceivedRequest& request) {
+            const QJsonObject body = request.json();
+            reports.append(body.value(QStringLiteral("event")).toString() + QLatin1Char(' ') +
+                           body.value(QStringLiteral("handle")).toString());
+            visitors.append(body.value(QStringLiteral("visitorId")).toString());
+            return Answer::body("");
+        });
+    }
+
+    QStringList reports;
+    QStringList visitors;
+    QObject page; // ends before the model, as pages do
+};
+
+const QString silk = QStringLiteral("silk");
+const QString newIn = QStringLiteral("new-in");
+const QString finalSale = QStringLiteral("final-sale");
+
+TEST_F(AppModelTest, TheFirstPageIsAskedForBeforeItsWindowIsBuiltAndTakesOverWhatRuns)
+{
+    const CollectionModel* rail = nullptr;
+    host.whileShowing = [&](const WindowSession&) {
+        EXPECT_FALSE(model->didBootstrap()); // what is not seen comes after what is
+        rail = model->makeCollection(&page, newIn, {});
+        EXPECT_TRUE(rail->isLoading());
+        EXPECT_TRUE(model->makeCollection(&page, finalSale, {})->isLoading());
+        EXPECT_TRUE(model->makeDepartment(&page, {})->isLoading());
+        // Each is there once, and for its own page.
+        EXPECT_FALSE(model->makeCollection(&page, newIn, {})->isLoading());
+        EXPECT_FALSE(model->makeDepartment(&page, {})->isLoading());
+    };
+    const WindowSession& session = model->openWindow({});
+    EXPECT_EQ(host.takeCalls(), QStringList(QStringLiteral("show 1")));
+    EXPECT_TRUE(model->didBootstrap());
+    EXPECT_EQ(model->keySession(), &session);
+    ASSERT_TRUE(rail);
+    EXPECT_EQ(rail->parent(), &page);
+    EXPECT_EQ(
+        queries(6),
+        QStringList({QStringLiteral("CollectionProbe AT DE"), QStringLiteral("CollectionProducts final-sale AT DE"),
+                     QStringLiteral("CollectionProducts new-in AT DE"), QStringLiteral("Countries DE"),
+                     QStringLiteral("RateSample AT"), QStringLiteral("RateSample US")}));
+    EXPECT_EQ(rail->errorText(), errorDescription(APIError{APIError::Http{.status = 404}}));
+}
+
+TEST_F(AppModelTest, WhatAWindowBeginsWithIsWhatItShowsFirst)
+{
+    struct Row {
+        WindowSeed seed;
+        QStringList queries;
+    };
+    model->bootstrap();
+    static_cast<void>(queries(3));
+    for (const Row& row : {
+             Row{{.section = SidebarItem::Women}, {QStringLiteral("CollectionProbe AT DE")}},
+             Row{{.section = SidebarItem::NewIn}, {QStringLiteral("CollectionProducts new-in AT DE")}},
+             Row{{.section = SidebarItem::Starlook}, {}},
+             Row{{.link = QStringLiteral("/products/silk")}, {QStringLiteral("Product silk AT DE")}},
+             Row{{.link = QStringLiteral("https://LOOM.example/collections/bags")},
+                 {QStringLiteral("CollectionProducts bags AT DE")}},
+             Row{{.link = QStringLiteral("/search?q=silk"), .section = SidebarItem::Men}, {}},
+         }) {
+        WindowSession& session = model->openWindow(row.seed);
+        EXPECT_EQ(queries(row.queries.size()), row.queries) << row.seed.link.value_or(QString()).toStdString();
+        model->closeWindow(&session);
+    }
+    model->openWindow({.link = QStringLiteral("https://other.example/a"), .section = SidebarItem::Starlook});
+    EXPECT_EQ(browsed, QList<QUrl>{QUrl(QStringLiteral("https://other.example/a"))});
+}
+
+TEST_F(AppModelTest, APageThatNeverCameIsForgottenWithTheNextWindow)
+{
+    model->openWindow({.link = QStringLiteral("/products/a")});
+    model->openWindow({.link = QStringLiteral("/products/b")});
+    EXPECT_FALSE(model->makeProduct(&page, QStringLiteral("a"), {})->isLoading());
+    EXPECT_FALSE(model->makeCollection(&page, QStringLiteral("b"), {})->isLoading()); // of another kind
+    EXPECT_TRUE(model->makeProduct(&page, QStringLiteral("b"), {})->isLoading());
+}
+
+TEST_F(AppModelTest, APieceIsShownFromItsCardAtOnce)
+{
+    ProductListItem item;
+    item.handle = silk;
+    item.title = QStringLiteral("Silk dress");
+    EXPECT_EQ(model->makeProduct(&page, silk, QVariant::fromValue(item))->title(), item.title);
+    for (const QVariant& none : {QVariant(), QVariant(7), QVariant::fromValue(nullptr)})
+        EXPECT_EQ(model->makeProduct(&page, silk, none)->title(), QString());
+}
+
+TEST_F(AppModelTest, WithoutAConfigurationNothingIsSentAndThePagesSaySo)
+{
+    start({});
+    model->settings()->setSharesUsage(true);
+    model->openWindow({.link = QStringLiteral("/products/silk")});
+    ProductModel* const product = model->makeProduct(&page, silk, {});
+    drainEvents();
+    EXPECT_EQ(product->errorText(), QStringLiteral("The app is missing its configuration."));
+    const auto answer = run(model->widget().post(QStringLiteral("/track"), {}, {}, {}));
+    ASSERT_FALSE(answer);
+    EXPECT_EQ(answer.error().error(), APIError{APIError::NotConfigured{}});
+    EXPECT_TRUE(server.requests().empty());
+    EXPECT_EQ(clock.sleepers(), 0);
+}
+
+TEST_F(AppModelTest, TheProcessIsSetGoingOnceHoweverManyWindowsOpen)
+{
+    agreeToReports();
+    for (int i = 0; i < 3; ++i)
+        model->openWindow({.section = SidebarItem::Starlook});
+    model->bootstrap();
+    EXPECT_EQ(queries(3).size(), 3);
+    EXPECT_EQ(reports, QStringList(QStringLiteral("app_opened ")));
+
+    EXPECT_TRUE(model->claim(QStringLiteral("greeting")));
+    EXPECT_FALSE(model->claim(QStringLiteral("greeting")));
+    EXPECT_TRUE(model->claim(QStringLiteral("other")));
+}
+
+TEST_F(AppModelTest, TheVisitorStaysTheSameAndIsMadeOnlyForReports)
+{
+    const Preference<const char*> stored{"lst_visitor_id", ""};
+    model->openWindow({.section = SidebarItem::Starlook});
+    static_cast<void>(model->makeProduct(&page, silk, {}));
+    static_cast<void>(queries(3));
+    EXPECT_EQ(model->preferences().value(stored), QString()); // nobody agreed to be counted
+
+    const QUuid visitor(QStringLiteral("c0ffee00-0000-4000-8000-000000000001"));
+    random.foretell(visitor);
+    agreeToReports();
+    static_cast<void>(model->makeProduct(&page, silk, {}));
+    static_cast<void>(model->makeCollection(&page, newIn, {}));
+    waitUntil([this] { return reports.size() == 2 && clock.sleepers() == 0; }, "both reports have come");
+    reports.sort();
+    EXPECT_EQ(reports,
+              QStringList({QStringLiteral("collection_viewed new-in"), QStringLiteral("product_viewed silk")}));
+    const QString expected = visitor.toString(QUuid::WithoutBraces);
+    EXPECT_EQ(visitors, QStringList({expected, expected}));
+
+    qDeleteAll(page.children());
+    start();
+    EXPECT_EQ(model->visitorID(), expected);
+    EXPECT_TRUE(model->settings()->sharesUsage());
+}
+
+TEST_F(AppModelTest, TheWindowInFrontIsTheOneThatWasThereLast)
+{
+    EXPECT_EQ(model->keySession(), nullptr);
+    std::array<WindowSession*, 3> windows{};
+    for (WindowSession*& window : windows)
+        window = &model->openWindow({.section = SidebarItem::Starlook});
+    EXPECT_EQ(model->keySession(), windows[2]);
+    model->windowBecameKey(windows[0]);
+    EXPECT_EQ(model->keySession(), windows[0]);
+    model->closeWindow(windows[2]);
+    EXPECT_EQ(model->keySession(), windows[0]);
+    model->closeWindow(windows[0]);
+    EXPECT_EQ(model->keySession(), windows[1]);
+    EXPECT_EQ(model->windows().size(), 1U);
+
+    // A window that is gone may still have something to say.
+    model->windowBecameKey(windows[0]);
+    EXPECT_EQ(model->keySession(), windows[1]);
+    model->closeWindow(windows[0]);
+    model->closeWindow(nullptr);
+    EXPECT_EQ(model->keySession(), windows[1]);
+    model->closeWindow(windows[1]);
+    EXPECT_EQ(model->keySession(), nullptr);
+    EXPECT_TRUE(model->windows().empty());
+}
+
+TEST_F(AppModelTest, AWindowMayBeClosedFromWithin)
+{
+    WindowSession& session = model->openWindow({.section = SidebarItem::Starlook});
+    const QPointer<WindowSession> watched = &session;
+    QObject::connect(&session, &WindowSession::closeRequested, &*model, [&] { model->closeWindow(&session); });
+    session.closeTab(0);
+    ASSERT_TRUE(watched); // still in the middle of the call
+    EXPECT_EQ(watched->tabs()->count(), 1);
+    drainEvents();
+    EXPECT_FALSE(watched);
+}
+
+TEST_F(AppModelTest, ItsCommandsReachBeyondTheirWindow)
+{
+    WindowSession& session = model->openWindow({.section = SidebarItem::Starlook});
+    QSignalSpy quits(&*model, &AppModel::quitRequested);
+    AppCommands* const commands = model->makeCommands(&page, &session);
+    EXPECT_EQ(commands->parent(), &page);
+    static_cast<void>(host.takeCalls());
+    commands->perform(AppCommand::Id::NewWindow);
+    commands->perform(AppCommand::Id::Settings);
+    EXPECT_EQ(host.takeCalls(), QStringList({QStringLiteral("show 2"), QStringLiteral("settings")}));
+    EXPECT_EQ(quits.count(), 0);
+    commands->perform(AppCommand::Id::Quit);
+    EXPECT_EQ(quits.count(), 1);
+
+    keys = Qt::ControlModifier;
+    session.selected()->openProductCard(silk, {});
+    EXPECT_EQ(session.tabs()->count(), 2); // the keys held are the platform's to know
+}
+
+TEST_F(AppModelTest, AScreenshotIsNamedByTheTimeOnTheShoppersClock)
+{
+    EXPECT_EQ(model->screenshotPath(), QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) +
+                                           QStringLiteral("/LOOMSTREET 2025-03-09 at 21.52.06.png"));
+}
+
+} // namespace

@@ -1,0 +1,267 @@
+#include "Desk.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+using namespace loom;
+
+namespace
+{
+
+class WindowSessionTest : public Desk
+{
+protected:
+    /// A letter for each tab in the order in which they were opened.
+    [[nodiscard]] char letter(const QUuid& id)
+    {
+        if (!known.contains(id))
+            known.append(id);
+        return static_cast<char>('a' + known.indexOf(id));
+    }
+    /// The tabs in their order, the selected one in capitals.
+    [[nodiscard]] std::string tabs(WindowSession& session)
+    {
+        std::string text;
+        for (int i = 0; i < session.tabs()->count(); ++i) {
+            const char one = letter(session.tabs()->at(i)->id());
+            text += i == session.selectedIndex() ? static_cast<char>(std::toupper(one)) : one;
+        }
+        return text;
+    }
+    [[nodiscard]] std::string recency(WindowSession& session)
+    {
+        std::string text;
+        for (const QUuid& id : session.recency())
+            text += letter(id);
+        return text;
+    }
+
+    QList<QUuid> known;
+};
+
+TEST_F(WindowSessionTest, OfItsTabsTheMostRecentlyUsedComesNext)
+{
+    struct Row {
+        const char* steps; ///< + opens a tab, & one behind, 0 to 9 selects, xN closes, oN closes the others, rN opens
+                           ///< to the right of it, pN pins, > and < go to the next and the previous
+        const char* tabs;
+        const char* recency;
+        int closings; ///< how often the window was asked to close
+    };
+    for (const Row& row : {
+             Row{"", "A", "a", 0},
+             Row{"+ +", "abC", "cba", 0},
+             Row{"& &", "Abc", "abc", 0},
+             Row{"+ + 0 1", "aBc", "bac", 0},
+             Row{"+ + 7 -", "abC", "cba", 0},
+
+             Row{"+ + x2", "aB", "ba", 0},
+             Row{"+ + + 0 3 x3", "Abc", "acb", 0}, // not the neighbour
+             Row{"+ + + 1 x1 x2", "aC", "ca", 0},
+             Row{"+ + x0", "bC", "cb", 0},
+             Row{"& & x0", "Bc", "bc", 0}, // none of them was ever seen
+             Row{"& & 2 x0 x1", "B", "b", 0},
+             Row{"x0", "A", "a", 1},
+             Row{"+ x1 x0 x0", "A", "a", 2},
+             Row{"+ x2 x7 o2 r2", "aB", "ba", 0},
+
+             Row{"+ + 0 o1", "B", "b", 0},
+             Row{"+ + o0", "A", "a", 0},
+             Row{"+ + + p0 p2 o1", "B", "b", 0}, // pinned ones too
+             Row{"+ p0 x0", "B", "b", 0},
+
+             Row{"+ + 0 r0", "aDbc", "dacb", 0},
+             Row{"+ + r2", "abcD", "dcba", 0},
+
+             Row{"+ + >", "Abc", "acb", 0},
+             Row{"+ + 0 > >", "abC", "cba", 0},
+             Row{"+ + 0 <", "abC", "cab", 0},
+             Row{"> < >", "A", "a", 0},
+         }) {
+        WindowSession session(services, {});
+        static_cast<void>(letter(session.selectedID()));
+        QAbstractItemModelTester tester(session.tabs());
+        QSignalSpy closings(&session, &WindowSession::closeRequested);
+        QObject::connect(&session, &WindowSession::selectedChanged, &session, [&] {
+            EXPECT_TRUE(session.selected()) << row.steps; // the window always has a page to show
+        });
+        for (const QString& step : QString::fromUtf8(row.steps).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            const int index = step.mid(1).toInt();
+            switch (step.at(0).unicode()) {
+            case u'+':
+                session.newTab();
+                break;
+            case u'&':
+                session.openTab(SidebarItem::Men, TabActivation::Background);
+                break;
+            case u'x':
+                session.closeTab(index);
+                break;
+            case u'o':
+                session.closeOtherTabs(index);
+                break;
+            case u'r':
+                session.newTabToTheRight(index);
+                break;
+            case u'p':
+                session.tabs()->at(index)->setPinned(true);
+                break;
+            case u'>':
+                session.selectNextTab();
+                break;
+            case u'<':
+                session.selectPreviousTab();
+                break;
+            case u'-':
+                session.selectTab(-1);
+                break;
+            default:
+                session.selectTab(step.toInt());
+            }
+            for (int i = 0; i < session.tabs()->count(); ++i) // letters in the order of opening
+                static_cast<void>(letter(session.tabs()->at(i)->id()));
+            EXPECT_EQ(session.selectedID(), session.recency().first()) << row.steps;
+        }
+        EXPECT_EQ(tabs(session), row.tabs) << row.steps;
+        EXPECT_EQ(recency(session), row.recency) << row.steps;
+        EXPECT_EQ(closings.count(), row.closings) << row.steps;
+        known.clear();
+    }
+}
+
+TEST_F(WindowSessionTest, AWindowOpensWhereItsSeedSays)
+{
+    struct Row {
+        WindowSeed seed;
+        const char* shown;
+    };
+    for (const Row& row : {
+             Row{{}, "home"},
+             Row{{.section = SidebarItem::Luxury}, "luxury"},
+             Row{{.link = QStringLiteral("/products/silk"), .section = SidebarItem::Men}, "men: product silk"},
+             Row{{.link = QStringLiteral("loomstreet://pages/starlook"), .section = SidebarItem::Men}, "starlook"},
+             Row{{.link = QString(), .section = SidebarItem::Men}, "men"},
+             Row{{.link = QStringLiteral("/"), .section = SidebarItem::Men}, "men"},
+         }) {
+        WindowSession session(services, row.seed);
+        EXPECT_EQ(shown(*session.selected()), row.shown);
+        EXPECT_EQ(session.tabs()->count(), 1);
+    }
+    WindowSession session(services, {.link = QStringLiteral("/cart")});
+    EXPECT_TRUE(session.isCartOpen());
+    EXPECT_NE(session.id(), WindowSession(services, {}).id());
+    session.newTab();
+    EXPECT_EQ(shown(*session.selected()), "home");
+    session.setSidebarCollapsed(true);
+    const WindowState state = session.state();
+    EXPECT_EQ(state.tabs.size(), 2U);
+    EXPECT_EQ(state.selectedIndex, 1);
+    EXPECT_TRUE(state.isSidebarCollapsed);
+}
+
+TEST_F(WindowSessionTest, ATabMayBeClosedByWhatItDoesItself)
+{
+    WindowSession session(services, {});
+    session.newTab();
+    const QPointer<Router> tab = session.selected();
+    QObject::connect(tab, &Router::stackChanged, &session, [&] {
+        if (session.tabs()->count() > 1)
+            session.closeTab(1);
+    });
+    tab->openLink(QStringLiteral("/products/silk"));
+    EXPECT_EQ(session.tabs()->count(), 1);
+    ASSERT_TRUE(tab);
+    EXPECT_EQ(shown(*tab), "home: product silk");
+    drainEvents();
+    EXPECT_FALSE(tab);
+}
+
+TEST_F(WindowSessionTest, TabsAreRowsThatHoldTheirRouters)
+{
+    WindowSession session(services, {});
+    session.newTab();
+    TabsModel& model = *session.tabs();
+    QSignalSpy counted(&model, &TabsModel::countChanged);
+    EXPECT_EQ(model.roleNames(), (QHash<int, QByteArray>{{TabsModel::RouterRole, "router"}}));
+    EXPECT_EQ(model.index(1).data(TabsModel::RouterRole).value<Router*>(), session.selected());
+    EXPECT_FALSE(model.index(1).data(Qt::DisplayRole).isValid());
+    EXPECT_EQ(model.rowCount(model.index(0)), 0);
+    EXPECT_EQ(model.at(2), nullptr);
+    EXPECT_EQ(model.at(-1), nullptr);
+    EXPECT_EQ(model.indexOf(QUuid()), -1);
+    EXPECT_EQ(counted.count(), 0);
+    session.closeTab(0);
+    EXPECT_EQ(counted.count(), 1);
+}
+
+TEST_F(WindowSessionTest, OnePanelIsOpenAtATime)
+{
+    WindowSession session(services, {});
+    QSignalSpy told(&session, &WindowSession::panelsChanged);
+    const std::array<const char*, 4> panels{"isCartOpen", "isHistoryOpen", "isInboxOpen", "isSupportOpen"};
+    session.setSignInPresented(true);
+    session.setMiraDocked(true);
+    EXPECT_EQ(told.count(), 2);
+    for (const char* const opened : panels) {
+        told.clear();
+        session.setProperty(opened, true);
+        session.setProperty(opened, true);
+        EXPECT_EQ(told.count(), 1) << opened;
+        for (const char* const panel : panels)
+            EXPECT_EQ(session.property(panel).toBool(), panel == opened) << opened << ' ' << panel;
+    }
+    session.setCartOpen(false); // it is another that is open
+    EXPECT_TRUE(session.isSupportOpen());
+    session.setSupportOpen(false);
+    EXPECT_FALSE(session.isSupportOpen());
+    EXPECT_EQ(told.count(), 2);
+    EXPECT_TRUE(session.isSignInPresented()); // lies over the panels
+    EXPECT_TRUE(session.isMiraDocked());
+}
+
+TEST_F(WindowSessionTest, TheGalleryShowsAPictureThatIsThere)
+{
+    WindowSession session(services, {});
+    const QStringList images{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+    session.openLightbox({}, 0, QStringLiteral("Silk dress"));
+    EXPECT_EQ(session.lightbox(), std::nullopt);
+    EXPECT_FALSE(session.property("lightbox").isValid());
+    for (const auto& [asked, shown] : {std::pair(-1, 0), std::pair(0, 0), std::pair(2, 2), std::pair(3, 2)}) {
+        session.openLightbox(images, asked, QStringLiteral("Silk dress"));
+        ASSERT_TRUE(session.lightbox());
+        EXPECT_EQ(session.lightbox()->index, shown);
+        EXPECT_EQ(session.lightbox()->images, images);
+        EXPECT_EQ(session.lightbox()->title, QStringLiteral("Silk dress"));
+    }
+    EXPECT_EQ(session.property("lightbox").value<LightboxRequest>(), session.lightbox());
+    session.openLightbox(images, 0, {});
+    EXPECT_EQ(session.lightbox()->title, std::nullopt);
+    session.closeLightbox();
+    EXPECT_EQ(session.lightbox(), std::nullopt);
+}
+
+TEST_F(WindowSessionTest, WhatDoesNotChangeIsNotTold)
+{
+    WindowSession session(services, {});
+    QSignalSpy layout(&session, &WindowSession::layoutChanged);
+    QSignalSpy search(&session, &WindowSession::pendingSearchFocusChanged);
+    QSignalSpy selected(&session, &WindowSession::selectedChanged);
+    for (int i = 0; i < 2; ++i) {
+        session.setWindowWidth(1160);
+        session.setWindowFullScreen(true);
+        session.setSidebarCollapsed(true);
+        session.setPendingSearchFocus(true);
+        session.selectTab(0);
+    }
+    EXPECT_EQ(layout.count(), 3);
+    EXPECT_EQ(search.count(), 1);
+    EXPECT_EQ(selected.count(), 0);
+
+    auto window = std::make_unique<QObject>();
+    session.setWindow(window.get());
+    EXPECT_EQ(session.window(), window.get());
+    window.reset();
+    EXPECT_EQ(session.window(), nullptr);
+}
+
+} // namespace

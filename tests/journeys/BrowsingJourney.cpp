@@ -1,0 +1,165 @@
+#include "kit/Journey.h"
+
+#include <QFont>
+
+namespace loom
+{
+
+namespace
+{
+
+const QString dress = QStringLiteral("https://www.loomstreet.example/products/sabine-bias-slip-dress");
+
+class BrowsingJourney : public Journey
+{
+protected:
+    /// "3 / 8", as the gallery counts.
+    void awaitPicture(int number) const
+    {
+        window.awaitText(QStringLiteral("%1 / 8").arg(number), window.await(QStringLiteral("counter")));
+    }
+    /// The words on a sold-out size are struck through.
+    [[nodiscard]] bool isStruckOut(const QQuickItem* size) const
+    {
+        return window.await(QStringLiteral("label"), size)->property("font").value<QFont>().strikeOut();
+    }
+    /// A card of the grid of which all can be seen.
+    [[nodiscard]] QQuickItem* cardInView() const
+    {
+        const QQuickItem* const grid = window.await(QStringLiteral("grid"));
+        for (QQuickItem* const card : window.findAll(QStringLiteral("card."), grid)) {
+            const QRectF place = card->mapRectToItem(grid, QRectF(0, 0, card->width(), card->height()));
+            if (place.top() > 0 && place.bottom() < grid->height())
+                return card;
+        }
+        throw std::runtime_error("no card is in view");
+    }
+    [[nodiscard]] double scrollY() const
+    {
+        return window.await(QStringLiteral("grid"))->property("scrollY").toDouble();
+    }
+    /// Turns the wheel until the last piece of a collection has gone by.
+    void scrollToEnd() const
+    {
+        QQuickItem* const grid = window.await(QStringLiteral("grid"));
+        waitUntil(
+            [&] {
+                window.scroll(grid, 400);
+                return window.find(QStringLiteral("end")) != nullptr;
+            },
+            "the collection comes to its end");
+    }
+};
+
+TEST_F(BrowsingJourney, APieceIsLookedAtFromAllSides)
+{
+    start(dress);
+    window.awaitPage(QStringLiteral("Sabine bias slip dress"));
+
+    // The gallery, by its small pictures and by the arrow keys.
+    awaitPicture(1);
+    window.click(QStringLiteral("thumb2"));
+    awaitPicture(3);
+    window.press(QStringLiteral("Right"));
+    awaitPicture(4);
+    window.press(QStringLiteral("Left"));
+    window.press(QStringLiteral("Left"));
+    awaitPicture(2);
+
+    // Enlarged, from the keyboard and back, then with the pointer.
+    window.press(QStringLiteral("Return"));
+    QQuickItem* const lightbox = window.await(QStringLiteral("lightbox"));
+    window.awaitText(QStringLiteral("2 / 8"), lightbox);
+    window.press(QStringLiteral("Left"));
+    window.press(QStringLiteral("Left"));
+    window.awaitText(QStringLiteral("8 / 8"), lightbox);
+    window.await(QStringLiteral("picture"), lightbox);
+    window.press(QStringLiteral("Esc"));
+    window.awaitGone(QStringLiteral("lightbox"));
+    EXPECT_EQ(window.focusName(), QStringLiteral("gallery"));
+    window.click(QStringLiteral("picture1"));
+    window.click(window.await(QStringLiteral("close"), window.await(QStringLiteral("lightbox"))));
+    window.awaitGone(QStringLiteral("lightbox"));
+
+    // Another colour brings its picture; a size that is gone in it stays within reach and says so.
+    QQuickItem* const smallest = window.await(QStringLiteral("size.XXS"));
+    EXPECT_EQ(accessibleName(smallest), QStringLiteral("XXS"));
+    EXPECT_FALSE(isStruckOut(smallest));
+    window.click(QStringLiteral("swatch.Ink"));
+    window.awaitText(QStringLiteral("Ink"));
+    window.awaitNoText(QStringLiteral("2 / 8"));
+    EXPECT_EQ(accessibleName(smallest), QStringLiteral("XXS, sold out"));
+    EXPECT_TRUE(isStruckOut(smallest));
+    EXPECT_TRUE(smallest->isEnabled());
+    window.click(smallest);
+    EXPECT_TRUE(smallest->hasActiveFocus());
+    window.awaitText(QStringLiteral("Sold out"), window.await(QStringLiteral("buyColumn")));
+    window.click(QStringLiteral("size.M"));
+    window.awaitNoText(QStringLiteral("Sold out"));
+
+    // The table of sizes in both units.
+    window.awaitText(QStringLiteral("Garment measurements (cm)"));
+    window.awaitText(QStringLiteral("76 – 80"), window.await(QStringLiteral("sizeTable0")));
+    const QQuickItem* const units = window.await(QStringLiteral("units"));
+    window.click(window.await(QStringLiteral("segment1"), units));
+    window.awaitText(QStringLiteral("Garment measurements (in)"));
+    window.awaitText(QStringLiteral("30 – 31.5"), window.await(QStringLiteral("sizeTable0")));
+    window.click(window.await(QStringLiteral("segment0"), units));
+    window.awaitText(QStringLiteral("76 – 80"), window.await(QStringLiteral("sizeTable0")));
+
+    // Reviews, a few at first, and their pictures.
+    QQuickItem* const reviews = window.await(QStringLiteral("reviews"));
+    window.awaitText(QStringLiteral("4.7 of 212"), reviews);
+    EXPECT_EQ(window.findAll(QStringLiteral("review"), reviews).size(), 3);
+    window.click(window.await(QStringLiteral("more"), reviews));
+    waitUntil([&] { return window.findAll(QStringLiteral("review"), reviews).size() > 3; }, "all reviews are there");
+}
+
+TEST_F(BrowsingJourney, ACollectionIsWalkedToItsEndAndComeBackTo)
+{
+    start(dress);
+    window.awaitPage(QStringLiteral("Sabine bias slip dress"));
+
+    // A department and a collection of it, in a second tab.
+    window.press(QStringLiteral("Ctrl+T"));
+    window.await(QStringLiteral("tab1"));
+    window.click(QStringLiteral("section.women"));
+    window.awaitPage(QStringLiteral("Women"));
+    window.click(QStringLiteral("tile.dresses"));
+    window.awaitPage(QStringLiteral("Dresses"));
+    window.awaitText(QStringLiteral("92 pieces"));
+    scrollToEnd();
+    window.awaitText(QStringLiteral("You've seen all 92"));
+    const int pages = store.count(QStringLiteral("CollectionProducts"));
+
+    // A piece in a tab of its own, and back to where the grid was.
+    QQuickItem* const grid = window.await(QStringLiteral("grid"));
+    window.scroll(grid, -700);
+    const double place = scrollY();
+    QQuickItem* const card = cardInView();
+    const QString piece = window.texts(card).at(1);
+    window.click(card, Qt::ControlModifier);
+    window.await(QStringLiteral("tab2"));
+    window.awaitPage(piece);
+    window.press(QStringLiteral("Ctrl+W"));
+    window.awaitGone(QStringLiteral("tab2"));
+    EXPECT_EQ(window.await(QStringLiteral("grid")), grid);
+    EXPECT_EQ(scrollY(), place);
+
+    // The same from a piece in the same tab.
+    window.click(card);
+    window.awaitPage(piece);
+    window.click(QStringLiteral("nav.back"));
+    EXPECT_EQ(window.await(QStringLiteral("grid")), grid);
+    EXPECT_EQ(scrollY(), place);
+    EXPECT_EQ(store.count(QStringLiteral("CollectionProducts")), pages);
+
+    // The first tab is as it was left.
+    window.click(QStringLiteral("tab0"));
+    window.awaitPage(QStringLiteral("Sabine bias slip dress"));
+    EXPECT_EQ(store.count(QStringLiteral("Product")), 3);
+}
+
+} // namespace
+
+} // namespace loom

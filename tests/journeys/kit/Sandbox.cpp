@@ -1,0 +1,89 @@
+#include "kit/Sandbox.h"
+
+#include "support/Running.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QNetworkProxy>
+#include <QNetworkReply>
+
+#include <stdexcept>
+
+namespace loom
+{
+
+Sandbox::Sandbox()
+{
+    QFile file(qEnvironmentVariable("LOOMSTREET_SANDBOX"));
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("no sandbox store: run this through tests/journeys/in-sandbox");
+    const QJsonObject ready = QJsonDocument::fromJson(file.readAll()).object();
+    const auto text = [&ready](const char* key) {
+        return ready[QLatin1String(key)].toString();
+    };
+    m_config = {.shopifyDomain = text("shopifyDomain"),
+                .storefrontToken = text("storefrontToken"),
+                .supportBase = text("supportBase"),
+                .supportKey = text("supportKey"),
+                .storeWebURL = text("storeWebURL")};
+    m_authorityFile = text("caFile");
+    m_control = text("control");
+    // The control port is not part of the store that the proxy leads to.
+    m_access.setProxy(QNetworkProxy::NoProxy);
+}
+
+QString Sandbox::fail(const Fault& fault)
+{
+    QJsonObject match;
+    for (const auto& [key, value] :
+         {std::pair("operation", fault.operation), std::pair("host", fault.host), std::pair("path", fault.path)}) {
+        if (!value.isEmpty())
+            match.insert(QLatin1String(key), value);
+    }
+    QJsonObject wanted{{QStringLiteral("match"), match},
+                       {QStringLiteral("kind"), fault.kind},
+                       {QStringLiteral("status"), fault.status}};
+    if (fault.times > 0)
+        wanted.insert(QStringLiteral("times"), fault.times);
+    return ask("POST", QStringLiteral("/faults"), QJsonDocument(wanted).toJson())[u"id"].toString();
+}
+
+void Sandbox::lift(const QString& fault)
+{
+    static_cast<void>(ask("DELETE", QStringLiteral("/faults/") + fault));
+}
+
+void Sandbox::reset()
+{
+    static_cast<void>(ask("POST", QStringLiteral("/reset")));
+}
+
+QJsonArray Sandbox::requests()
+{
+    return ask("GET", QStringLiteral("/requests")).array();
+}
+
+int Sandbox::count(const QString& operation)
+{
+    const QJsonArray all = requests();
+    return static_cast<int>(
+        std::ranges::count_if(all, [&](const QJsonValue& request) { return request[u"operation"] == operation; }));
+}
+
+QJsonArray Sandbox::unexpected()
+{
+    return ask("GET", QStringLiteral("/unexpected")).array();
+}
+
+QJsonDocument Sandbox::ask(const QByteArray& method, const QString& path, const QByteArray& body)
+{
+    QNetworkRequest request(QUrl(m_control + path));
+    request.setHeader(QNetworkRequest::ContentTypeHeader, QByteArrayLiteral("application/json"));
+    const std::unique_ptr<QNetworkReply> reply(m_access.sendCustomRequest(request, method, body));
+    waitUntil([&reply] { return reply->isFinished(); }, "the sandbox store does what it is told");
+    if (reply->error() != QNetworkReply::NoError)
+        throw std::runtime_error("the control port: " + reply->errorString().toStdString());
+    return QJsonDocument::fromJson(reply->readAll());
+}
+
+} // namespace loom

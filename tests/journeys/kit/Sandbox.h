@@ -1,0 +1,55 @@
+#pragma once
+
+#include "app/AppConfig.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QNetworkAccessManager>
+
+namespace loom
+{
+
+/// A failure to ask the sandbox store for. What is left empty matches every request.
+struct Fault {
+    QString kind; ///< as the store's README names them
+    QString operation;
+    QString host;
+    QString path;
+    int status = 500;
+    int times = 0; ///< 0 until it is lifted
+};
+
+/// The sandbox store that this process was started with, by way of its control port.
+class Sandbox
+{
+public:
+    /// Reads the file that the environment variable LOOMSTREET_SANDBOX names.
+    Sandbox();
+
+    /// What the application would find in its resources.
+    [[nodiscard]] const AppConfig& config() const { return m_config; }
+    [[nodiscard]] const QString& authorityFile() const { return m_authorityFile; }
+
+    /// Begins to fail, and returns by which name to lift the failure.
+    QString fail(const Fault& fault);
+    void lift(const QString& fault);
+    /// Forgets what was asked and every failure.
+    void reset();
+
+    /// What was asked since the last reset, oldest first.
+    [[nodiscard]] QJsonArray requests();
+    /// How often an operation of the Storefront was asked for.
+    [[nodiscard]] int count(const QString& operation);
+    /// What the store has no answer for.
+    [[nodiscard]] QJsonArray unexpected();
+
+private:
+    [[nodiscard]] QJsonDocument ask(const QByteArray& method, const QString& path, const QByteArray& body = {});
+
+    AppConfig m_config;
+    QString m_authorityFile;
+    QString m_control;
+    QNetworkAccessManager m_access;
+};
+
+} // namespace loom

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "app/AppModel.h"
+#include "app/SystemAppearance.h"
+#include "base/SystemClock.h"
+#include "kit/Sandbox.h"
+#include "kit/WindowDriver.h"
+#include "support/FakeNetworkStatus.h"
+#include "support/FakeRandom.h"
+#include "ui/shell/PictureLoading.h"
+#include "ui/shell/WindowManager.h"
+
+#include <QQmlEngine>
+#include <QTemporaryDir>
+
+namespace loom
+{
+
+/// A desktop whose wishes a test sets.
+class FakeAppearance final : public SystemAppearance
+{
+public:
+    [[nodiscard]] bool isDark() const override { return false; }
+    [[nodiscard]] bool reducesMotion() const override { return m_reducesMotion; }
+    [[nodiscard]] bool isRightToLeft() const override { return m_isRightToLeft; }
+    [[nodiscard]] double textScale() const override { return 1; }
+
+    void setReducesMotion(bool reduces)
+    {
+        m_reducesMotion = reduces;
+        Q_EMIT changed();
+    }
+    void setRightToLeft(bool isRightToLeft)
+    {
+        m_isRightToLeft = isRightToLeft;
+        Q_EMIT changed();
+    }
+
+private:
+    bool m_reducesMotion = true;
+    bool m_isRightToLeft = false;
+};
+
+/// What a journey may want otherwise than usual.
+struct Circumstances {
+    Clock* clock = nullptr; ///< the system's, unless a test moves one
+    QString region = QStringLiteral("US");
+};
+
+/// The application in this process, put together as its own main() does, on a sandbox store and with files of its
+/// own. What it would hand to the browser is kept.
+class Shop
+{
+public:
+    explicit Shop(const Sandbox& sandbox, const Circumstances& circumstances = {});
+    ~Shop();
+
+    /// Opens a window, with the page of a link, and waits until it has the keyboard.
+    WindowDriver openWindow(const std::optional<QString>& link = {});
+    /// The window of the settings, once it can be seen.
+    WindowDriver settingsWindow();
+
+    [[nodiscard]] AppModel& model() { return m_model; }
+    [[nodiscard]] QQmlEngine& engine() { return m_engine; }
+    [[nodiscard]] WindowManager& windows() { return m_windows; }
+    [[nodiscard]] FakeNetworkStatus& network() { return m_network; }
+    [[nodiscard]] FakeAppearance& appearance() { return m_appearance; }
+    [[nodiscard]] const QList<QUrl>& openedInBrowser() const { return m_openedInBrowser; }
+
+private:
+    QTemporaryDir m_folder;
+    SystemClock m_systemClock;
+    FakeRandom m_random;
+    FakeNetworkStatus m_network;
+    AllFeatures m_features;
+    FakeAppearance m_appearance;
+    QList<QUrl> m_openedInBrowser;
+    PictureLoading m_pictures;
+    QQmlEngine m_engine;
+    AppModel m_model;
+    WindowManager m_windows;
+};
+
+} // namespace loom

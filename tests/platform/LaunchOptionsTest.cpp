@@ -1,0 +1,150 @@
+#include "platform/LaunchOptions.h"
+
+#include "Session.h"
+
+#include "support/NetworkFixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+
+using namespace loom;
+
+namespace
+{
+
+const char* const authorityVariable = "LOOMSTREET_CA_FILE";
+
+QStringList texts(std::initializer_list<const char*> list)
+{
+    QStringList result;
+    for (const char* const text : list)
+        result.append(QString::fromUtf8(text));
+    return result;
+}
+
+TEST(LaunchOptionsTest, OptionsAreForWhoeverStartsTheProgramAndLinksAreOnlyEverLinks)
+{
+    struct Row {
+        QStringList arguments;
+        QStringList links;
+        const char* authority;
+        const char* screenshot;
+    };
+    for (const Row& row : {
+             Row{{}, {}, "", ""},
+             Row{texts({"loomstreet://products/silk"}), texts({"loomstreet://products/silk"}), "", ""},
+             Row{texts({"/products/a", "", "/products/b c"}), texts({"/products/a", "", "/products/b c"}), "", ""},
+             Row{texts({"--ca-file", "a.pem", "--screenshot=a.png", "/products/a"}), texts({"/products/a"}), "a.pem",
+                 "a.png"},
+             Row{texts({"--ca-file", "--screenshot"}), {}, "--screenshot", ""},
+             // what a page or a message may write into a link
+             Row{texts({"loomstreet://a --ca-file=evil.pem"}), texts({"loomstreet://a --ca-file=evil.pem"}), "", ""},
+             Row{texts({"loomstreet://?--screenshot=evil.png"}), texts({"loomstreet://?--screenshot=evil.png"}), "",
+                 ""},
+             Row{texts({"--", "--ca-file=evil.pem", "--help", "-x"}), texts({"--ca-file=evil.pem", "--help", "-x"}), "",
+                 ""},
+             Row{texts({"--ca-file=a.pem", "--", "--", "--ca-file=evil.pem"}), texts({"--", "--ca-file=evil.pem"}),
+                 "a.pem", ""},
+         }) {
+        const LaunchOptions options = readLaunchOptions(QStringList(QStringLiteral("loomstreet")) + row.arguments);
+        EXPECT_EQ(options.links, row.links);
+        EXPECT_EQ(options.authorityFile, QLatin1String(row.authority)) << testing::PrintToString(row.arguments);
+        EXPECT_EQ(options.screenshotFile, QLatin1String(row.screenshot)) << testing::PrintToString(row.arguments);
+    }
+    const LaunchOptions reports =
+        readLaunchOptions(texts({"loomstreet", "--start-report", "start.json", "--event-loop-report", "turns.json"}));
+    EXPECT_EQ(reports.startReportFile, QStringLiteral("start.json"));
+    EXPECT_EQ(reports.eventLoopReportFile, QStringLiteral("turns.json"));
+}
+
+TEST(LaunchOptionsTest, TheAuthorityMayBeNamedByTheEnvironment)
+{
+    qputenv(authorityVariable, "environment.pem");
+    EXPECT_EQ(readLaunchOptions(texts({"loomstreet"})).authorityFile, QStringLiteral("environment.pem"));
+    EXPECT_EQ(readLaunchOptions(texts({"loomstreet", "--ca-file=option.pem"})).authorityFile,
+              QStringLiteral("option.pem"));
+    qunsetenv(authorityVariable);
+    EXPECT_EQ(readLaunchOptions(texts({"loomstreet"})).authorityFile, QString());
+}
+
+TEST(LaunchOptionsTest, WhatIsNoOptionEndsTheProcess)
+{
+    const Session session(Session::Bus::Absent);
+    for (const char* const unknown : {"--insecure", "--ignore-certificate-errors", "-k", "--ca-file"})
+        EXPECT_EQ(session.probe(texts({"options", unknown}))->exitCode(), 1) << unknown;
+    for (const char* const question : {"--help", "--version"}) {
+        const auto child = session.probe(texts({"options", question}));
+        EXPECT_EQ(child->exitCode(), 0);
+        EXPECT_FALSE(child->rest().startsWith(QLatin1Char('['))) << question;
+    }
+}
+
+/// Nothing but the system's authorities are trusted at first.
+class AuthorityTest : public NetworkFixture
+{
+protected:
+    AuthorityTest()
+    {
+        QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+        QList<QSslCertificate> others;
+        for (const QSslCertificate& authority : configuration.caCertificates()) {
+            if (authority.subjectInfo(QSslCertificate::CommonName).contains(QStringLiteral("LOOMSTREET tests")))
+                pem = authority.toPem();
+            else
+                others.append(authority);
+        }
+        configuration.setCaCertificates(others);
+        QSslConfiguration::setDefaultConfiguration(configuration);
+        server.allow("GET /", [](const ReceivedRequest&) { return Answer::body("here"); });
+    }
+    ~AuthorityTest() override { QSslConfiguration::setDefaultConfiguration(trusting); }
+
+    [[nodiscard]] QString put(const char* name, const QByteArray& bytes) const
+    {
+        QFile file(home.path() + QLatin1Char('/') + QLatin1String(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            ADD_FAILURE() << "cannot write " << name;
+        return file.fileName();
+    }
+    [[nodiscard]] bool isReached()
+    {
+        HttpTransport fresh(clock, network);
+        return run(fresh.send({.url = server.url(QStringLiteral("/"))}, {})).hasValue();
+    }
+
+    const QSslConfiguration trusting = QSslConfiguration::defaultConfiguration();
+    QByteArray pem;
+    QTemporaryDir home;
+};
+
+TEST_F(AuthorityTest, AnAuthorityFromAFileIsTrustedBesideTheOthers)
+{
+    ASSERT_FALSE(pem.isEmpty());
+    EXPECT_FALSE(isReached());
+    const QSslCertificate other = serverConfiguration(Credentials::OtherHost).localCertificate();
+    EXPECT_TRUE(addCertificateAuthority(put("other.pem", other.toPem())));
+    EXPECT_FALSE(isReached());
+    EXPECT_TRUE(addCertificateAuthority(put("ca.pem", "A text before it.\n" + pem)));
+    EXPECT_TRUE(QSslConfiguration::defaultConfiguration().caCertificates().contains(other));
+    EXPECT_TRUE(isReached());
+}
+
+TEST_F(AuthorityTest, AFileWithoutAnAuthorityIsRefusedAndItsNeighboursAreNotTakenForIt)
+{
+    const QSslConfiguration before = QSslConfiguration::defaultConfiguration();
+    static_cast<void>(put("missing.pem.old", pem));
+    QDir(home.path()).mkdir(QStringLiteral("folder"));
+    static_cast<void>(put("folder/ca.pem", pem));
+    for (const QString& file : {home.path() + QStringLiteral("/missing.pem"), home.path() + QStringLiteral("/folder"),
+                                home.path() + QStringLiteral("/folder/*.pem"), put("empty.pem", ""),
+                                put("garbage.pem", QByteArray(5000, '\xff')), put("cut.pem", pem.left(pem.size() / 2)),
+                                put("broken.pem", QByteArray(pem).replace("\nM", "\n!")), QString()}) {
+        EXPECT_FALSE(addCertificateAuthority(file)) << file.toStdString();
+        EXPECT_EQ(QSslConfiguration::defaultConfiguration(), before) << file.toStdString();
+    }
+    EXPECT_FALSE(isReached());
+}
+
+} // namespace

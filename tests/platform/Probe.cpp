@@ -1,0 +1,174 @@
+// Runs one object of the platform in the session that the environment describes, as the application would, and prints
+// what it does, a line for each event. Ends with its standard input.
+
+#include "platform/DesktopAppearance.h"
+#include "platform/KeychainSecureStore.h"
+#include "platform/LaunchOptions.h"
+#include "platform/SingleInstance.h"
+#include "platform/SystemLocaleReading.h"
+#include "storage/ChosenSecureStore.h"
+#include "storage/DataFolder.h"
+#include "storage/FileSecureStore.h"
+#include "storage/Preferences.h"
+
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSocketNotifier>
+#include <qcoro/qcorotask.h>
+
+#include <cstdio>
+#include <unistd.h>
+
+// What the libraries below the platform leave behind at the end of a program is not ours.
+// NOLINTBEGIN(bugprone-reserved-identifier): the name is the sanitizer's.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions()
+{
+    return "leak:libfontconfig\nleak:libdbus-1\nleak:libQt6Gui\nleak:libglib-2.0\n";
+}
+// NOLINTEND(bugprone-reserved-identifier)
+
+using namespace loom;
+
+namespace
+{
+
+void print(const QString& line)
+{
+    std::puts(qUtf8Printable(line));
+    std::fflush(stdout);
+}
+
+QString asJson(const QStringList& texts)
+{
+    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
+}
+
+/// Runs until the standard input ends; hands over each line of it.
+int runUntilTold(const std::function<void(const QStringList& words)>& obey = {})
+{
+    QByteArray input;
+    QSocketNotifier notifier(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [&] {
+        std::array<char, 4096> buffer{};
+        const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
+        if (count <= 0) {
+            QCoreApplication::quit();
+            return;
+        }
+        input.append(buffer.data(), static_cast<qsizetype>(count));
+        for (qsizetype end = input.indexOf('\n'); end >= 0; end = input.indexOf('\n')) {
+            const QString line = QString::fromUtf8(input.left(end));
+            input.remove(0, end + 1);
+            if (obey)
+                obey(line.split(QLatin1Char(' ')));
+        }
+    });
+    return QCoreApplication::exec();
+}
+
+/// instance ID [link…]
+int runInstance(const QStringList& arguments)
+{
+    SingleInstance instance(arguments.value(0));
+    QObject::connect(&instance, &SingleInstance::activated, &instance, [] { print(QStringLiteral("activated")); });
+    QObject::connect(&instance, &SingleInstance::linksOpened, &instance,
+                     [](const QStringList& links) { print(QStringLiteral("opened ") + asJson(links)); });
+    if (instance.claim(arguments.mid(1)) == SingleInstance::Role::Second) {
+        print(QStringLiteral("second"));
+        return 0;
+    }
+    print(QStringLiteral("first"));
+    return runUntilTold();
+}
+
+/// appearance
+int runAppearance()
+{
+    const DesktopAppearance appearance;
+    const auto tell = [&appearance] {
+        print(QStringLiteral("%1 %2 %3")
+                  .arg(appearance.isDark() ? QStringLiteral("dark") : QStringLiteral("light"),
+                       appearance.reducesMotion() ? QStringLiteral("still") : QStringLiteral("moving"))
+                  .arg(appearance.textScale()));
+    };
+    tell();
+    QObject::connect(&appearance, &SystemAppearance::changed, &appearance, tell);
+    return runUntilTold();
+}
+
+QCoro::Task<> obey(SecureStore& store, QStringList words)
+{
+    const QString key = words.value(1);
+    if (words.value(0) == QLatin1String("store")) {
+        const auto done = co_await store.store(key, QByteArray::fromHex(words.value(2).toLatin1()));
+        print(done ? QStringLiteral("stored") : QStringLiteral("failed"));
+    } else if (words.value(0) == QLatin1String("read")) {
+        const auto found = co_await store.read(key);
+        print(!found                ? QStringLiteral("failed")
+              : !found->has_value() ? QStringLiteral("nothing")
+                                    : QStringLiteral("found ") + QString::fromLatin1((*found)->toHex()));
+    } else {
+        const auto done = co_await store.remove(key);
+        print(done ? QStringLiteral("removed") : QStringLiteral("failed"));
+    }
+}
+
+/// secrets: obeys "store KEY HEX", "read KEY" and "remove KEY"
+int runSecrets()
+{
+    KeychainSecureStore store;
+    return runUntilTold([&store](const QStringList& words) { static_cast<void>(obey(store, words)); });
+}
+
+/// chosen FOLDER: the same, with files where the wallet does not work
+int runChosen(const QString& path)
+{
+    DataFolder folder(path);
+    Preferences preferences(folder);
+    ChosenSecureStore store(preferences, std::make_unique<KeychainSecureStore>(),
+                            std::make_unique<FileSecureStore>(path));
+    return runUntilTold([&store](const QStringList& words) { static_cast<void>(obey(store, words)); });
+}
+
+/// options [argument…]
+int runOptions(QStringList arguments)
+{
+    arguments.prepend(QStringLiteral("loomstreet"));
+    print(asJson(readLaunchOptions(arguments).links));
+    return 0;
+}
+
+int runLocale()
+{
+    const SystemLocale locale = readSystemLocale();
+    print(QStringList({locale.language, locale.script, locale.region}).join(QLatin1Char('-')));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::span<char*> given(argv, static_cast<std::size_t>(argc));
+    const QByteArrayView what(given.size() > 1 ? given[1] : "");
+    if (what == QByteArrayView("appearance")) {
+        const QGuiApplication application(argc, argv);
+        return runAppearance();
+    }
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments().mid(2);
+    if (what == QByteArrayView("instance"))
+        return runInstance(arguments);
+    if (what == QByteArrayView("secrets"))
+        return runSecrets();
+    if (what == QByteArrayView("chosen"))
+        return runChosen(arguments.value(0));
+    if (what == QByteArrayView("options"))
+        return runOptions(arguments);
+    if (what == QByteArrayView("locale"))
+        return runLocale();
+    std::fputs("unknown: see the functions above\n", stderr);
+    return 2;
+}
