@@ -164,9 +164,9 @@ Model* AppModel::takeBegun(QObject* owner, const QString& handle)
         auto* const model = qobject_cast<Model*>(begun->second.get());
         if (!model || begun->first != handle)
             continue;
-        static_cast<void>(begun->second.release());
+        QObject* const taken = begun->second.release();
         m_begun.erase(begun);
-        model->setParent(owner);
+        taken->setParent(owner);
         return model;
     }
     return nullptr;

@@ -24,7 +24,7 @@ bool isThrottled(const APIError::GraphQL& refusal)
     return refusal.messages.join(QLatin1Char('\n')).contains(QLatin1String("throttled"), Qt::CaseInsensitive);
 }
 
-StorefrontClient::StorefrontClient(const QString& domain, QString accessToken, SystemLocale locale,
+StorefrontClient::StorefrontClient(const QString& domain, const QString& accessToken, SystemLocale locale,
                                    HttpTransport& transport, Clock& clock)
     : m_endpoint(QStringLiteral("https://") + domain + QStringLiteral("/api/2025-04/graphql.json"))
     , m_accessToken(accessToken.toUtf8())

@@ -30,7 +30,7 @@ class StorefrontClient
 {
 public:
     /// `domain` is a bare host name.
-    StorefrontClient(const QString& domain, QString accessToken, SystemLocale locale, HttpTransport& transport,
+    StorefrontClient(const QString& domain, const QString& accessToken, SystemLocale locale, HttpTransport& transport,
                      Clock& clock);
 
     /// ISO 3166-1 alpha-2, in capitals. Takes effect with the next request.

@@ -53,15 +53,6 @@ CartPayload readPayload(const JsonReader& data)
     return payload;
 }
 
-QCoro::Task<ApiResult<Cart>> change(StorefrontClient& client, QString document, QJsonObject variables,
-                                    std::stop_token stop)
-{
-    LOOM_CO_TRY(payload, co_await client.send(document, variables, Retry::Never, readPayload, stop));
-    if (!payload.cart)
-        co_return apiFailure(APIError::GraphQL{payload.userErrors.mid(0, 1)});
-    co_return *std::move(payload.cart);
-}
-
 QJsonObject onCart(const QString& id, const QString& key, const QJsonValue& value)
 {
     return {{QStringLiteral("cartId"), id}, {key, value}};
@@ -91,54 +82,61 @@ QJsonObject CartAPI::buyerIdentity() const
     return {{QStringLiteral("countryCode"), m_client.country()}};
 }
 
+QCoro::Task<ApiResult<Cart>> CartAPI::change(QString document, QJsonObject variables, std::stop_token stop)
+{
+    LOOM_CO_TRY(payload, co_await m_client.send(document, variables, Retry::Never, readPayload, stop));
+    if (!payload.cart)
+        co_return apiFailure(APIError::GraphQL{payload.userErrors.mid(0, 1)});
+    co_return *std::move(payload.cart);
+}
+
 QCoro::Task<ApiResult<std::optional<Cart>>> CartAPI::cart(QString id, std::stop_token stop)
 {
     co_return co_await m_client.send(queries::getCart(), {{QStringLiteral("cartId"), id}}, Retry::Transient, readCart,
                                      stop);
 }
 
-QCoro::Task<ApiResult<Cart>> CartAPI::create(std::vector<CartLineInput> lines, std::stop_token stop)
+QCoro::Task<ApiResult<Cart>> CartAPI::create(const std::vector<CartLineInput>& lines, std::stop_token stop)
 {
     QJsonObject input{{QStringLiteral("attributes"), attribution()},
                       {QStringLiteral("buyerIdentity"), buyerIdentity()}};
     if (!lines.empty())
         input.insert(QStringLiteral("lines"), toJson(lines));
-    return change(m_client, queries::cartCreate(), {{QStringLiteral("input"), input}}, stop);
+    return change(queries::cartCreate(), {{QStringLiteral("input"), input}}, stop);
 }
 
-QCoro::Task<ApiResult<Cart>> CartAPI::addLines(QString id, std::vector<CartLineInput> lines, std::stop_token stop)
+QCoro::Task<ApiResult<Cart>> CartAPI::addLines(const QString& id, const std::vector<CartLineInput>& lines,
+                                               std::stop_token stop)
 {
-    return change(m_client, queries::cartLinesAdd(), onCart(id, QStringLiteral("lines"), toJson(lines)), stop);
+    return change(queries::cartLinesAdd(), onCart(id, QStringLiteral("lines"), toJson(lines)), stop);
 }
 
-QCoro::Task<ApiResult<Cart>> CartAPI::updateLine(QString id, QString lineID, qint64 quantity, std::stop_token stop)
+QCoro::Task<ApiResult<Cart>> CartAPI::updateLine(const QString& id, const QString& lineID, qint64 quantity,
+                                                 std::stop_token stop)
 {
     const QJsonObject line{{QStringLiteral("id"), lineID}, {QStringLiteral("quantity"), quantity}};
-    return change(m_client, queries::cartLinesUpdate(), onCart(id, QStringLiteral("lines"), QJsonArray{line}), stop);
+    return change(queries::cartLinesUpdate(), onCart(id, QStringLiteral("lines"), QJsonArray{line}), stop);
 }
 
-QCoro::Task<ApiResult<Cart>> CartAPI::removeLine(QString id, QString lineID, std::stop_token stop)
+QCoro::Task<ApiResult<Cart>> CartAPI::removeLine(const QString& id, const QString& lineID, std::stop_token stop)
 {
-    return change(m_client, queries::cartLinesRemove(), onCart(id, QStringLiteral("lineIds"), QJsonArray{lineID}),
+    return change(queries::cartLinesRemove(), onCart(id, QStringLiteral("lineIds"), QJsonArray{lineID}), stop);
+}
+
+QCoro::Task<ApiResult<Cart>> CartAPI::applyDiscount(const QString& id, const QStringList& codes, std::stop_token stop)
+{
+    return change(queries::applyDiscount(), onCart(id, QStringLiteral("codes"), QJsonArray::fromStringList(codes)),
                   stop);
 }
 
-QCoro::Task<ApiResult<Cart>> CartAPI::applyDiscount(QString id, QStringList codes, std::stop_token stop)
+QCoro::Task<ApiResult<Cart>> CartAPI::addAttribution(const QString& id, std::stop_token stop)
 {
-    return change(m_client, queries::applyDiscount(),
-                  onCart(id, QStringLiteral("codes"), QJsonArray::fromStringList(codes)), stop);
+    return change(queries::cartAppAttribution(), onCart(id, QStringLiteral("attributes"), attribution()), stop);
 }
 
-QCoro::Task<ApiResult<Cart>> CartAPI::addAttribution(QString id, std::stop_token stop)
+QCoro::Task<ApiResult<Cart>> CartAPI::updateBuyerIdentity(const QString& id, std::stop_token stop)
 {
-    return change(m_client, queries::cartAppAttribution(), onCart(id, QStringLiteral("attributes"), attribution()),
-                  stop);
-}
-
-QCoro::Task<ApiResult<Cart>> CartAPI::updateBuyerIdentity(QString id, std::stop_token stop)
-{
-    return change(m_client, queries::cartBuyerIdentity(), onCart(id, QStringLiteral("buyerIdentity"), buyerIdentity()),
-                  stop);
+    return change(queries::cartBuyerIdentity(), onCart(id, QStringLiteral("buyerIdentity"), buyerIdentity()), stop);
 }
 
 bool isCartRefused(const Failure& failure)

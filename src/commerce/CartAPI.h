@@ -27,19 +27,22 @@ public:
     /// Nothing when the cart no longer exists.
     [[nodiscard]] QCoro::Task<ApiResult<std::optional<Cart>>> cart(QString id, std::stop_token stop);
     /// With the attribution, for the client's market.
-    [[nodiscard]] QCoro::Task<ApiResult<Cart>> create(std::vector<CartLineInput> lines, std::stop_token stop);
-    [[nodiscard]] QCoro::Task<ApiResult<Cart>> addLines(QString id, std::vector<CartLineInput> lines,
+    [[nodiscard]] QCoro::Task<ApiResult<Cart>> create(const std::vector<CartLineInput>& lines, std::stop_token stop);
+    [[nodiscard]] QCoro::Task<ApiResult<Cart>> addLines(const QString& id, const std::vector<CartLineInput>& lines,
                                                         std::stop_token stop);
-    [[nodiscard]] QCoro::Task<ApiResult<Cart>> updateLine(QString id, QString lineID, qint64 quantity,
+    [[nodiscard]] QCoro::Task<ApiResult<Cart>> updateLine(const QString& id, const QString& lineID, qint64 quantity,
                                                           std::stop_token stop);
-    [[nodiscard]] QCoro::Task<ApiResult<Cart>> removeLine(QString id, QString lineID, std::stop_token stop);
+    [[nodiscard]] QCoro::Task<ApiResult<Cart>> removeLine(const QString& id, const QString& lineID,
+                                                          std::stop_token stop);
     /// An empty list clears the codes.
-    [[nodiscard]] QCoro::Task<ApiResult<Cart>> applyDiscount(QString id, QStringList codes, std::stop_token stop);
-    [[nodiscard]] QCoro::Task<ApiResult<Cart>> addAttribution(QString id, std::stop_token stop);
+    [[nodiscard]] QCoro::Task<ApiResult<Cart>> applyDiscount(const QString& id, const QStringList& codes,
+                                                             std::stop_token stop);
+    [[nodiscard]] QCoro::Task<ApiResult<Cart>> addAttribution(const QString& id, std::stop_token stop);
     /// Moves the cart to the client's market.
-    [[nodiscard]] QCoro::Task<ApiResult<Cart>> updateBuyerIdentity(QString id, std::stop_token stop);
+    [[nodiscard]] QCoro::Task<ApiResult<Cart>> updateBuyerIdentity(const QString& id, std::stop_token stop);
 
 private:
+    [[nodiscard]] QCoro::Task<ApiResult<Cart>> change(QString document, QJsonObject variables, std::stop_token stop);
     [[nodiscard]] QJsonObject buyerIdentity() const;
 
     StorefrontClient& m_client;

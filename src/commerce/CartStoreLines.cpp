@@ -18,7 +18,7 @@ constexpr std::chrono::seconds highlightDuration = 4s;
 
 QCoro::Task<ApiResult<AddOutcome>> CartStore::add(QString variantID, qint64 quantity)
 {
-    return addLines({{.merchandiseId = variantID, .quantity = quantity}}, IfRefused::Recreate);
+    return addLines({{.merchandiseId = std::move(variantID), .quantity = quantity}}, IfRefused::Recreate);
 }
 
 QCoro::Task<ApiResult<AddOutcome>> CartStore::addLines(std::vector<CartLineInput> lines, IfRefused ifRefused)

@@ -49,7 +49,7 @@ std::optional<QUrl> checkoutStart(const ApiResult<PreparedCheckout>& prepared, c
                                   const CheckoutHosts& hosts)
 {
     if (prepared) {
-        const QUrl start = handOverAddress(hosts, prepared->code);
+        QUrl start = handOverAddress(hosts, prepared->code);
         if (isHandOverToken(prepared->code) && isAllowedInCheckout(start, hosts))
             return start;
     } else if (!isUnavailable(prepared.error())) {

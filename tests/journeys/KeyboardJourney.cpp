@@ -135,6 +135,7 @@ TEST_F(KeyboardJourney, TheShopIsBrowsedWithoutAPointer)
     EXPECT_EQ(window.focusName(), QStringLiteral("gallery"));
 
     // Further on in the page, and back to the card one came from.
+    window.await(QStringLiteral("section0"));
     window.tabTo(QStringLiteral("header"));
     window.press(QStringLiteral("Alt+Left"));
     window.awaitPage(QStringLiteral("Dresses"));
