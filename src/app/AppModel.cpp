@@ -138,8 +138,8 @@ void AppModel::beginFirstPage(const WindowSession& session)
     switch (entry.kind) {
     case PageKind::Kind::Explore:
         begin(QString(), makeDepartment(nullptr, {}));
-        begin(exploreRails.at(0), makeCollection(nullptr, exploreRails.at(0), {}));
-        begin(exploreRails.at(1), makeCollection(nullptr, exploreRails.at(1), {}));
+        for (const QString& handle : exploreRails)
+            begin(handle, makeRail(nullptr, handle));
         break;
     case PageKind::Kind::Department:
         begin(entry.handle, makeDepartment(nullptr, entry.handle));
@@ -202,6 +202,13 @@ CollectionModel* AppModel::makeCollection(QObject* owner, const QString& handle,
         return begun;
     m_tracker.report(Tracker::CollectionViewed{.handle = handle});
     return new CollectionModel(handle, fallbackTitle, m_storefront, m_market, m_money, m_platform.clock, owner);
+}
+
+CollectionModel* AppModel::makeRail(QObject* owner, const QString& handle)
+{
+    if (auto* const begun = takeBegun<CollectionModel>(owner, handle))
+        return begun;
+    return new CollectionModel(handle, {}, m_storefront, m_market, m_money, m_platform.clock, owner);
 }
 
 ProductModel* AppModel::makeProduct(QObject* owner, const QString& handle, const QVariant& item)

@@ -21,6 +21,7 @@ class CollectionTilesModel final : public QAbstractListModel
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY changed)
     Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY changed)
     Q_PROPERTY(QString errorText READ errorText NOTIFY changed)
+    Q_PROPERTY(bool isOffline READ isOffline NOTIFY changed)
 
 public:
     enum Role { HandleRole = Qt::UserRole + 1, TitleRole, PictureRole };
@@ -32,6 +33,7 @@ public:
     [[nodiscard]] bool isLoading() const { return m_loading.isRunning(); }
     [[nodiscard]] bool isLoaded() const { return m_isLoaded; }
     [[nodiscard]] QString errorText() const { return m_failure ? errorDescription(*m_failure) : QString(); }
+    [[nodiscard]] bool isOffline() const { return m_failure && m_failure->as<APIError::Offline>(); }
     [[nodiscard]] const std::vector<CollectionTile>& tiles() const { return m_tiles; }
 
     /// Loads unless it is loaded or loading.

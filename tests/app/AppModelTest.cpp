@@ -42,12 +42,12 @@ TEST_F(AppModelTest, TheFirstPageIsAskedForBeforeItsWindowIsBuiltAndTakesOverWha
     const CollectionModel* rail = nullptr;
     host.whileShowing = [&](const WindowSession&) {
         EXPECT_FALSE(model->didBootstrap()); // what is not seen comes after what is
-        rail = model->makeCollection(&page, newIn, {});
+        rail = model->makeRail(&page, newIn);
         EXPECT_TRUE(rail->isLoading());
-        EXPECT_TRUE(model->makeCollection(&page, finalSale, {})->isLoading());
+        EXPECT_TRUE(model->makeRail(&page, finalSale)->isLoading());
         EXPECT_TRUE(model->makeDepartment(&page, {})->isLoading());
         // Each is there once, and for its own page.
-        EXPECT_FALSE(model->makeCollection(&page, newIn, {})->isLoading());
+        EXPECT_FALSE(model->makeRail(&page, newIn)->isLoading());
         EXPECT_FALSE(model->makeDepartment(&page, {})->isLoading());
     };
     const WindowSession& session = model->openWindow({});
@@ -149,6 +149,7 @@ TEST_F(AppModelTest, TheVisitorStaysTheSameAndIsMadeOnlyForReports)
     random.foretell(visitor);
     agreeToReports();
     static_cast<void>(model->makeProduct(&page, silk, {}));
+    static_cast<void>(model->makeRail(&page, finalSale)); // passed by, not looked at
     static_cast<void>(model->makeCollection(&page, newIn, {}));
     waitUntil([this] { return reports.size() == 2 && clock.sleepers() == 0; }, "both reports have come");
     reports.sort();

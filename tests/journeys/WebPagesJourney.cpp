@@ -1,8 +1,5 @@
 #include "kit/Journey.h"
-
-#include <QFile>
-#include <QJSEngine>
-#include <QQmlEngine>
+#include "kit/WebViewDriver.h"
 
 namespace loom
 {
@@ -14,11 +11,6 @@ namespace
 class WebPagesJourney : public Journey
 {
 protected:
-    [[nodiscard]] static bool isEngineMapped()
-    {
-        QFile maps(QStringLiteral("/proc/self/maps"));
-        return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("WebEngineCore");
-    }
     // The engine's own modules, when they are loaded.
     WebPagesJourney()
     {
@@ -26,57 +18,7 @@ protected:
         tolerate(QStringLiteral("crbug/"));
     }
 
-    /// The view that is seen and has loaded; null while there is none.
-    [[nodiscard]] QQuickItem* webView() const
-    {
-        const QList<QQuickItem*> all = window.findAll(QString());
-        const auto found = std::ranges::find_if(all, [](const QQuickItem* item) {
-            return item->inherits("QQuickWebEngineView") && !item->property("loading").toBool();
-        });
-        return found == all.end() ? nullptr : *found;
-    }
-    /// What a script answers in the page that is shown.
-    QVariant evaluate(const QString& script) const
-    {
-        QJSValue answer;
-        QPointer<QQuickItem> asked; // a view that loads something else meanwhile does not answer
-        waitUntil(
-            [&] {
-                if (answer.isObject() && answer.property(QStringLiteral("isThere")).toBool())
-                    return true;
-                QQuickItem* const view = webView();
-                if (view && view != asked) {
-                    answer = shop->engine().newObject();
-                    const QString keep =
-                        QStringLiteral("(answer => value => { answer.value = value; answer.isThere = true })");
-                    const QJSValue callback = shop->engine().evaluate(keep).call({answer});
-                    QMetaObject::invokeMethod(view, "runJavaScript", Q_ARG(QString, script), Q_ARG(QJSValue, callback));
-                }
-                asked = view;
-                return false;
-            },
-            "the page answers");
-        return answer.property(QStringLiteral("value")).toVariant();
-    }
-    void awaitTrue(const QString& script) const
-    {
-        waitUntil([&] { return evaluate(script).toBool(); }, script.toStdString());
-    }
-    /// Clicks the first link that leads there.
-    void clickLink(const QString& address) const
-    {
-        const QString link =
-            QStringLiteral("document.querySelector('main a[href=\"%1\"], a[href=\"%1\"]')").arg(address);
-        awaitTrue(QStringLiteral("%1 !== null").arg(link));
-        evaluate(QStringLiteral("%1.scrollIntoView({block: 'center'})").arg(link));
-        const QVariantMap place =
-            evaluate(QStringLiteral("(box => ({x: box.x + box.width / 2, y: box.y + box.height / 2}))(%1"
-                                    ".getClientRects()[0])")
-                         .arg(link))
-                .toMap();
-        window.clickAt(webView()->mapToScene(
-            QPointF(place.value(QStringLiteral("x")).toDouble(), place.value(QStringLiteral("y")).toDouble())));
-    }
+    [[nodiscard]] WebViewDriver page() const { return WebViewDriver(window); }
 };
 
 TEST_F(WebPagesJourney, TheEngineComesWithTheFirstOfThem)
@@ -92,13 +34,13 @@ TEST_F(WebPagesJourney, TheEngineComesWithTheFirstOfThem)
     window.click(QStringLiteral("section.starlook"));
     window.awaitPage(QStringLiteral("Starlook"));
     EXPECT_TRUE(isEngineMapped());
-    EXPECT_EQ(evaluate(QStringLiteral("document.querySelector('h1').textContent")), QStringLiteral("Starlook"));
+    EXPECT_EQ(page().evaluate(QStringLiteral("document.querySelector('h1').textContent")), QStringLiteral("Starlook"));
 
     // A piece of a look opens as a page of the application.
     const QString piece =
-        evaluate(QStringLiteral("document.querySelector('.pieces a').getAttribute('href')")).toString();
+        page().evaluate(QStringLiteral("document.querySelector('.pieces a').getAttribute('href')")).toString();
     EXPECT_TRUE(piece.contains(QStringLiteral("/products/")));
-    clickLink(piece);
+    page().clickLink(piece);
     const QQuickItem* const title = window.await(QStringLiteral("title"), window.await(QStringLiteral("buyColumn")));
     window.awaitPage(title->property("text").toString());
     EXPECT_TRUE(shop->openedInBrowser().isEmpty());
@@ -114,29 +56,29 @@ TEST_F(WebPagesJourney, LinksLeadWhereTheyBelong)
     window.awaitPage(QStringLiteral("LOOMSTREET Help Center"));
 
     // Another page of the store lies on top of the one it was linked from.
-    clickLink(QStringLiteral("/pages/agreements/returns"));
-    awaitTrue(QStringLiteral("location.pathname === '/pages/agreements/returns'"));
-    clickLink(QStringLiteral("/pages/about-us"));
-    awaitTrue(QStringLiteral("location.pathname === '/pages/about-us' && document.readyState === 'complete'"));
+    page().clickLink(QStringLiteral("/pages/agreements/returns"));
+    page().awaitTrue(QStringLiteral("location.pathname === '/pages/agreements/returns'"));
+    page().clickLink(QStringLiteral("/pages/about-us"));
+    page().awaitTrue(QStringLiteral("location.pathname === '/pages/about-us' && document.readyState === 'complete'"));
 
     // A link that leaves the store goes to the browser, and the page stays.
-    clickLink(QStringLiteral("https://press.example.org/loomstreet"));
+    page().clickLink(QStringLiteral("https://press.example.org/loomstreet"));
     waitUntil([this] { return !shop->openedInBrowser().isEmpty(); }, "the browser is asked");
     EXPECT_EQ(shop->openedInBrowser(), QList<QUrl>{QUrl(QStringLiteral("https://press.example.org/loomstreet"))});
-    EXPECT_EQ(evaluate(QStringLiteral("location.pathname")), QStringLiteral("/pages/about-us"));
+    EXPECT_EQ(page().evaluate(QStringLiteral("location.pathname")), QStringLiteral("/pages/about-us"));
 
     // Nothing comes from elsewhere: not the picture in the page, nor what a script asks for. That the sandbox was
     // asked for none of it is looked at when the journey is over.
-    EXPECT_EQ(evaluate(QStringLiteral("document.querySelector('img[alt^=Seal]').naturalWidth")).toInt(), 0);
-    evaluate(QStringLiteral("fetch('https://images.example.net/pixel').then(() => document.title = 'fetched',"
-                            " () => document.title = 'refused')"));
-    awaitTrue(QStringLiteral("document.title === 'refused'"));
-    evaluate(QStringLiteral("void window.open('https://press.example.org/advertisement')"));
+    EXPECT_EQ(page().evaluate(QStringLiteral("document.querySelector('img[alt^=Seal]').naturalWidth")).toInt(), 0);
+    page().evaluate(QStringLiteral("fetch('https://images.example.net/pixel').then(() => document.title = 'fetched',"
+                                   " () => document.title = 'refused')"));
+    page().awaitTrue(QStringLiteral("document.title === 'refused'"));
+    page().evaluate(QStringLiteral("void window.open('https://press.example.org/advertisement')"));
     EXPECT_EQ(shop->openedInBrowser().size(), 1);
 
     // Back, one page at a time.
     window.press(QStringLiteral("Alt+Left"));
-    awaitTrue(QStringLiteral("location.pathname === '/pages/agreements/returns'"));
+    page().awaitTrue(QStringLiteral("location.pathname === '/pages/agreements/returns'"));
     window.press(QStringLiteral("Alt+Left"));
     window.awaitPage(QStringLiteral("LOOMSTREET Help Center"));
 }
@@ -153,7 +95,7 @@ TEST_F(WebPagesJourney, APageThatCannotComeSaysSo)
     window.click(QStringLiteral("retry"));
     window.awaitPage(QStringLiteral("Tools"));
     window.awaitGone(QStringLiteral("error"));
-    awaitTrue(QStringLiteral("document.querySelector('h1') !== null"));
+    page().awaitTrue(QStringLiteral("document.querySelector('h1') !== null"));
 }
 
 } // namespace

@@ -51,6 +51,7 @@ FocusScope {
             id: input
 
             objectName: "input"
+            anchors.left: parent.left
             width: parent.width - field.trailingRoom
             endPadding: Theme.space1_5 + (check.visible ? check.width + Theme.space1 : 0)
             focus: true

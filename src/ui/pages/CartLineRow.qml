@@ -44,6 +44,7 @@ FocusScope {
             id: thumb
 
             objectName: "piece"
+            anchors.left: parent.left
             width: 72
             height: 96
             locked: row.busy

@@ -28,7 +28,7 @@ PageBase {
         id: strip
 
         objectName: "strip"
-        offline: page.app.session.isOffline
+        offline: page.collections?.isOffline ?? false
         canRetry: true
         onRetry: page.reload()
         width: parent.width

@@ -38,8 +38,8 @@ PageBase {
         if (!shown)
             return
         if (newIn === null) {
-            newIn = app.makeCollection(page, "new-in", "")
-            finalSale = app.makeCollection(page, "final-sale", "")
+            newIn = app.makeRail(page, "new-in")
+            finalSale = app.makeRail(page, "final-sale")
         }
         newIn.load()
         finalSale.load()
@@ -59,7 +59,7 @@ PageBase {
         id: strip
 
         objectName: "strip"
-        offline: page.app.session.isOffline
+        offline: [page.collections, page.newIn, page.finalSale].some(model => model?.isOffline ?? false)
         canRetry: true
         onRetry: page.reload()
         width: parent.width

@@ -37,11 +37,11 @@ FocusScope {
         thumbs.model = pictures
         main.model = pictures
         const again = pictures.indexOf(shownPicture)
-        if (again > 0) {
+        if (again > 0)
             main.currentIndex = again
-            main.positionViewAtIndex(again, ListView.Beginning)
-        }
+        placing.start()
     }
+    onPictureWidthChanged: placing.start()
 
     objectName: "gallery"
     implicitHeight: Math.round(pictureWidth / Theme.cardPictureRatio)
@@ -97,6 +97,16 @@ FocusScope {
         }
     }
 
+    // Where the view comes to lie while pictures come or change their size is settled once they have it.
+    Timer {
+        id: placing
+
+        interval: 0
+        onTriggered: {
+            main.forceLayout()
+            main.positionViewAtIndex(main.currentIndex, ListView.Beginning)
+        }
+    }
     ListView {
         id: main
 

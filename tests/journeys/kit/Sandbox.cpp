@@ -58,6 +58,36 @@ void Sandbox::reset()
     static_cast<void>(ask("POST", QStringLiteral("/reset")));
 }
 
+void Sandbox::setCheckout(const QJsonObject& settings)
+{
+    tell(QStringLiteral("/checkout"), settings);
+}
+
+void Sandbox::expireCarts()
+{
+    tell(QStringLiteral("/carts/expire"), {});
+}
+
+void Sandbox::completeCarts()
+{
+    tell(QStringLiteral("/carts/complete"), {});
+}
+
+void Sandbox::setStock(const QString& variantID, int stock)
+{
+    tell(QStringLiteral("/stock"), {{QStringLiteral("variant"), variantID}, {QStringLiteral("stock"), stock}});
+}
+
+QJsonArray Sandbox::orders()
+{
+    return ask("GET", QStringLiteral("/orders")).array();
+}
+
+QJsonArray Sandbox::carts()
+{
+    return ask("GET", QStringLiteral("/carts")).array();
+}
+
 QJsonArray Sandbox::requests()
 {
     return ask("GET", QStringLiteral("/requests")).array();
@@ -73,6 +103,11 @@ int Sandbox::count(const QString& operation)
 QJsonArray Sandbox::unexpected()
 {
     return ask("GET", QStringLiteral("/unexpected")).array();
+}
+
+void Sandbox::tell(const QString& path, const QJsonObject& body)
+{
+    static_cast<void>(ask("POST", path, QJsonDocument(body).toJson()));
 }
 
 QJsonDocument Sandbox::ask(const QByteArray& method, const QString& path, const QByteArray& body)

@@ -33,8 +33,18 @@ public:
     /// Begins to fail, and returns by which name to lift the failure.
     QString fail(const Fault& fault);
     void lift(const QString& fault);
-    /// Forgets what was asked and every failure.
+    /// Forgets what was asked, every failure, carts, orders and how checkout was to behave.
     void reset();
+
+    /// Has checkout behave in another way, by the settings that the store's README names.
+    void setCheckout(const QJsonObject& settings);
+    /// Every cart is given up, as after a long time.
+    void expireCarts();
+    /// Every cart is paid for, somewhere else.
+    void completeCarts();
+    void setStock(const QString& variantID, int stock);
+    [[nodiscard]] QJsonArray orders();
+    [[nodiscard]] QJsonArray carts();
 
     /// What was asked since the last reset, oldest first.
     [[nodiscard]] QJsonArray requests();
@@ -45,6 +55,7 @@ public:
 
 private:
     [[nodiscard]] QJsonDocument ask(const QByteArray& method, const QString& path, const QByteArray& body = {});
+    void tell(const QString& path, const QJsonObject& body);
 
     AppConfig m_config;
     QString m_authorityFile;

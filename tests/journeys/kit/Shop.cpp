@@ -1,5 +1,6 @@
 #include "kit/Shop.h"
 
+#include "storage/Preferences.h"
 #include "support/Running.h"
 #include "ui/shell/ApplicationSetup.h"
 
@@ -15,6 +16,26 @@ namespace
 void awaitWindow(const QWindow& window)
 {
     waitUntil([&window] { return window.isExposed() && window.isActive(); }, "the window has the keyboard");
+}
+
+const QString checkoutName = QStringLiteral("checkoutWindow");
+
+QList<QQuickWindow*> windowsOfName(const QString& name)
+{
+    QList<QQuickWindow*> found;
+    for (QWindow* const window : QGuiApplication::topLevelWindows()) {
+        if (window->objectName() == name && window->isVisible())
+            found.append(qobject_cast<QQuickWindow*>(window));
+    }
+    return found;
+}
+
+WindowDriver awaitWindow(const QString& name, const std::string& what)
+{
+    waitUntil([&name] { return !windowsOfName(name).isEmpty(); }, what);
+    QQuickWindow* const window = windowsOfName(name).last();
+    awaitWindow(*window);
+    return WindowDriver(window);
 }
 
 } // namespace
@@ -59,16 +80,33 @@ WindowDriver Shop::openWindow(const std::optional<QString>& link)
 
 WindowDriver Shop::settingsWindow()
 {
-    const auto find = []() -> QQuickWindow* {
-        for (QWindow* const window : QGuiApplication::topLevelWindows()) {
-            if (window->objectName() == QLatin1String("settings") && window->isVisible())
-                return qobject_cast<QQuickWindow*>(window);
-        }
-        return nullptr;
-    };
-    waitUntil([&find] { return find() != nullptr; }, "the settings are open");
-    awaitWindow(*find());
-    return WindowDriver(find());
+    return awaitWindow(QStringLiteral("settings"), "the settings are open");
+}
+
+WindowDriver Shop::checkoutWindow()
+{
+    return awaitWindow(checkoutName, "the checkout is open");
+}
+
+QList<QQuickWindow*> Shop::checkoutWindows()
+{
+    return windowsOfName(checkoutName);
+}
+
+void Shop::leaveCart(std::vector<CartLineInput> lines)
+{
+    const auto made = run(m_model.cartStore().createCart(std::move(lines)));
+    if (!made)
+        throw std::runtime_error("no cart was made");
+    m_model.preferences().set(preferences::cartID, made->id);
+}
+
+std::vector<ProductVariant> Shop::variants(const QString& handle)
+{
+    const auto found = run(m_model.storefront().product(handle, {}));
+    if (!found || !*found)
+        throw std::runtime_error("no piece " + handle.toStdString());
+    return (*found)->variants;
 }
 
 } // namespace loom

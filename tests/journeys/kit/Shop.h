@@ -3,6 +3,8 @@
 #include "app/AppModel.h"
 #include "app/SystemAppearance.h"
 #include "base/SystemClock.h"
+#include "catalog/Product.h"
+#include "commerce/CartAPI.h"
 #include "kit/Sandbox.h"
 #include "kit/WindowDriver.h"
 #include "support/FakeNetworkStatus.h"
@@ -59,6 +61,14 @@ public:
     WindowDriver openWindow(const std::optional<QString>& link = {});
     /// The window of the settings, once it can be seen.
     WindowDriver settingsWindow();
+    /// The window of the checkout, once it can be seen.
+    WindowDriver checkoutWindow();
+    /// Those that can be seen.
+    [[nodiscard]] static QList<QQuickWindow*> checkoutWindows();
+    /// A cart of these pieces is there from an earlier run, and comes with the next look at it.
+    void leaveCart(std::vector<CartLineInput> lines);
+    /// The variants of a piece.
+    [[nodiscard]] std::vector<ProductVariant> variants(const QString& handle);
 
     [[nodiscard]] AppModel& model() { return m_model; }
     [[nodiscard]] QQmlEngine& engine() { return m_engine; }
