@@ -52,17 +52,3 @@ test('a payment the bank declines goes back to the form and may be tried again',
   assert.match(new URL(again.url).pathname, /\/confirm$/);
   assert.notEqual(again.text.match(/session=(\w+)/)[1], address.match(/session=(\w+)/)[1]);
 });
-
-test('a bank asked about nothing confirms nothing, and faults reach it', async () => {
-  const bank = 'https://bank.loomstreet.example';
-  for (const path of ['/confirm', '/confirm?session=undefined']) assert.equal((await shopper.send(bank + path, { outcome: 'approved' })).status, 404);
-  const { address } = await confirmPage('popup');
-  await client.control('POST', '/faults', { match: { host: 'bank.loomstreet.example', operation: 'BankAnswer' }, kind: 'status', status: 503 });
-  assert.equal((await shopper.open(address)).status, 200);
-  assert.equal((await shopper.send(address, { outcome: 'approved' })).status, 503);
-});
-
-test('browsers find an icon on the hosts of checkout', async () => {
-  for (const host of ['shop', 'bank']) assert.equal((await client.request(`https://${host}.loomstreet.example/favicon.ico`)).status, 200);
-  assert.deepEqual((await client.control('GET', '/unexpected')).value, []);
-});

@@ -127,27 +127,6 @@ test('a cart moves to another market with its buyer', async () => {
   assert.deepEqual((await client.control('GET', '/unexpected')).value, []);
 });
 
-test('lists, quantities and carts have their limits', async () => {
-  const { id } = await newCart([{ merchandiseId: sabine, quantity: 1 }]);
-  const lines = (count) => Array.from({ length: count }, () => ({ merchandiseId: sabine, quantity: 1 }));
-  for (const [operation, variables] of [
-    ['CartLinesAdd', { cartId: id, lines: lines(251) }], ['CartCreate', { input: { lines: lines(251) } }],
-    ['ApplyDiscount', { cartId: id, codes: Array(251).fill('x') }], ['CartLinesRemove', { cartId: id, lineIds: Array(251).fill('x') }],
-  ]) {
-    const { errors } = await client.query(operations[operation], variables);
-    assert.equal(errors[0].extensions.code, 'MAX_INPUT_SIZE_EXCEEDED', operation);
-  }
-  const { cart: untouched, userErrors } = await run('CartLinesAdd', { cartId: id, lines: [{ merchandiseId: sabine, quantity: 1000001 }] });
-  assert.deepEqual([untouched, userErrors[0].message], [null, 'Quantity must be less than or equal to 1000000']);
-
-  const variants = catalog.pieces.flatMap((piece) => piece.variants);
-  const fill = async (from, count) => run('CartLinesAdd', { cartId: id, lines: variants.slice(from, from + count).map((variant) => ({ merchandiseId: variant.id, quantity: 1 })) });
-  await fill(0, 250);
-  const { cart: shown } = await fill(250, 249);
-  assert.equal(shown.lines.nodes.length, 100, 'the fragment asks for a hundred');
-  assert.equal((await fill(499, 50)).userErrors[0].message, 'The cart cannot hold more than 500 lines');
-});
-
 test('an identifier that is none fails the whole call, an unknown one is absent', async () => {
   const known = (await newCart()).id;
   assert.equal(await run('GetCart', { cartId: 'gid://shopify/Cart/unknown?key=x' }), null);
@@ -158,16 +137,4 @@ test('an identifier that is none fails the whole call, an unknown one is absent'
     const { errors } = await client.query(operations[operation], variables);
     assert.match(errors[0].message, /^Invalid global id/);
   }
-});
-
-test('a cart made without a buyer costs what it costs where it is asked for', async () => {
-  const { cart } = await run('CartCreate', { input: { lines: [{ merchandiseId: sabine, quantity: 1 }] }, country: 'JP' });
-  assert.deepEqual(cart.cost.totalAmount, { amount: '37100.0', currencyCode: 'JPY' });
-  assert.equal((await run('GetCart', { cartId: cart.id, country: 'US' })).cost.totalAmount.currencyCode, 'USD');
-});
-
-test('a reset forgets every cart', async () => {
-  const { id } = await newCart();
-  await client.control('POST', '/reset');
-  assert.equal(await run('GetCart', { cartId: id }), null);
 });

@@ -43,15 +43,6 @@ test('a cart leads to its form, one press leads to an order, and the cart is ove
   assert.deepEqual((await client.control('GET', '/unexpected')).value, []);
 });
 
-test('paying twice, or going back to the form, makes no second order', async () => {
-  const { checkoutUrl } = await shopper.cart(sabine);
-  const { url } = await shopper.open(checkoutUrl);
-  const numbers = (await Promise.all([shopper.pay(url), shopper.pay(url), shopper.pay(url)])).map(orderNumber);
-  assert.deepEqual(numbers, ['LST10484', 'LST10484', 'LST10484']);
-  for (const address of [url, checkoutUrl]) assert.equal(orderNumber(await shopper.open(address)), 'LST10484');
-  assert.equal((await client.control('GET', '/orders')).value.length, 1);
-});
-
 test('the form says which details are wrong, keeps the others and escapes them', async () => {
   const { checkoutUrl } = await shopper.cart(sabine);
   const { url } = await shopper.open(checkoutUrl);
@@ -68,31 +59,6 @@ test('the form says which details are wrong, keeps the others and escapes them',
     assert.doesNotMatch(page.text, /<script/);
   }
   assert.deepEqual((await client.control('GET', '/orders')).value, []);
-});
-
-test('every field has its label, and an empty form is possible', async () => {
-  await shopper.settings({ prefilled: false });
-  const { checkoutUrl } = await shopper.cart(sabine, { country: 'FR' });
-  const { text } = await shopper.open(checkoutUrl);
-  const ids = [...text.matchAll(/<(?:input|select) id="(\w+)"/g)].map(([, id]) => id);
-  assert.equal(ids.length, 9);
-  for (const id of ids) assert.ok(text.includes(`<label for="${id}">`), id);
-  assert.doesNotMatch(text, /value="ines@/);
-  assert.match(text, /<option value="FR" selected>/);
-});
-
-test('the form shows discounts, shipping and totals in the currency of the cart', async () => {
-  const japan = await shopper.cart(sabine, { country: 'JP' });
-  await shopper.run('ApplyDiscount', { cartId: japan.id, codes: ['welcome10'] });
-  const yen = textOf(await shopper.open(japan.checkoutUrl));
-  for (const part of ['WELCOME10', '−¥3,710', '¥37,100', '¥33,390', 'Free']) assert.ok(yen.includes(part), part);
-
-  const cheap = catalog.pieces.flatMap(({ variants }) => variants).find(({ price, stock }) => price > 0 && price < 90 && stock !== 0);
-  const small = await shopper.cart(cheap.id);
-  await shopper.run('ApplyDiscount', { cartId: small.id, codes: ['SPRING20'] });
-  const text = textOf(await shopper.open(small.checkoutUrl));
-  assert.ok(text.includes('$12.00') && text.includes(`$${(cheap.price + 12).toFixed(2)}`), 'shipping costs below 99 dollars');
-  assert.match(text, /“SPRING20” doesn’t apply/);
 });
 
 test('a cart without anything to sell cannot be paid for, one that costs nothing can', async () => {
@@ -140,17 +106,6 @@ test('the address of checkout comes in both forms, and in any other one a test w
   }
   await client.control('DELETE', '/checkout');
   assert.match((await shopper.run('GetCart', { cartId: cart.id })).checkoutUrl, /\/cart\/c\//);
-});
-
-test('a checkout opens with the key only, and addresses it does not have are a surprise', async () => {
-  const { checkoutUrl } = await shopper.cart(sabine);
-  const { url } = await shopper.open(checkoutUrl);
-  for (const address of [url.replace(/\?.*/, ''), `${url}0`, checkoutUrl.replace(/key=.*/, 'key=')]) {
-    assert.equal((await shopper.open(address)).status, 404);
-  }
-  assert.deepEqual((await client.control('GET', '/unexpected')).value, []);
-  assert.equal((await shopper.open(`${shop}/checkouts/cn/x/toString`)).status, 404);
-  assert.equal((await client.control('GET', '/unexpected')).value.length, 1);
 });
 
 test('the thanks come with a number of either kind, without one, and in other languages', async () => {
@@ -211,43 +166,4 @@ test('the form can fail, lead away, or never end', async () => {
   assert.equal(status, 200);
   assert.doesNotMatch(text, /<\/html>/);
   assert.match((await client.request(url)).text, /<\/html>/);
-});
-
-test('every trick becomes a script that can be read, and the form stays what it was', async () => {
-  const { checkoutUrl } = await shopper.cart(sabine);
-  await shopper.settings({ tricks: ['leave', 'windows', 'addresses', 'download', 'questions'], target: 'https://evil.example/?</script><b>' });
-  const { text, url } = await shopper.open(checkoutUrl);
-  const scripts = [...text.matchAll(/<script>([\s\S]*?)<\/script>/g)];
-  assert.equal(scripts.length, 1);
-  assert.doesNotThrow(() => new Function(scripts[0][1]));
-  assert.match(text, /id="pay-now"/);
-  const receipt = await client.request(`${shop}/checkouts/assets/receipt.bin`);
-  assert.match(receipt.headers['content-disposition'], /^attachment/);
-  assert.equal(orderNumber(await shopper.pay(url)), 'LST10484');
-});
-
-test('settings that make no sense are refused with a reason and change nothing', async () => {
-  for (const wanted of [{ pages: 'form' }, { page: 'toString' }, { tricks: ['leave', 'fly'] }, { status: 200 }, { target: 'nowhere' }, { url: 7 }, { bank: 'popup', prefilled: 'yes' }, null, []]) {
-    const { status, value } = await shopper.settings(wanted);
-    assert.deepEqual([status, typeof value.message], [400, 'string'], JSON.stringify(wanted));
-  }
-  assert.equal((await client.control('GET', '/checkout')).value.bank, 'none');
-});
-
-test('faults strike every step of checkout by its operation or path', async () => {
-  const { checkoutUrl } = await shopper.cart(sabine);
-  const { url } = await shopper.open(checkoutUrl);
-  for (const [match, act] of [
-    [{ operation: 'CheckoutEntry' }, () => shopper.open(checkoutUrl)],
-    [{ operation: 'CheckoutForm' }, () => shopper.open(url)],
-    [{ path: '/checkouts/*' }, () => shopper.open(url)],
-    [{ operation: 'CheckoutPay' }, () => shopper.pay(url)],
-  ]) {
-    const { value: { id } } = await client.control('POST', '/faults', { match, kind: 'throttled' });
-    assert.equal((await act()).status, 429, 'pages are throttled by status, not as calls are');
-    await client.control('DELETE', `/faults/${id}`);
-  }
-  await client.control('POST', '/faults', { match: { operation: 'CheckoutThankYou' }, kind: 'drop', times: 1 });
-  await assert.rejects(shopper.pay(url));
-  assert.equal(orderNumber(await shopper.open(url)), 'LST10484', 'the order was placed though its page was lost');
 });

@@ -57,13 +57,6 @@ test('choices within a filter add up, choices across filters narrow, and both ho
   assert.equal(large.count, (await dresses({ filters: [size('L'), { available: true }] })).nodes.length, 'counts of a filter leave its own choice out');
 });
 
-test('price bounds are in the currency of the market and may be open on one side', async () => {
-  const [all, { nodes }] = [await dresses({ country: 'JP' }), await dresses({ country: 'JP', filters: [{ price: { min: 30000, max: 40000 } }] })];
-  assert.ok(nodes.length > 0 && nodes.length < all.nodes.length);
-  assert.ok(nodes.every(({ handle }) => catalog.piece(handle).variants.some(({ price }) => price > 190 && price < 280)));
-  assert.equal((await dresses({ country: 'JP', filters: [{ price: { min: 1 } }] })).nodes.length, all.nodes.length);
-});
-
 test('a collection that the country does not see is null, an empty one is empty', async () => {
   const inJapan = await client.data(operations.CollectionProducts, { handle: 'alpine-archive', first: 5, country: 'JP' });
   assert.equal(inJapan.collection, null);
@@ -86,35 +79,4 @@ test('counting walks a filtered collection in pages', async () => {
     after = products.pageInfo.hasNextPage ? products.pageInfo.endCursor : null;
   } while (after);
   assert.deepEqual(paged.map(({ id }) => id), collection.products.nodes.map(({ id }) => id));
-});
-
-async function search(query, variables = {}) {
-  return (await client.data(operations.Search, { query, first: 250, country: 'US', ...variables })).search;
-}
-
-test('search finds every word, in any form, counts all and puts what is sold out last', async () => {
-  const found = await search('SLIP dresses');
-  assert.equal(found.totalCount, found.nodes.length);
-  assert.ok(found.nodes.length > 3);
-  assert.ok(found.nodes.every(({ handle }) => catalog.piece(handle).drawing === 'slip'));
-  const available = (await search('dress', { sortKey: 'PRICE', reverse: true })).nodes.map(({ availableForSale }) => availableForSale);
-  assert.ok(available.includes(false));
-  assert.deepEqual(available, [...available].sort((one, other) => other - one));
-  const reversed = await search('dress', { sortKey: 'PRICE', reverse: true, filters: [{ available: true }] });
-  assert.deepEqual(amounts(reversed.nodes), amounts(reversed.nodes).sort((one, other) => other - one));
-  assert.ok(reversed.productFilters.find(({ label }) => label === 'Colour').values.length > 3);
-  for (const [query, handle] of [['crepe marlow', 'marlow-wrap-dress'], ['فستان', 'silk-dress-in-arabic'], ['tallis & rook thea', 'thea-evening-slip']]) {
-    assert.equal((await search(query)).nodes[0]?.handle, handle, query);
-  }
-  for (const query of ['', '   ', '""', 'xylophone']) assert.equal((await search(query)).totalCount, 0, query);
-});
-
-test('suggestions share six places between words, collections and pieces', async () => {
-  const { predictiveSearch } = await client.data(operations.Suggest, { q: 'silk dr' });
-  const { queries, products, collections } = predictiveSearch;
-  assert.equal(queries.length + products.length + collections.length, 6);
-  assert.ok(queries.some(({ text }) => text === 'silk dress'));
-  assert.deepEqual(collections.map(({ handle }) => handle).sort(), ['dresses', 'silk']);
-  const nothing = (await client.data(operations.Suggest, { q: 'xylophone' })).predictiveSearch;
-  assert.deepEqual([nothing.queries, nothing.products, nothing.collections], [[], [], []]);
 });

@@ -21,28 +21,6 @@ test('a country outside the markets is served as the primary one, silently', asy
   assert.ok(products.nodes.every(({ priceRange }) => priceRange.minVariantPrice.currencyCode === 'USD'));
 });
 
-test('a country may come as a variable, as its default or as a literal; none at all is the primary one', async () => {
-  const asked = async (declaration, directive, variables) => {
-    const text = `query Own${declaration} ${directive} { localization { country { isoCode } } }`;
-    return (await client.data(text, variables)).localization.country.isoCode;
-  };
-  assert.equal(await asked('($c: CountryCode = JP)', '@inContext(country: $c)', {}), 'JP');
-  assert.equal(await asked('($c: CountryCode = JP)', '@inContext(country: $c)', { c: 'KR' }), 'KR');
-  assert.equal(await asked('', '@inContext(country: FR)', {}), 'FR');
-  assert.equal(await asked('($c: CountryCode)', '@inContext(country: $c)', { c: null }), 'US');
-  assert.equal(await asked('', '', {}), 'US');
-});
-
-test('the sum of ten prices tells the rate of a currency', async () => {
-  const sum = async (country) => {
-    const { products } = await client.data(operations.RateSample, { country });
-    assert.equal(products.nodes.length, 10);
-    return products.nodes.reduce((total, { priceRange }) => total + Number(priceRange.minVariantPrice.amount), 0);
-  };
-  const rate = (await sum('KR')) / (await sum('US'));
-  assert.ok(Math.abs(rate - 1375) < 5, String(rate));
-});
-
 test('countries have names in the language asked for and the currency they pay in', async () => {
   const named = async (language) => {
     const { localization } = await client.data(operations.Countries, { language });
@@ -55,11 +33,4 @@ test('countries have names in the language asked for and the currency they pay i
   assert.equal((await named('DE')).get('DE').name, 'Deutschland');
   assert.equal((await named('ZH_TW')).get('JP').name, '日本');
   assert.equal((await named('PT_BR')).get('NL').name, 'Países Baixos');
-});
-
-test('titles and filter labels follow the language where the store has them', async () => {
-  const { collection } = await client.data(operations.CollectionProducts, { handle: 'knitwear', first: 1, language: 'DE', country: 'DE' });
-  assert.equal(collection.title, 'Strick');
-  assert.equal(collection.products.filters[2].label, 'Größe');
-  assert.equal(collection.products.nodes[0].priceRange.minVariantPrice.currencyCode, 'EUR');
 });

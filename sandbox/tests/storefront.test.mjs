@@ -86,14 +86,6 @@ test('batches answer by alias, with null for what does not exist', async () => {
   assert.equal(probe.c2, null);
 });
 
-test('a variant without a picture shows that of its product', async () => {
-  const { product } = await client.data(operations.SkuImage, { handle: 'gift-wrapping' });
-  assert.deepEqual(product.variants.nodes, [{ title: 'Default Title', image: product.featuredImage }]);
-  const without = await client.data(operations.SkuImage, { handle: 'shirt-nobody-photographed' });
-  assert.equal(without.product.featuredImage, null);
-  assert.equal(without.product.variants.nodes[0].image, null);
-});
-
 test('a page size above 250, no page size and a made-up cursor are errors', async () => {
   for (const [selection, message] of [
     ['products(first: 251) { nodes { id } }', /250/],

@@ -63,6 +63,7 @@ void CartModel::update()
         m_refusedCode.reset();
     }
     showRows(std::move(rows));
+    offerWhenGone();
     Q_EMIT changed();
 }
 
@@ -201,23 +202,55 @@ int CartModel::lostCount() const
     return static_cast<int>(pieces);
 }
 
+int CartModel::addedRow() const
+{
+    const auto added = std::ranges::find(m_rows, true, &Row::isAdded);
+    return added == m_rows.end() ? -1 : static_cast<int>(added - m_rows.begin());
+}
+
+void CartModel::refresh()
+{
+    m_failure.reset();
+    m_store.refresh();
+}
+
+void CartModel::setQuantity(const QString& lineID, int quantity)
+{
+    m_failure.reset();
+    m_store.setQuantity(lineID, quantity);
+}
+
+void CartModel::removeCode()
+{
+    m_failure.reset();
+    m_store.removeCode();
+}
+
 void CartModel::remove(const QString& lineID)
 {
     const CartLine* const line = m_store.cart() ? m_store.cart()->line(lineID) : nullptr;
     if (!line)
         return;
-    if (const qint64 quantity = m_store.shownQuantity(*line); quantity > 0)
-        static_cast<void>(offerUndo({.line = {.merchandiseId = line->variantID, .quantity = quantity},
-                                     .lineID = lineID,
-                                     .title = line->productTitle}));
+    m_failure.reset();
+    if (const qint64 quantity = m_store.shownQuantity(*line); quantity > 0) {
+        m_offering.stop();
+        m_removed = Removed{.line = {.merchandiseId = line->variantID, .quantity = quantity},
+                            .lineID = lineID,
+                            .title = line->productTitle};
+    }
     m_store.remove(lineID);
 }
 
-QCoro::Task<> CartModel::offerUndo(Removed removed)
+void CartModel::offerWhenGone()
+{
+    if (m_removed && !m_removed->isOffered && !removedTitle().isEmpty())
+        static_cast<void>(offerUndo());
+}
+
+QCoro::Task<> CartModel::offerUndo()
 {
     const Work::Run run = m_offering.begin();
-    m_removed = std::move(removed);
-    m_failure.reset();
+    m_removed->isOffered = true;
     co_await m_clock.sleep(undoDuration, run.stop());
     if (run.isStopped())
         co_return;
@@ -229,19 +262,25 @@ void CartModel::undoRemoval()
 {
     if (removedTitle().isEmpty())
         return;
-    const CartLineInput line = std::exchange(m_removed, std::nullopt)->line;
+    Removed removed = *std::exchange(m_removed, std::nullopt);
     m_offering.stop();
-    static_cast<void>(putBack(line));
+    static_cast<void>(putBack(std::move(removed)));
     Q_EMIT changed();
 }
 
-QCoro::Task<> CartModel::putBack(CartLineInput line)
+QCoro::Task<> CartModel::putBack(Removed removed)
 {
     const Work::Run run = m_puttingBack.begin();
     m_failure.reset();
-    const auto result = co_await m_store.add(line.merchandiseId, line.quantity);
-    if (!run.isStopped() && !result && !result.error().isCancelled())
-        m_failure = result.error().error();
+    const auto result = co_await m_store.add(removed.line.merchandiseId, removed.line.quantity);
+    if (run.isStopped() || result || result.error().isCancelled())
+        co_return;
+    m_failure = result.error().error();
+    if (m_removed)
+        co_return;
+    removed.isOffered = false;
+    m_removed = std::move(removed);
+    offerWhenGone();
 }
 
 void CartModel::restoreLostLines()
@@ -267,6 +306,7 @@ void CartModel::applyCode(const QString& text)
 QCoro::Task<> CartModel::apply(QString text)
 {
     const Work::Run run = m_applying.begin();
+    m_failure.reset();
     forgetCodeMessage();
     const auto outcome = co_await m_store.applyCode(text);
     if (run.isStopped())

@@ -32,6 +32,7 @@ class CartModel final : public QAbstractListModel
     Q_PROPERTY(QString shippingText READ shippingText NOTIFY changed)
     Q_PROPERTY(QString shippingThreshold READ shippingThreshold NOTIFY changed)
     Q_PROPERTY(QString errorText READ errorText NOTIFY changed)
+    Q_PROPERTY(int addedRow READ addedRow NOTIFY changed)
     Q_PROPERTY(QString removedTitle READ removedTitle NOTIFY changed)
     Q_PROPERTY(int lostCount READ lostCount NOTIFY changed)
     Q_PROPERTY(bool isPuttingBack READ isPuttingBack NOTIFY changed)
@@ -77,18 +78,20 @@ public:
     [[nodiscard]] QString shippingText() const;
     [[nodiscard]] QString shippingThreshold() const;
     [[nodiscard]] QString errorText() const;
+    /// The row of what was added a moment ago; -1 when there is none.
+    [[nodiscard]] int addedRow() const;
     /// The piece that was taken out a moment ago and can be put back; empty when there is none.
     [[nodiscard]] QString removedTitle() const;
     /// How many pieces were in a cart that the platform gave up.
     [[nodiscard]] int lostCount() const;
     [[nodiscard]] bool isPuttingBack() const { return m_puttingBack.isRunning(); }
 
-    Q_INVOKABLE void refresh() { m_store.refresh(); }
-    Q_INVOKABLE void setQuantity(const QString& lineID, int quantity) { m_store.setQuantity(lineID, quantity); }
+    Q_INVOKABLE void refresh();
+    Q_INVOKABLE void setQuantity(const QString& lineID, int quantity);
     Q_INVOKABLE void remove(const QString& lineID);
     Q_INVOKABLE void undoRemoval();
     Q_INVOKABLE void applyCode(const QString& text);
-    Q_INVOKABLE void removeCode() { m_store.removeCode(); }
+    Q_INVOKABLE void removeCode();
     /// The shopper writes another code.
     Q_INVOKABLE void forgetCodeMessage();
     Q_INVOKABLE void restoreLostLines();
@@ -116,13 +119,15 @@ private:
         CartLineInput line;
         QString lineID;
         QString title;
+        bool isOffered = false; ///< it is gone, and the time to put it back runs
     };
 
     void update();
     void showRows(std::vector<Row> rows);
     [[nodiscard]] QString note(const Row& row) const;
-    [[nodiscard]] QCoro::Task<> offerUndo(Removed removed);
-    [[nodiscard]] QCoro::Task<> putBack(CartLineInput line);
+    void offerWhenGone();
+    [[nodiscard]] QCoro::Task<> offerUndo();
+    [[nodiscard]] QCoro::Task<> putBack(Removed removed);
     [[nodiscard]] QCoro::Task<> restore();
     [[nodiscard]] QCoro::Task<> apply(QString text);
 

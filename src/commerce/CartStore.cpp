@@ -112,6 +112,7 @@ QCoro::Task<> CartStore::load()
         co_return; // the end of the run tells of the change
     }
     m_loadFailed = false;
+    m_failure.reset();
     if (*answer)
         adopt(**std::move(answer), request);
     else
@@ -185,7 +186,7 @@ QCoro::Task<ApiResult<QString>> CartStore::findOrCreateCart()
 QCoro::Task<ApiResult<Cart>> CartStore::createCart(std::vector<CartLineInput> lines)
 {
     const std::stop_token stopped = stop();
-    LOOM_CO_TRY(created, co_await m_api.create(std::move(lines), stopped));
+    LOOM_CO_TRY(created, co_await m_api.create(lines, stopped));
     if (stopped.stop_requested())
         co_return Unexpected(Failure(Cancelled{}));
     m_made = created;
@@ -233,10 +234,15 @@ QCoro::Task<ApiResult<CodeOutcome>> CartStore::applyCode(QString text)
     }
     // A dead code must not stay on the cart.
     const Request cleaning(*this, id);
-    LOOM_CO_TRY(cleaned, co_await m_api.applyDiscount(id, {}, run.stop()));
+    auto cleaned = co_await m_api.applyDiscount(id, {}, run.stop());
     if (run.isStopped())
         co_return Unexpected(Failure(Cancelled{}));
-    adopt(std::move(cleaned), cleaning);
+    if (!cleaned) {
+        adopt(std::move(cart), request); // with the code: that is how the platform has it
+        co_return Unexpected(cleaned.error());
+    }
+    m_failure.reset();
+    adopt(*std::move(cleaned), cleaning);
     co_return CodeOutcome::NotApplicable;
 }
 
@@ -288,6 +294,7 @@ QCoro::Task<> CartStore::moveToMarket()
         setFailure(answer.error());
         co_return;
     }
+    m_failure.reset();
     adopt(*std::move(answer), request);
 }
 

@@ -60,23 +60,43 @@ QString CheckoutModel::userAgent() const
            m_services.appVersion;
 }
 
-bool CheckoutModel::mayNavigate(const QUrl& url, bool isClick)
+bool CheckoutModel::isAllowed(const QUrl& url) const
+{
+    return (m_isAtStart && url == m_address) || isAllowedInCheckout(url, m_hosts);
+}
+
+bool CheckoutModel::mayNavigate(const QUrl& url)
 {
     if (m_isClosed)
         return false;
-    if (url == m_address || isAllowedInCheckout(url, m_hosts))
+    if (isAllowed(url))
         return true;
     qCInfo(logApp) << "the checkout page may not go to" << url.scheme() << url.host();
-    if (isClick && url.scheme() == QLatin1String("https"))
-        m_services.openExternally(url);
+    if (url.scheme() == QLatin1String("https")) {
+        m_refusedLink = url;
+        Q_EMIT changed();
+    }
     return false;
+}
+
+void CheckoutModel::openRefusedLink()
+{
+    if (!m_refusedLink.isEmpty())
+        m_services.openExternally(m_refusedLink);
+    forgetRefusedLink();
+}
+
+void CheckoutModel::forgetRefusedLink()
+{
+    m_refusedLink.clear();
+    Q_EMIT changed();
 }
 
 void CheckoutModel::loadStarted(const QUrl& url)
 {
-    if (m_phase == Phase::Failed || m_phase == Phase::Completed || m_isClosed)
+    // The engine tells of loads that were refused as well.
+    if (m_phase == Phase::Failed || m_phase == Phase::Completed || m_isClosed || !isAllowed(url))
         return;
-    m_shown = url;
     m_errorText.clear();
     Q_EMIT changed();
     static_cast<void>(watchLoad());
@@ -95,14 +115,26 @@ bool CheckoutModel::loadFinished(const QUrl& url)
     m_loading.stop();
     if (m_phase == Phase::Failed || m_phase == Phase::Completed || m_isClosed)
         return false;
+    m_isAtStart = false;
     m_shown = url;
     if (!isOrderPage(url)) {
         setPhase(Phase::Page);
         return false;
     }
+    m_refusedLink.clear();
     setPhase(Phase::Completed);
     m_services.announcements.post(Announcement::CheckoutCompleted);
     return true;
+}
+
+bool CheckoutModel::loadStopped(const QUrl& url)
+{
+    if (isAllowed(url))
+        return loadFinished(url);
+    m_loading.stop();
+    if (m_phase == Phase::Opening)
+        die(QCoreApplication::translate("Loomstreet", "The page leads out of the checkout."));
+    return false;
 }
 
 void CheckoutModel::readConfirmation(const QString& text)
@@ -130,13 +162,6 @@ void CheckoutModel::loadFailed(const QString& reason)
         die(reason);
 }
 
-void CheckoutModel::loadStopped()
-{
-    m_loading.stop();
-    if (m_phase == Phase::Opening)
-        die(QCoreApplication::translate("Loomstreet", "The page leads out of the checkout."));
-}
-
 void CheckoutModel::rendererGone()
 {
     m_loading.stop();
@@ -162,6 +187,8 @@ void CheckoutModel::rebuild()
     // A hand-over is good once; the cart's own address is good until the order is placed.
     m_address = m_request.url;
     m_shown = m_address;
+    m_isAtStart = true;
+    m_refusedLink.clear();
     m_errorText.clear();
     ++m_generation;
     Q_EMIT addressChanged();

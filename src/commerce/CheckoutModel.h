@@ -33,6 +33,7 @@ class CheckoutModel final : public QObject
     Q_PROPERTY(bool isSecure READ isSecure NOTIFY changed)
     Q_PROPERTY(QString connectionText READ connectionText NOTIFY changed)
     Q_PROPERTY(QString errorText READ errorText NOTIFY changed)
+    Q_PROPERTY(QString refusedHost READ refusedHost NOTIFY changed)
     Q_PROPERTY(QString completionText READ completionText NOTIFY changed)
     Q_PROPERTY(QString summaryText READ summaryText CONSTANT)
     Q_PROPERTY(QStringList pictures READ pictures CONSTANT)
@@ -70,24 +71,30 @@ public:
     [[nodiscard]] bool isSecure() const { return m_shown.scheme() == QLatin1String("https"); }
     [[nodiscard]] QString connectionText() const;
     [[nodiscard]] const QString& errorText() const { return m_errorText; }
+    /// The host to which the page wanted to go and may not; empty when it is none that a browser could go to.
+    [[nodiscard]] QString refusedHost() const { return m_refusedLink.host(); }
     [[nodiscard]] QString completionText() const;
     [[nodiscard]] QString summaryText() const;
     [[nodiscard]] const QStringList& pictures() const { return m_goods.pictures; }
     [[nodiscard]] QString userAgent() const;
 
-    /// Whether the main frame may go there. What the shopper clicked and may not is opened in the browser.
-    [[nodiscard]] Q_INVOKABLE bool mayNavigate(const QUrl& url, bool isClick);
+    /// Whether the main frame may go there. Where it may not, the shopper is asked: a page can click by itself.
+    [[nodiscard]] Q_INVOKABLE bool mayNavigate(const QUrl& url);
     Q_INVOKABLE void loadStarted(const QUrl& url);
     /// True when the page confirms an order, and its text is wanted.
     Q_INVOKABLE bool loadFinished(const QUrl& url);
     Q_INVOKABLE void loadFailed(const QString& reason);
-    /// The page was not allowed to go where it went at once.
-    Q_INVOKABLE void loadStopped();
+    /// A load ended before its end, as when the page wanted to go elsewhere meanwhile and may not. `url` is of the
+    /// document that is there all the same. True as above.
+    Q_INVOKABLE bool loadStopped(const QUrl& url);
     Q_INVOKABLE void rendererGone();
     /// The text of the page that confirms the order.
     Q_INVOKABLE void readConfirmation(const QString& text);
     Q_INVOKABLE void reload();
     Q_INVOKABLE void continueInBrowser();
+    /// Opens in the browser what the page may not show.
+    Q_INVOKABLE void openRefusedLink();
+    Q_INVOKABLE void forgetRefusedLink();
     /// The window closed.
     Q_INVOKABLE void close();
 
@@ -102,6 +109,7 @@ private:
     void setPhase(Phase phase);
     void rebuild();
     void die(const QString& reason);
+    [[nodiscard]] bool isAllowed(const QUrl& url) const;
     [[nodiscard]] QCoro::Task<> watchLoad();
     [[nodiscard]] QCoro::Task<> findNumber(QString text);
 
@@ -112,6 +120,8 @@ private:
     Services m_services;
     Phase m_phase = Phase::Opening;
     QUrl m_shown;
+    QUrl m_refusedLink;
+    bool m_isAtStart = true; ///< the address to begin at may be any of the cart's own
     QString m_errorText;
     QString m_number;
     int m_generation = 0;

@@ -23,45 +23,64 @@ CheckoutStarter::CheckoutStarter(WidgetClient& widget, CartStore& cart, QString 
     , m_supportBase(std::move(supportBase))
     , m_services(std::move(services))
     , m_locale(std::move(locale))
-    , m_starting([this] { Q_EMIT changed(); })
+    , m_starting([this] {
+        Q_EMIT changed();
+        proceedToNext();
+    })
 {
     connect(&m_cart, &CartStore::changed, this, &CheckoutStarter::proceedWhenSettled);
 }
 
-QString CheckoutStarter::errorText() const
+QString CheckoutStarter::sentence()
 {
-    return m_failed ? QCoreApplication::translate("Loomstreet", "Couldn't start checkout. Try again.") : QString();
+    return QCoreApplication::translate("Loomstreet", "Couldn't start checkout. Try again.");
 }
 
 bool CheckoutStarter::isPayingCart() const
 {
     return std::ranges::any_of(m_open, [](const CheckoutModel* checkout) {
-        return checkout->request().fromCart && checkout->phase() != CheckoutModel::Phase::Completed;
+        return checkout->request().fromCart && checkout->phase() != CheckoutModel::Phase::Completed &&
+               checkout->phase() != CheckoutModel::Phase::Failed;
     });
 }
 
 void CheckoutStarter::forgetError()
 {
-    if (std::exchange(m_failed, false))
+    if (std::exchange(m_failed, Origin::None) != Origin::None)
         Q_EMIT changed();
 }
 
 void CheckoutStarter::start(const CheckoutRequest& request)
 {
-    if (isStarting())
-        return;
-    const auto open = std::ranges::find(m_open, request, &CheckoutModel::request);
-    if (open != m_open.end()) {
-        Q_EMIT ready(*open);
+    if (isStarting()) {
+        if (request != m_request)
+            m_next = request;
         return;
     }
+    if (showOpen(request))
+        return;
     m_request = request;
-    m_failed = false;
+    m_failed = Origin::None;
     m_waiting = true;
     Q_EMIT changed();
     if (request.fromCart)
         m_cart.settle();
     proceedWhenSettled();
+}
+
+bool CheckoutStarter::showOpen(const CheckoutRequest& request)
+{
+    const auto open = std::ranges::find(m_open, request, &CheckoutModel::request);
+    if (open == m_open.end())
+        return false;
+    Q_EMIT ready(*open);
+    return true;
+}
+
+void CheckoutStarter::proceedToNext()
+{
+    if (m_next && !isStarting())
+        start(*std::exchange(m_next, std::nullopt));
 }
 
 void CheckoutStarter::proceedWhenSettled()
@@ -71,7 +90,12 @@ void CheckoutStarter::proceedWhenSettled()
     m_waiting = false;
     if (m_request.fromCart && m_cart.cart())
         m_request.url = m_cart.cart()->checkoutURL;
-    static_cast<void>(prepare());
+    if (!showOpen(m_request)) {
+        static_cast<void>(prepare());
+        return;
+    }
+    Q_EMIT changed();
+    proceedToNext();
 }
 
 QCoro::Task<> CheckoutStarter::prepare()
@@ -80,7 +104,7 @@ QCoro::Task<> CheckoutStarter::prepare()
     const CheckoutRequest request = m_request;
     const Cart* const found = m_cart.cartAt(request.url);
     if (!found || !mayStartCheckoutAt(request.url)) {
-        m_failed = true;
+        fail();
         co_return; // the end of the run tells of the change
     }
     const Cart cart = *found;
@@ -91,7 +115,7 @@ QCoro::Task<> CheckoutStarter::prepare()
     if (const auto start = checkoutStart(prepared, request.url, hosts))
         show(*start, hosts, cart);
     else
-        m_failed = true;
+        fail();
 }
 
 void CheckoutStarter::show(const QUrl& start, const CheckoutHosts& hosts, const Cart& cart)

@@ -17,7 +17,8 @@ class CheckoutStarter final : public QObject
     Q_PROPERTY(bool isStarting READ isStarting NOTIFY changed)
     Q_PROPERTY(bool isStartingCart READ isStartingCart NOTIFY changed)
     Q_PROPERTY(bool isPayingCart READ isPayingCart NOTIFY changed)
-    Q_PROPERTY(QString errorText READ errorText NOTIFY changed)
+    Q_PROPERTY(QString cartErrorText READ cartErrorText NOTIFY changed)
+    Q_PROPERTY(QString buyErrorText READ buyErrorText NOTIFY changed)
 
 public:
     CheckoutStarter(WidgetClient& widget, CartStore& cart, QString supportBase, CheckoutModel::Services services,
@@ -28,10 +29,11 @@ public:
     [[nodiscard]] bool isStartingCart() const { return isStarting() && m_request.fromCart; }
     /// A window in which the cart can be paid for is open.
     [[nodiscard]] bool isPayingCart() const;
-    /// Why the last one did not begin; empty when it did.
-    [[nodiscard]] QString errorText() const;
+    /// Why the cart's last checkout did not begin, or that of a piece bought by itself; empty when it did.
+    [[nodiscard]] QString cartErrorText() const { return m_failed == Origin::Cart ? sentence() : QString(); }
+    [[nodiscard]] QString buyErrorText() const { return m_failed == Origin::Piece ? sentence() : QString(); }
 
-    /// An open checkout of the same request is shown again.
+    /// An open checkout of the same request is shown again. Another one that is asked for meanwhile follows.
     void start(const CheckoutRequest& request);
     Q_INVOKABLE void forgetError();
 
@@ -41,6 +43,12 @@ Q_SIGNALS:
     void ready(loom::CheckoutModel* checkout);
 
 private:
+    enum class Origin { None, Cart, Piece };
+
+    [[nodiscard]] static QString sentence();
+    [[nodiscard]] bool showOpen(const CheckoutRequest& request);
+    void proceedToNext();
+    void fail() { m_failed = m_request.fromCart ? Origin::Cart : Origin::Piece; }
     void proceedWhenSettled();
     [[nodiscard]] QCoro::Task<> prepare();
     void show(const QUrl& start, const CheckoutHosts& hosts, const Cart& cart);
@@ -51,8 +59,9 @@ private:
     CheckoutModel::Services m_services;
     std::function<QString()> m_locale;
     CheckoutRequest m_request;
+    std::optional<CheckoutRequest> m_next;
     bool m_waiting = false; ///< for the cart to be what the shopper sees
-    bool m_failed = false;
+    Origin m_failed = Origin::None;
     std::vector<CheckoutModel*> m_open; ///< owned as children
     Work m_starting;
 };

@@ -13,8 +13,8 @@ namespace loom
 {
 
 /// Lets one instance of the application run in a session. The first one owns the name of the application on the
-/// session bus and serves org.freedesktop.Application there (Desktop Entry Specification, D-Bus activation); where no
-/// bus runs, or none that gives the name, a local socket takes its place. Main thread.
+/// session bus and serves org.freedesktop.Application there (D-Bus activation, as freedesktop.org describes it for
+/// desktop entries); where no bus runs, or none that gives the name, a local socket takes its place. Main thread.
 class SingleInstance final : public QObject
 {
     Q_OBJECT

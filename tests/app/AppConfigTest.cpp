@@ -2,8 +2,6 @@
 
 #include "support/Printing.h"
 
-#include <QCoreApplication>
-
 namespace loom
 {
 
@@ -110,20 +108,6 @@ TEST(AppConfigTest, WhatIsNoPropertyListIsNone)
           QByteArray("<plist/>"), propertyList(""), propertyList("<dict/>")})
         EXPECT_EQ(AppConfig::parse(foreign), std::nullopt) << foreign.left(40).constData();
     EXPECT_EQ(AppConfig::load(), std::nullopt); // nothing in the resources of this program
-}
-
-TEST(AppConfigTest, WhatTheApplicationDoesNotSayOfItselfHasADefault)
-{
-    EXPECT_EQ(AppConfig::appVersion(), QStringLiteral("1.0.0"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("2.3.4"));
-    EXPECT_EQ(AppConfig::appVersion(), QStringLiteral("2.3.4"));
-    QCoreApplication::setApplicationVersion({});
-
-    const char* const property = "desktopFileName";
-    EXPECT_EQ(AppConfig::bundleIdentifier(), QStringLiteral("com.loomstreet.mac"));
-    QCoreApplication::instance()->setProperty(property, QStringLiteral("org.example.Program"));
-    EXPECT_EQ(AppConfig::bundleIdentifier(), QStringLiteral("org.example.Program"));
-    QCoreApplication::instance()->setProperty(property, QVariant());
 }
 
 } // namespace loom

@@ -1,8 +1,5 @@
 #include "AppFixture.h"
 
-#include <QRegularExpression>
-#include <QSignalSpy>
-
 #include <QStandardPaths>
 
 using namespace loom;
@@ -98,16 +95,6 @@ TEST_F(AppModelTest, APageThatNeverCameIsForgottenWithTheNextWindow)
     EXPECT_TRUE(model->makeProduct(&page, QStringLiteral("b"), {})->isLoading());
 }
 
-TEST_F(AppModelTest, APieceIsShownFromItsCardAtOnce)
-{
-    ProductListItem item;
-    item.handle = silk;
-    item.title = QStringLiteral("Silk dress");
-    EXPECT_EQ(model->makeProduct(&page, silk, QVariant::fromValue(item))->title(), item.title);
-    for (const QVariant& none : {QVariant(), QVariant(7), QVariant::fromValue(nullptr)})
-        EXPECT_EQ(model->makeProduct(&page, silk, none)->title(), QString());
-}
-
 TEST_F(AppModelTest, WithoutAConfigurationNothingIsSentAndThePagesSaySo)
 {
     start({});
@@ -200,25 +187,6 @@ TEST_F(AppModelTest, AWindowMayBeClosedFromWithin)
     EXPECT_EQ(watched->tabs()->count(), 1);
     drainEvents();
     EXPECT_FALSE(watched);
-}
-
-TEST_F(AppModelTest, ItsCommandsReachBeyondTheirWindow)
-{
-    WindowSession& session = model->openWindow({.section = SidebarItem::Starlook});
-    QSignalSpy quits(&*model, &AppModel::quitRequested);
-    AppCommands* const commands = model->makeCommands(&page, &session);
-    EXPECT_EQ(commands->parent(), &page);
-    static_cast<void>(host.takeCalls());
-    commands->perform(AppCommand::Id::NewWindow);
-    commands->perform(AppCommand::Id::Settings);
-    EXPECT_EQ(host.takeCalls(), QStringList({QStringLiteral("show 2"), QStringLiteral("settings")}));
-    EXPECT_EQ(quits.count(), 0);
-    commands->perform(AppCommand::Id::Quit);
-    EXPECT_EQ(quits.count(), 1);
-
-    keys = Qt::ControlModifier;
-    session.selected()->openProductCard(silk, {});
-    EXPECT_EQ(session.tabs()->count(), 2); // the keys held are the platform's to know
 }
 
 TEST_F(AppModelTest, AScreenshotIsNamedByTheTimeOnTheShoppersClock)

@@ -15,27 +15,6 @@ using Kind = PageKind::Kind;
 
 } // namespace
 
-TEST(PageEntryTest, EverySectionHasAPage)
-{
-    for (const SidebarEntry& entry : sidebarEntries) {
-        const PageEntry page = pageFor(entry.item, pages);
-        const QString name = QLatin1String(entry.rawValue);
-        const auto collection = collectionHandle(entry.item);
-        const bool isDepartment =
-            QStringList({QStringLiteral("women"), QStringLiteral("men"), QStringLiteral("luxury")}).contains(name);
-        const Kind kind = entry.item == SidebarItem::Home   ? Kind::Explore
-                          : entry.item == SidebarItem::Cart ? Kind::Cart
-                          : collection                      ? Kind::Collection
-                          : isDepartment                    ? Kind::Department
-                                                            : Kind::StorePage;
-        EXPECT_EQ(page.kind, kind) << entry.rawValue;
-        EXPECT_EQ(page.handle, collection.value_or(isDepartment ? name : QString())) << entry.rawValue;
-        EXPECT_EQ(page.title, entry.title.translated());
-        EXPECT_EQ(page.symbol, QLatin1String(entry.symbol));
-        EXPECT_EQ(page.address.isEmpty(), kind != Kind::StorePage) << entry.rawValue;
-    }
-}
-
 TEST(PageEntryTest, ARouteHasAPageOfItsOwnOrTheStores)
 {
     const auto text = [](const char* utf8) {

@@ -149,14 +149,6 @@ TEST_F(WindowSessionTest, AWindowOpensWhereItsSeedSays)
     }
     WindowSession session(services, {.link = QStringLiteral("/cart")});
     EXPECT_TRUE(session.isCartOpen());
-    EXPECT_NE(session.id(), WindowSession(services, {}).id());
-    session.newTab();
-    EXPECT_EQ(shown(*session.selected()), "home");
-    session.setSidebarCollapsed(true);
-    const WindowState state = session.state();
-    EXPECT_EQ(state.tabs.size(), 2U);
-    EXPECT_EQ(state.selectedIndex, 1);
-    EXPECT_TRUE(state.isSidebarCollapsed);
 }
 
 TEST_F(WindowSessionTest, ATabMayBeClosedByWhatItDoesItself)
@@ -174,24 +166,6 @@ TEST_F(WindowSessionTest, ATabMayBeClosedByWhatItDoesItself)
     EXPECT_EQ(shown(*tab), "home: product silk");
     drainEvents();
     EXPECT_FALSE(tab);
-}
-
-TEST_F(WindowSessionTest, TabsAreRowsThatHoldTheirRouters)
-{
-    WindowSession session(services, {});
-    session.newTab();
-    TabsModel& model = *session.tabs();
-    QSignalSpy counted(&model, &TabsModel::countChanged);
-    EXPECT_EQ(model.roleNames(), (QHash<int, QByteArray>{{TabsModel::RouterRole, "router"}}));
-    EXPECT_EQ(model.index(1).data(TabsModel::RouterRole).value<Router*>(), session.selected());
-    EXPECT_FALSE(model.index(1).data(Qt::DisplayRole).isValid());
-    EXPECT_EQ(model.rowCount(model.index(0)), 0);
-    EXPECT_EQ(model.at(2), nullptr);
-    EXPECT_EQ(model.at(-1), nullptr);
-    EXPECT_EQ(model.indexOf(QUuid()), -1);
-    EXPECT_EQ(counted.count(), 0);
-    session.closeTab(0);
-    EXPECT_EQ(counted.count(), 1);
 }
 
 TEST_F(WindowSessionTest, OnePanelIsOpenAtATime)
@@ -233,35 +207,8 @@ TEST_F(WindowSessionTest, TheGalleryShowsAPictureThatIsThere)
         EXPECT_EQ(session.lightbox()->images, images);
         EXPECT_EQ(session.lightbox()->title, QStringLiteral("Silk dress"));
     }
-    EXPECT_EQ(session.property("lightbox").value<LightboxRequest>(), session.lightbox());
-    session.openLightbox(images, 0, {});
-    EXPECT_EQ(session.lightbox()->title, std::nullopt);
     session.closeLightbox();
     EXPECT_EQ(session.lightbox(), std::nullopt);
-}
-
-TEST_F(WindowSessionTest, WhatDoesNotChangeIsNotTold)
-{
-    WindowSession session(services, {});
-    QSignalSpy layout(&session, &WindowSession::layoutChanged);
-    QSignalSpy search(&session, &WindowSession::pendingSearchFocusChanged);
-    QSignalSpy selected(&session, &WindowSession::selectedChanged);
-    for (int i = 0; i < 2; ++i) {
-        session.setWindowWidth(1160);
-        session.setWindowFullScreen(true);
-        session.setSidebarCollapsed(true);
-        session.setPendingSearchFocus(true);
-        session.selectTab(0);
-    }
-    EXPECT_EQ(layout.count(), 3);
-    EXPECT_EQ(search.count(), 1);
-    EXPECT_EQ(selected.count(), 0);
-
-    auto window = std::make_unique<QObject>();
-    session.setWindow(window.get());
-    EXPECT_EQ(session.window(), window.get());
-    window.reset();
-    EXPECT_EQ(session.window(), nullptr);
 }
 
 } // namespace

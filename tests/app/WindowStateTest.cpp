@@ -73,30 +73,16 @@ TEST(WindowStateTest, WhatDoesNotBelongToItsPagesIsLeftOut)
         const char* to;
         void (*expected)(TabState& state);
     };
-    for (const Row& row : std::initializer_list<Row>{
-             {R"(["","New In"])", R"(["New In"])",
-              [](TabState& s) {
-                  s.titles.clear();
-              }},
-             {R"(["","New In"])", R"(["",7,"New In"])",
-              [](TabState&) {
-              }},
-             {"[0,240.5]", "[240.5]",
-              [](TabState& s) {
-                  s.scrollOffsets.clear();
-              }},
-             {"[0,240.5]", "[\"a\",-7]",
-              [](TabState& s) {
-                  s.scrollOffsets = {0, 0};
-              }},
+    for (const Row& row : {
+             Row(R"(["","New In"])", R"(["New In"])", [](TabState& s) { s.titles.clear(); }),
+             Row(R"(["","New In"])", R"(["",7,"New In"])", [](TabState&) {}),
+             Row("[0,240.5]", "[240.5]", [](TabState& s) { s.scrollOffsets.clear(); }),
+             Row("[0,240.5]", "[\"a\",-7]", [](TabState& s) { s.scrollOffsets = {0, 0}; }),
              {"\"new-in\"", "7",
               [](TabState& s) {
                   s.section.routes = {UnknownRoute{}};
               }},
-             {"\"isPinned\":true", "\"isPinned\":1",
-              [](TabState& s) {
-                  s.isPinned = false;
-              }},
+             Row("\"isPinned\":true", "\"isPinned\":1", [](TabState& s) { s.isPinned = false; }),
          }) {
         TabState expected = wholeTab();
         row.expected(expected);

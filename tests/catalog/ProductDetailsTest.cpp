@@ -1,7 +1,6 @@
 #include "catalog/ProductDetails.h"
 
 #include "catalog/Product.h"
-#include "catalog/ServiceWording.h"
 
 #include <gtest/gtest.h>
 
@@ -33,41 +32,9 @@ TEST(ProductDetailsTest, ADescriptionWithoutMarkupIsShownAsItIsWritten)
 {
     Product plain;
     plain.description = QStringLiteral("Cut <b>on</b> the bias & lined");
-    const QVariantList sections = sectionList(productDetails(plain));
-    ASSERT_EQ(sections.size(), 1);
-    EXPECT_EQ(first(sections).value(QStringLiteral("paragraphs")).toStringList(), QStringList(plain.description));
-    EXPECT_EQ(first(sections).value(QStringLiteral("isCollapsible")), false);
-
-    plain.descriptionHTML = QStringLiteral("<details><summary>Care</summary><p>By hand</p></details>");
-    EXPECT_EQ(first(sectionList(productDetails(plain))),
-              (QVariantMap{{QStringLiteral("title"), QStringLiteral("Care")},
-                           {QStringLiteral("paragraphs"), QStringList(QStringLiteral("By hand"))},
-                           {QStringLiteral("isCollapsible"), true}}));
+    EXPECT_EQ(first(sectionList(productDetails(plain))).value(QStringLiteral("paragraphs")).toStringList(),
+              QStringList(plain.description));
     EXPECT_TRUE(sectionList(productDetails({})).isEmpty());
-}
-
-TEST(ProductDetailsTest, PagesReadWhatTheMetafieldsSay)
-{
-    const ProductDetails details = productDetails(product({
-        {"custom.specs", R"({"rows": [{"key": "Neck", "value": "Halter"}], "sizeTables": [{"title": "Sizes",
-            "rows": [["Size", "Bust"], ["S", "84 cm / 33 in"], ["M", "88 cm / 35 in"]]}, {"title": "Empty", "rows": []}]})"},
-        {"custom.aeo_details", R"([{"title": "Fit", "paragraphs": ["Close"],
-            "faqs": [{"question": "Lined?", "answer": "Yes"}]}])"},
-    }));
-    EXPECT_EQ(specList(details), QVariantList({QVariantMap{{QStringLiteral("key"), QStringLiteral("Neck")},
-                                                           {QStringLiteral("value"), QStringLiteral("Halter")}}}));
-    ASSERT_EQ(sizeTableList(details, SizeUnit::Imperial).size(), 1);
-    EXPECT_EQ(first(sizeTableList(details, SizeUnit::Imperial)),
-              (QVariantMap{{QStringLiteral("title"), QStringLiteral("Sizes")},
-                           {QStringLiteral("columns"), QStringList({QStringLiteral("Size"), QStringLiteral("Bust")})},
-                           {QStringLiteral("rows"),
-                            QVariantList({QStringList({QStringLiteral("S"), QStringLiteral("33 in")}),
-                                          QStringList({QStringLiteral("M"), QStringLiteral("35 in")})})}}));
-    const QVariantMap story = first(storyList(details));
-    EXPECT_EQ(story.value(QStringLiteral("title")), QStringLiteral("Fit"));
-    EXPECT_EQ(first(story.value(QStringLiteral("questions")).toList()),
-              (QVariantMap{{QStringLiteral("question"), QStringLiteral("Lined?")},
-                           {QStringLiteral("answer"), QStringLiteral("Yes")}}));
 }
 
 TEST(ProductDetailsTest, ReviewsAreSummedUpFromWhatThereIs)
@@ -87,20 +54,10 @@ TEST(ProductDetailsTest, ReviewsAreSummedUpFromWhatThereIs)
     EXPECT_EQ(first(whole.value(QStringLiteral("tags")).toList()).value(QStringLiteral("count")), 3);
     EXPECT_EQ(first(whole.value(QStringLiteral("reviews")).toList()).value(QStringLiteral("content")),
               QStringLiteral("Lovely"));
-    EXPECT_EQ(reviewSummary(productDetails(product({{"reviews.rating_count", "212"}, {"reviews.rating", "4"}})))
-                  .value(QStringLiteral("count")),
-              212);
 }
 
-TEST(ProductDetailsTest, OnlyAFinalSaleIsNeverTakenBack)
+TEST(ProductDetailsTest, ThePieceDecidesTheServiceClass)
 {
-    for (const ServiceClass each : {ServiceClass::FinalSale, ServiceClass::CustomMade, ServiceClass::Luxury,
-                                    ServiceClass::Shoes, ServiceClass::Standard}) {
-        const ServiceWording wording = serviceWording(each);
-        EXPECT_FALSE(wording.returns.isEmpty() || wording.note.isEmpty());
-        EXPECT_EQ(wording.note.contains(QLatin1String("cannot be returned")), each == ServiceClass::FinalSale);
-        EXPECT_EQ(wording.service.isEmpty(), each == ServiceClass::Standard);
-    }
     Product sold = product({});
     sold.item.tags = {QStringLiteral("Final Sale")};
     sold.item.title = QStringLiteral("Ankle boot");

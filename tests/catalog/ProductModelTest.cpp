@@ -40,17 +40,10 @@ protected:
 
 TEST_F(ProductModelTest, APageBeginsWithTheCardAndFillsUp)
 {
-    const auto bare = make();
-    EXPECT_EQ(bare->phase(), Phase::Idle);
-    EXPECT_EQ(bare->title() + bare->price() + bare->designer() + bare->label() + bare->formerPriceText(), QString());
-    EXPECT_TRUE(bare->pictures().isEmpty());
-
     const auto model = make(card);
     const auto states = emissions(*model, &ProductModel::stateChanged);
     const auto products = emissions(*model, &ProductModel::productChanged);
     EXPECT_EQ(model->title(), QStringLiteral("Silk dress"));
-    EXPECT_EQ(model->designer(), QStringLiteral("Ada Lin"));
-    EXPECT_EQ(model->label(), QStringLiteral("New"));
     EXPECT_EQ(model->price(), QStringLiteral("$248.50"));
     EXPECT_EQ(model->formerPriceText(), QStringLiteral("$310.00"));
     EXPECT_EQ(model->pictures().size(), 2);
@@ -76,19 +69,8 @@ TEST_F(ProductModelTest, APageBeginsWithTheCardAndFillsUp)
     EXPECT_TRUE(model->isComplete());
     EXPECT_EQ(*products, 1);
     EXPECT_EQ(model->pictures(), model->product()->images);
-    EXPECT_EQ(get(*model, "presale"), QStringLiteral("Ships in May"));
-    EXPECT_EQ(get(*model, "sections").toList().size(), 1);
-    EXPECT_EQ(get(*model, "service").toMap().value(QStringLiteral("returns")), QStringLiteral("Returns"));
-    EXPECT_FALSE(get(*model, "reviews").toMap().contains(QStringLiteral("rating")));
     model->load();
     EXPECT_FALSE(model->isLoading());
-
-    answer("Product", Answer::body("", 404));
-    model->reload();
-    settle(*model);
-    EXPECT_EQ(model->phase(), Phase::Loaded);
-    EXPECT_EQ(model->errorText(), errorDescription({APIError::Http{.status = 404}}));
-    EXPECT_TRUE(model->isComplete());
 
     load(*model, changed(changed(dress, QStringLiteral("images.nodes"), QJsonArray()),
                          QStringLiteral("availableForSale"), false));
@@ -184,22 +166,6 @@ TEST_F(ProductModelTest, AReloadTellsOnlyOfWhatHasChanged)
     EXPECT_EQ(*tables, 1);
 }
 
-TEST_F(ProductModelTest, ACardInTheFinalSalePromisesNoReturns)
-{
-    const auto returns = [](const ProductModel& model) {
-        return get(model, "service").toMap().value(QStringLiteral("returns")).toString();
-    };
-    const QString standard = returns(*make(card));
-    card.tags = {QStringLiteral("Final Sale")};
-    const auto model = make(card);
-    const QString final = returns(*model);
-    EXPECT_NE(final, standard);
-    load(*model, changed(dress, QStringLiteral("tags"), json(R"(["Final Sale"])")));
-    EXPECT_EQ(returns(*model), final);
-    load(*model, dress);
-    EXPECT_EQ(returns(*model), standard);
-}
-
 TEST_F(ProductModelTest, AnotherMarketLoadsAnewWhateverThereWasBefore)
 {
     const auto model = make();
@@ -229,17 +195,6 @@ TEST_F(ProductModelTest, AnotherMarketLoadsAnewWhateverThereWasBefore)
     settle(*model);
     EXPECT_EQ(model->phase(), Phase::Loaded);
     turn(AppLanguage::Thai, found(dress), Phase::Loaded);
-
-    const auto failed = make();
-    answer("Product", Answer::body("", 404));
-    failed->load();
-    settle(*failed);
-    const auto idle = make();
-    answer("Product", found(dress));
-    turn(AppLanguage::French, found(dress), Phase::Loaded);
-    settle(*failed);
-    EXPECT_EQ(failed->phase(), Phase::Loaded);
-    EXPECT_EQ(idle->phase(), Phase::Idle);
 }
 
 TEST_F(ProductModelTest, SizesFollowTheUnitOfTheSettings)
@@ -259,24 +214,6 @@ TEST_F(ProductModelTest, SizesFollowTheUnitOfTheSettings)
     preferences.set(preferences::sizeUnit, QStringLiteral("metric")); // in another window
     EXPECT_EQ(bust(), QStringLiteral("84 cm"));
     EXPECT_EQ(*tables, 2);
-}
-
-TEST_F(ProductModelTest, DeliveryIsFreeAboveAnAmountInTheMarketsCurrency)
-{
-    const auto model = make();
-    const auto told = emissions(*model, &ProductModel::rateChanged);
-    EXPECT_EQ(get(*model, "freeShippingFrom"), QStringLiteral("$99.00"));
-    for (const auto& [country, currency] : {std::pair("JP", "JPY"), std::pair("US", "USD")}) {
-        answer(QStringLiteral("RateSample ") + QLatin1String(country),
-               envelope(
-                   changed(json(R"({"products": {"nodes": [{"priceRange": {"minVariantPrice": {"amount": "300"}}}]}})"),
-                           QStringLiteral("products.nodes[0].priceRange.minVariantPrice.currencyCode"),
-                           QLatin1String(currency))));
-    }
-    market.setCountry(QStringLiteral("JP"));
-    waitUntil([this] { return market.rate().has_value(); }, "the rate is known");
-    EXPECT_EQ(get(*model, "freeShippingFrom"), QStringLiteral("¥99"));
-    EXPECT_GE(*told, 1);
 }
 
 TEST_F(ProductModelTest, ALoadThatIsOvertakenShowsNothingAndAModelMayGoAtAnyTime)

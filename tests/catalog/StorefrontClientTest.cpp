@@ -107,12 +107,8 @@ TEST_F(StorefrontClientTest, TheMarketToBeginWithFollowsTheSystem)
              Row{"es", "PR", "US", "ES"},
              Row{"en", "ZZ", "ZZ", "EN"},
              Row{"xx", "FRA", "US", "EN"},
-             Row{"pt", "BR", "BR", "PT_BR"},
-             Row{"pt", "PT", "PT", "PT_PT"},
              Row{"pt", "br", "BR", "PT_BR"},
-             Row{"pt", "AO", "AO", "PT"},
              Row{"no", "NO", "NO", "NB"},
-             Row{"tl", "PH", "PH", "FIL"},
              Row{"zh", "SG", "SG", "ZH_CN"},
          }) {
         const StorefrontClient fresh(
@@ -157,16 +153,13 @@ TEST_F(StorefrontClientTest, EveryFailureIsReportedAndOnlyAPassingOneIsTriedAgai
         {Answer::body(R"({"errors":[{"message":"thrott"},{"message":"led"}]})"),
          refusal({QStringLiteral("thrott"), QStringLiteral("led")}), false},
         {Answer::body(R"({"data":null})"), invalid, false},
-        {Answer::body(R"({"errors":[],"data":null})"), invalid, false},
-        {Answer::body("{}"), invalid, false},
         {Answer::body("[]"), undecodable("document: expected an object"), false},
-        {Answer::body("null"), undecodable("document: expected an object"), false},
         {Answer::body(R"({"data":5})"), undecodable("data: expected an object"), false},
         {Answer::body(R"({"data":{"n":"x"}})"), undecodable("data.n: expected a whole number"), false},
     };
-    for (const int status : {300, 302, 400, 401, 402, 403, 404, 418, 422, 430, 499})
+    for (const int status : {302, 400, 401, 404, 499})
         rows.push_back({Answer::body(R"({"data":{"n":1},"code":"X","message":"m"})", status), http(status), false});
-    for (const int status : {429, 500, 502, 503, 599})
+    for (const int status : {429, 500, 503})
         rows.push_back({Answer::body(R"({"code":"X","message":"m"})", status), http(status), true});
 
     for (const Row& row : rows) {
@@ -185,19 +178,6 @@ TEST_F(StorefrontClientTest, EveryFailureIsReportedAndOnlyAPassingOneIsTriedAgai
         EXPECT_EQ(sent(), before + (row.passes ? 4 : 2));
         EXPECT_EQ(clock.sleepers(), 0);
     }
-}
-
-TEST_F(StorefrontClientTest, AnAnswerThatIsNoJsonIsAFailureThatSaysSo)
-{
-    for (const char* const body :
-         {"", "<html>", R"({"data":{"n":1})", R"({"data":{"n":1}} x)", "{\"data\":\"\xff\"}"}) {
-        answer("Q", Answer::body(body));
-        const Number result = run(send(Retry::Transient));
-        ASSERT_FALSE(result) << body;
-        EXPECT_TRUE(result.error().error().as<APIError::Decoding>()) << body;
-    }
-    answer("Q", Answer::body(R"({"data":{"n":3.0},"errors":null,"extensions":{"cost":[1]}})"));
-    EXPECT_EQ(run(send(Retry::Never)), Number(3));
 }
 
 TEST_F(StorefrontClientTest, NetworkFailuresAndTimeoutsAreTriedAgain)
@@ -286,18 +266,6 @@ TEST_F(StorefrontClientTest, WhatIsDecodedForNobodyIsDroppedAlsoWhenTheClientIsG
             EXPECT_EQ(call.result(), cancelled);
         }
     }
-}
-
-TEST_F(StorefrontClientTest, CallsMadeAtOnceEachGetTheirOwnAnswer)
-{
-    std::vector<Running<Number>> calls;
-    for (int i = 0; i < 12; ++i) {
-        const QString name = QStringLiteral("Q%1").arg(i);
-        answer(name, envelope(QJsonObject{{QStringLiteral("n"), i}}));
-        calls.emplace_back(client.send(QStringLiteral("query ") + name, {}, Retry::Never, readNumber, {}));
-    }
-    for (int i = 0; i < 12; ++i)
-        EXPECT_EQ(calls.at(static_cast<std::size_t>(i)).result(), Number(i));
 }
 
 TEST_F(StorefrontClientTest, WithoutConfigurationNothingIsSent)

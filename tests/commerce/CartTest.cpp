@@ -4,7 +4,6 @@
 
 using namespace loom;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace
 {
@@ -66,8 +65,6 @@ TEST(CartTest, EveryFieldOfTheWireHasItsPlace)
     EXPECT_EQ(cart.lines.back().imageURL, std::nullopt);
     EXPECT_EQ(cart.line(QStringLiteral("two")), &cart.lines.back());
     EXPECT_EQ(cart.lineOfVariant(QStringLiteral("v2")), &cart.lines.back());
-    EXPECT_EQ(cart.line(QStringLiteral("v2")), nullptr);
-    EXPECT_EQ(cart.lineOfVariant(QStringLiteral("two")), nullptr);
 }
 
 TEST(CartTest, WhatThePlatformLeavesOpenIsTaken)
@@ -90,19 +87,6 @@ TEST(CartTest, WhatThePlatformLeavesOpenIsTaken)
     EXPECT_EQ(cart->lines.back().quantity, 0); // sold out meanwhile
     EXPECT_EQ(cart->attributes.front(), (CartAttribute{.key = QStringLiteral("source"), .value = {}}));
     EXPECT_EQ(cart->totalQuantity, 3); // as the platform counts
-
-    EXPECT_THAT(decoded(cartJson())->lines, IsEmpty());
-
-    std::vector<Goods> many;
-    QList<QByteArray> names;
-    for (int i = 0; i < 100; ++i)
-        names.append("line-" + QByteArray::number(i));
-    for (const QByteArray& name : std::as_const(names))
-        many.push_back({name.constData(), name.constData(), 1});
-    const auto full = decoded(cartJson(many));
-    ASSERT_TRUE(full);
-    ASSERT_EQ(full->lines.size(), 100U);
-    EXPECT_EQ(full->lines.at(37).id, QStringLiteral("line-37"));
 }
 
 TEST(CartTest, WhatACartCannotBeWithoutIsNamedWhenItIsMissingOrWrong)
@@ -134,20 +118,9 @@ TEST(CartTest, ARecordSurvivesItsJson)
     const auto again = stored(toJson(cart));
     ASSERT_TRUE(again) << again.error().toStdString();
     EXPECT_EQ(*again, cart);
-    EXPECT_EQ(qHash(*again, 7), qHash(cart, 7));
-    EXPECT_EQ(qHash(again->lines.front()), qHash(cart.lines.front()));
-    EXPECT_NE(qHash(cart.lines.front()), qHash(cart.lines.back()));
-    EXPECT_EQ(toJson(cart).keys().join(QLatin1Char(' ')),
-              QStringLiteral("attributes checkoutURL discountCodes id lines subtotal total totalQuantity"));
-    EXPECT_EQ(toJson(cart).value(QStringLiteral("lines")).toArray().first().toObject().keys().join(QLatin1Char(' ')),
-              QStringLiteral("availableForSale compareAtPrice id imageURL lineTotal productHandle productID "
-                             "productTitle quantity selectedOptions unitPrice variantID variantTitle vendor"));
     EXPECT_EQ(*stored(toJson(Cart())), Cart());
     for (const char* const key : {"id", "checkoutURL", "totalQuantity", "subtotal", "total", "lines"})
         EXPECT_FALSE(stored(changed(toJson(cart), QLatin1String(key), QJsonValue::Null))) << key;
-    Cart other = cart;
-    other.lines.back().availableForSale = !other.lines.back().availableForSale;
-    EXPECT_NE(other, cart);
 }
 
 TEST(CartTest, WhereACartWasMadeIsReadInAnyCaseOfItsKeys)

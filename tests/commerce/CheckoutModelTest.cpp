@@ -80,8 +80,8 @@ TEST_F(CheckoutModelTest, APageGoesFromTheStartToTheOrder)
     model->loadStarted(handOver);
     EXPECT_EQ(model->phase(), Phase::Opening);
     model->loadStarted(page);
-    EXPECT_EQ(get("connectionText"), QStringLiteral("Secure connection to shop.example"));
     EXPECT_FALSE(model->loadFinished(page));
+    EXPECT_EQ(get("connectionText"), QStringLiteral("Secure connection to shop.example"));
     EXPECT_EQ(model->phase(), Phase::Page);
     EXPECT_THAT(announced, IsEmpty());
     model->loadStarted(thanks);
@@ -101,7 +101,7 @@ TEST_F(CheckoutModelTest, APageGoesFromTheStartToTheOrder)
     EXPECT_FALSE(model->loadFinished(thanks));
     EXPECT_FALSE(model->loadFinished(page));
     model->loadFailed(QStringLiteral("late"));
-    model->loadStopped();
+    EXPECT_FALSE(model->loadStopped(thanks));
     model->rendererGone();
     model->reload();
     confirm("Order #2000");
@@ -136,7 +136,9 @@ TEST_F(CheckoutModelTest, TheTextsAroundThePage)
     EXPECT_EQ(make(handOver, 2)->summaryText(), QStringLiteral("2 pieces  ·  confirmation sent to your email"));
     EXPECT_TRUE(get("userAgent").endsWith(QStringLiteral("Version/18.0 Safari/605.1.15 LOOMSTREETMac/1.2.3")));
     EXPECT_EQ(model->pictures(), QStringList{QStringLiteral("https://pictures.example/ink.jpg")});
-    model->loadStarted(QUrl(QStringLiteral("http://shop.example/")));
+    model->loadStarted(QUrl(QStringLiteral("https://evil.example/"))); // refused, and told of all the same
+    EXPECT_NE(get("connectionText"), QStringLiteral("Secure connection to evil.example"));
+    EXPECT_FALSE(model->loadFinished(QUrl(QStringLiteral("http://shop.example/"))));
     EXPECT_FALSE(model->isSecure());
     EXPECT_EQ(get("connectionText"), QStringLiteral("Connection is not secure"));
     model->close();
@@ -146,31 +148,37 @@ TEST_F(CheckoutModelTest, ThePageGoesOnlyWhereItMay)
 {
     struct Row {
         const char* url;
-        bool isClick;
         bool mayGo;
-        bool isOpenedOutside;
+        const char* refusedHost;
     };
     for (const Row& row : {
-             Row{"https://shop.example/checkouts/c/1", false, true, false},
-             Row{"https://shop.example/checkouts/c/1", true, true, false},
-             Row{"https://shop.example/cart/c/a?key=1", false, false, false}, // not where this one began
-             Row{"https://shop.example/policies/terms", true, false, true},
-             Row{"https://shop.example/policies/terms", false, false, false},
-             Row{"http://shop.example/policies/terms", true, false, false},
-             Row{"file:///etc/passwd", true, false, false},
-             Row{"data:text/html,x", true, false, false},
-             Row{"javascript:alert(1)", true, false, false},
+             Row{"https://shop.example/checkouts/c/1", true, ""},
+             Row{"https://shop.example/cart/c/a?key=1", false, "shop.example"}, // not where this one began
+             Row{"https://www.example/policies/terms", false, "www.example"},
+             Row{"http://shop.example/policies/terms", false, ""},
+             Row{"file:///etc/passwd", false, ""},
+             Row{"data:text/html,x", false, ""},
+             Row{"javascript:alert(1)", false, ""},
          }) {
-        opened.clear();
-        EXPECT_EQ(model->mayNavigate(QUrl(QString::fromLatin1(row.url)), row.isClick), row.mayGo) << row.url;
-        EXPECT_EQ(!opened.empty(), row.isOpenedOutside) << row.url;
+        model->forgetRefusedLink();
+        EXPECT_EQ(model->mayNavigate(QUrl(QString::fromLatin1(row.url))), row.mayGo) << row.url;
+        EXPECT_EQ(model->refusedHost(), QLatin1String(row.refusedHost)) << row.url;
     }
-    EXPECT_TRUE(model->mayNavigate(handOver, false));
+    EXPECT_THAT(opened, ElementsAre()); // a page can click by itself
+    const QUrl terms(QStringLiteral("https://www.example/policies/terms"));
+    EXPECT_FALSE(model->mayNavigate(terms));
+    model->openRefusedLink();
+    EXPECT_THAT(opened, ElementsAre(terms));
+    EXPECT_EQ(model->refusedHost(), QString());
+
+    EXPECT_TRUE(model->mayNavigate(handOver));
     renew(cartAddress);
-    EXPECT_TRUE(model->mayNavigate(cartAddress, false)); // the start, whatever its path
-    EXPECT_FALSE(model->mayNavigate(QUrl(QStringLiteral("https://shop.example/cart/c/b?key=1")), false));
+    EXPECT_TRUE(model->mayNavigate(cartAddress)); // the start, whatever its path
+    EXPECT_FALSE(model->mayNavigate(QUrl(QStringLiteral("https://shop.example/cart/c/b?key=1"))));
+    EXPECT_FALSE(model->loadFinished(page));
+    EXPECT_FALSE(model->mayNavigate(cartAddress));
     model->close();
-    EXPECT_FALSE(model->mayNavigate(page, true));
+    EXPECT_FALSE(model->mayNavigate(page));
 }
 
 TEST_F(CheckoutModelTest, APageThatDiesIsRebuiltOnceAndThenGivenUp)
@@ -183,7 +191,8 @@ TEST_F(CheckoutModelTest, APageThatDiesIsRebuiltOnceAndThenGivenUp)
              clock.advance(60s);
          },
          "The page took too long to load."},
-        {[this] { model->loadStopped(); }, "The page leads out of the checkout."},
+        {[this] { EXPECT_FALSE(model->loadStopped(QUrl(QStringLiteral("about:blank")))); },
+         "The page leads out of the checkout."},
     };
     for (const auto& [die, reason] : deaths) {
         SCOPED_TRACE(reason);
@@ -237,7 +246,7 @@ TEST_F(CheckoutModelTest, EachLoadHasAMinute)
     clock.advance(60s);
     EXPECT_EQ(model->phase(), Phase::Opening);
     EXPECT_EQ(model->generation(), 1);
-    model->loadStopped(); // of a page that was refused before anything was shown
+    EXPECT_FALSE(model->loadStopped({})); // of a page that was refused before anything was shown
     EXPECT_EQ(model->generation(), 2);
 }
 
@@ -246,10 +255,18 @@ TEST_F(CheckoutModelTest, AShownPageThatIsRefusedANavigationStays)
     model->loadStarted(page);
     EXPECT_FALSE(model->loadFinished(page));
     model->loadStarted(page);
-    model->loadStopped();
+    EXPECT_FALSE(model->loadStopped(page));
     EXPECT_EQ(model->phase(), Phase::Page);
     EXPECT_EQ(model->generation(), 0);
     EXPECT_EQ(clock.sleepers(), 0);
+
+    // Also one that wants to leave while it loads, and the thanks for an order at that.
+    renew();
+    model->loadStarted(handOver);
+    EXPECT_FALSE(model->loadStopped(page));
+    EXPECT_EQ(model->phase(), Phase::Page);
+    EXPECT_TRUE(model->loadStopped(thanks));
+    EXPECT_EQ(model->phase(), Phase::Completed);
 }
 
 TEST_F(CheckoutModelTest, AClosedWindowHasNoMoreToSay)

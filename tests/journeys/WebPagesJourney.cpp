@@ -11,12 +11,7 @@ namespace
 class WebPagesJourney : public Journey
 {
 protected:
-    // The engine's own modules, when they are loaded.
-    WebPagesJourney()
-    {
-        tolerate(QStringLiteral("You should not use it as a QML type."));
-        tolerate(QStringLiteral("crbug/"));
-    }
+    WebPagesJourney() { tolerateEngine(); }
 
     [[nodiscard]] WebViewDriver page() const { return WebViewDriver(window); }
 };

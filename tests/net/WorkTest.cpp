@@ -55,18 +55,6 @@ protected:
     std::unique_ptr<Shelf> shelf = std::make_unique<Shelf>(clock, log);
 };
 
-TEST_F(WorkTest, IsRunningFromBeginToEnd)
-{
-    EXPECT_FALSE(shelf->loading().isRunning());
-    load(10ms, "a");
-    EXPECT_TRUE(shelf->loading().isRunning());
-    clock.advance(10ms);
-    EXPECT_FALSE(shelf->loading().isRunning());
-    load(0ms, "b");
-    clock.advance(0ms);
-    EXPECT_THAT(log, ElementsAre("busy", "shown a", "idle", "busy", "shown b", "idle"));
-}
-
 TEST_F(WorkTest, TheLatestWinsWithoutAFlicker)
 {
     load(10ms, "a");

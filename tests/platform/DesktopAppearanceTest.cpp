@@ -106,15 +106,6 @@ TEST_F(DesktopAppearanceTest, WhatTheDesktopSaysIsObeyedAtTheStartAndWhenItChang
     }
 }
 
-TEST_F(DesktopAppearanceTest, AnUnknownSettingLeavesTheOthers)
-{
-    portal.put(interface, textScale, 1.5);
-    portal.appear();
-    const auto running = startApplication();
-    EXPECT_EQ(running->line(), plain);
-    EXPECT_EQ(running->line(), QStringLiteral("light moving 1.5"));
-}
-
 TEST_F(DesktopAppearanceTest, APortalThatComesLaterIsHeardAndNobodyInItsPlace)
 {
     const auto running = startApplication();

@@ -82,16 +82,4 @@ TEST_F(KeychainSecureStoreTest, TheFilesAreChosenWhereThereIsNoWalletAndStayChos
     wallet->crash();
 }
 
-TEST_F(KeychainSecureStoreTest, TheWalletIsChosenWhereItWorks)
-{
-    const auto wallet = openWallet(session);
-    const auto running = session.probe({QStringLiteral("chosen"), session.home.path()});
-    EXPECT_EQ(ask(*running, "store lst_auth 61"), stored);
-    EXPECT_EQ(ask(*running, "read lst_auth"), QStringLiteral("found 61"));
-    EXPECT_FALSE(QFile::exists(session.home.path() + QStringLiteral("/.secret-lst_auth")));
-    running->closeInput();
-    EXPECT_EQ(running->exitCode(), 0);
-    wallet->crash();
-}
-
 } // namespace

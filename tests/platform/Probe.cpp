@@ -98,19 +98,19 @@ int runAppearance()
     return runUntilTold();
 }
 
-QCoro::Task<> obey(SecureStore& store, QStringList words)
+QCoro::Task<> obey(SecureStore* store, QStringList words)
 {
     const QString key = words.value(1);
     if (words.value(0) == QLatin1String("store")) {
-        const auto done = co_await store.store(key, QByteArray::fromHex(words.value(2).toLatin1()));
+        const auto done = co_await store->store(key, QByteArray::fromHex(words.value(2).toLatin1()));
         print(done ? QStringLiteral("stored") : QStringLiteral("failed"));
     } else if (words.value(0) == QLatin1String("read")) {
-        const auto found = co_await store.read(key);
+        const auto found = co_await store->read(key);
         print(!found                ? QStringLiteral("failed")
               : !found->has_value() ? QStringLiteral("nothing")
                                     : QStringLiteral("found ") + QString::fromLatin1((*found)->toHex()));
     } else {
-        const auto done = co_await store.remove(key);
+        const auto done = co_await store->remove(key);
         print(done ? QStringLiteral("removed") : QStringLiteral("failed"));
     }
 }
@@ -119,7 +119,7 @@ QCoro::Task<> obey(SecureStore& store, QStringList words)
 int runSecrets()
 {
     KeychainSecureStore store;
-    return runUntilTold([&store](const QStringList& words) { static_cast<void>(obey(store, words)); });
+    return runUntilTold([&store](const QStringList& words) { static_cast<void>(obey(&store, words)); });
 }
 
 /// chosen FOLDER: the same, with files where the wallet does not work
@@ -129,7 +129,7 @@ int runChosen(const QString& path)
     Preferences preferences(folder);
     ChosenSecureStore store(preferences, std::make_unique<KeychainSecureStore>(),
                             std::make_unique<FileSecureStore>(path));
-    return runUntilTold([&store](const QStringList& words) { static_cast<void>(obey(store, words)); });
+    return runUntilTold([&store](const QStringList& words) { static_cast<void>(obey(&store, words)); });
 }
 
 /// options [argument…]

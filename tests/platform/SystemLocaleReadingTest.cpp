@@ -9,30 +9,6 @@ using namespace loom;
 namespace
 {
 
-TEST(SystemLocaleReadingTest, ALocaleIsReadAsItsCodes)
-{
-    struct Row {
-        const char* name;
-        const char* language;
-        const char* script;
-        const char* region;
-    };
-    for (const Row& row : {
-             Row{"en_US", "en", "Latn", "US"},
-             Row{"de_AT", "de", "Latn", "AT"},
-             Row{"zh_TW", "zh", "Hant", "TW"},
-             Row{"zh_Hans_HK", "zh", "Hans", "HK"},
-             Row{"es_419", "es", "Latn", "419"},
-             Row{"nb_NO", "nb", "Latn", "NO"},
-             Row{"fil_PH", "fil", "Latn", "PH"},
-             Row{"C", "en", "", ""},
-         })
-        EXPECT_EQ(readLocale(QLocale(QLatin1String(row.name))), (SystemLocale{.language = QLatin1String(row.language),
-                                                                              .script = QLatin1String(row.script),
-                                                                              .region = QLatin1String(row.region)}))
-            << row.name;
-}
-
 TEST(SystemLocaleReadingTest, TheLanguageIsThatOfTheWindowsAndThePlaceThatOfTheMoney)
 {
     struct Row {

@@ -57,15 +57,10 @@ export const operations = {
   Recommendations: inContext('query', 'Recommendations', '$productId: ID!', 'productRecommendations(productId: $productId) { ...ListItem }', `${listItem}\n`),
   Products: inContext('query', 'Products', '$first: Int!, $after: String, $query: String, $sortKey: ProductSortKeys, $reverse: Boolean',
     `products(first: $first, after: $after, query: $query, sortKey: $sortKey, reverse: $reverse) { nodes { ...ListItem } ${page} }`, `${listItem}\n`),
-  Suggest: inContext('query', 'Suggest', '$q: String!',
-    'predictiveSearch(query: $q, limit: 6, types: [PRODUCT, QUERY, COLLECTION]) { queries { text } products { id handle title vendor featuredImage { url } } collections { handle title } }'),
   SkuImage: 'query SkuImage($handle: String!) { product(handle: $handle) { featuredImage { url } variants(first: 100) { nodes { title image { url } } } } }',
   CollectionProducts: inContext('query', 'CollectionProducts',
     '$handle: String!, $first: Int!, $after: String, $filters: [ProductFilter!], $sortKey: ProductCollectionSortKeys, $reverse: Boolean',
     `collection(handle: $handle) { id handle title image { url } products(first: $first, after: $after, filters: $filters, sortKey: $sortKey, reverse: $reverse) { nodes { ...ListItem } ${page} ${filters} } }`, `${listItem}\n`),
-  Search: inContext('query', 'Search',
-    '$query: String!, $first: Int!, $after: String, $filters: [ProductFilter!], $sortKey: SearchSortKeys, $reverse: Boolean',
-    `search(query: $query, first: $first, after: $after, types: PRODUCT, productFilters: $filters, sortKey: $sortKey, reverse: $reverse, unavailableProducts: LAST) { totalCount nodes { ... on Product { ...ListItem } } ${page} ${filters.replace('filters', 'productFilters')} }`, `${listItem}\n`),
   CollectionProductCount:
     'query CollectionProductCount($handle: String!, $after: String, $filters: [ProductFilter!], $country: CountryCode) @inContext(country: $country) ' +
     `{ collection(handle: $handle) { products(first: 250, after: $after, filters: $filters) { nodes { id } ${page} } } }`,

@@ -13,6 +13,7 @@ Row {
     // Where both do not fit in this, the former price is only said.
     property real room: Infinity
 
+    readonly property bool cramped: former.text !== "" && !former.visible
     readonly property string sentence: formerPrice === "" ? price
             : qsTranslate("Loomstreet", "%1, was %2").arg(Bidi.isolate(price)).arg(Bidi.isolate(formerPrice))
 
@@ -34,6 +35,8 @@ Row {
         Accessible.ignored: true
     }
     TextLabel {
+        id: former
+
         objectName: "formerPrice"
         visible: text !== "" && current.implicitWidth + label.spacing + implicitWidth <= label.room
         text: label.formerPrice

@@ -53,7 +53,7 @@ Column {
     CartNotice {
         objectName: "buyMessage"
         width: parent.width
-        sentence: buttons.buying?.message || (buttons.paid ? buttons.app.checkout.errorText : "")
+        sentence: buttons.buying?.message || (buttons.paid ? buttons.app.checkout.buyErrorText : "")
         iconName: "warning"
         tone: Theme.danger
     }

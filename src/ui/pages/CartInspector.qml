@@ -18,6 +18,8 @@ FocusScope {
     readonly property CartModel cart: app.cart
     readonly property int presentation: cart.presentation
     readonly property bool hasLines: presentation === CartModel.Lines
+    readonly property real restHeight: shipping.height + offers.height + sum.height + 2 * Theme.space1
+    readonly property bool cramped: hasLines && !beside && height - restHeight < 176
     readonly property int sumWidth: beside ? Theme.layoutBuyBox : width
 
     signal shoppingContinued()
@@ -78,91 +80,120 @@ FocusScope {
         }
     }
 
-    Column {
-        id: shipping
+    // Where too little room would be left for the lines, all of it scrolls.
+    Flickable {
+        id: flick
 
-        anchors { left: inspector.beside ? sum.left : parent.left; right: parent.right; top: parent.top }
-        visible: inspector.hasLines && inspector.cart.hasShipping
-        height: visible ? implicitHeight : 0
+        anchors.fill: parent
+        contentHeight: stage.height
+        interactive: inspector.cramped
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        ScrollBar.vertical: ScrollBar { visible: inspector.cramped }
 
-        CartShipping {
-            anchors { left: parent.left; right: parent.right; margins: inspector.sumPadding }
-            topPadding: Theme.space2
-            bottomPadding: Theme.space2
-            cart: inspector.cart
-        }
-        Hairline { width: parent.width }
-    }
-    CartLines {
-        id: lines
+        FocusFollower { flickable: flick }
 
-        anchors { left: parent.left; right: inspector.beside ? sum.left : parent.right }
-        anchors { top: inspector.beside ? parent.top : shipping.bottom; bottom: offers.top }
-        anchors { leftMargin: inspector.padding; rightMargin: inspector.padding; topMargin: Theme.space1 }
-        visible: inspector.hasLines
-        cart: inspector.cart
-        backdrop: inspector.backdrop
-        onPieceOpened: handle => inspector.pieceOpened(handle)
-    }
-    // What was taken out can be put back, also into an empty cart.
-    Column {
-        id: offers
+        Item {
+            id: stage
 
-        anchors { left: lines.left; right: lines.right }
-        anchors { bottom: inspector.beside || !inspector.hasLines ? parent.bottom : sum.top }
-        anchors { bottomMargin: height > 0 ? Theme.space1 : 0 }
+            width: flick.width
+            height: inspector.cramped ? inspector.restHeight + lines.fullHeight : flick.height
 
-        CartNotice {
-            objectName: "undo"
-            width: parent.width
-            sentence: inspector.cart.removedTitle === "" ? ""
-                      : qsTranslate("Loomstreet", "%1 was taken out.").arg(inspector.cart.removedTitle)
-            iconName: "trash"
-            tone: Theme.ink
-            actionText: qsTranslate("Loomstreet", "Undo")
-            onActed: inspector.cart.undoRemoval()
-        }
-        CartNotice {
-            objectName: "lost"
-            width: parent.width
-            sentence: inspector.cart.lostCount === 0 ? ""
-                      : inspector.cart.lostCount === 1
-                        ? qsTranslate("Loomstreet", "Your earlier cart has expired. 1 item was in it.")
-                        : qsTranslate("Loomstreet", "Your earlier cart has expired. %1 items were in it.").arg(inspector.cart.lostCount)
-            tone: Theme.ink
-            actionText: qsTranslate("Loomstreet", "Put back")
-            busy: inspector.cart.isPuttingBack
-            dismissable: true
-            onActed: inspector.cart.restoreLostLines()
-            onDismissed: inspector.cart.forgetLostLines()
-        }
-    }
-    Item {
-        id: sum
+            Column {
+                id: shipping
 
-        anchors { right: parent.right; bottom: parent.bottom }
-        anchors { top: inspector.beside ? shipping.bottom : undefined }
-        width: inspector.sumWidth
-        height: summary.height + 2 * Theme.space2
-        visible: inspector.hasLines
+                anchors { left: inspector.beside ? sum.left : parent.left; right: parent.right; top: parent.top }
+                visible: inspector.hasLines && inspector.cart.hasShipping
+                height: visible ? implicitHeight : 0
 
-        Hairline {
-            anchors { left: parent.left; right: parent.right }
-            visible: !inspector.beside
-        }
-        Hairline {
-            anchors { top: parent.top; topMargin: -shipping.height; bottom: parent.bottom; left: parent.left }
-            width: Theme.strokeHairline
-            visible: inspector.beside
-        }
-        CartSummary {
-            id: summary
+                CartShipping {
+                    anchors { left: parent.left; right: parent.right; margins: inspector.sumPadding }
+                    topPadding: Theme.space2
+                    bottomPadding: Theme.space2
+                    cart: inspector.cart
+                }
+                Hairline { width: parent.width }
+            }
+            CartLines {
+                id: lines
 
-            anchors { left: parent.left; right: parent.right; leftMargin: inspector.sumPadding; rightMargin: inspector.sumPadding }
-            y: Theme.space2
-            app: inspector.app
-            session: inspector.session
-            onShoppingContinued: inspector.shoppingContinued()
+                anchors { left: parent.left; right: inspector.beside ? sum.left : parent.right }
+                anchors { top: inspector.beside ? parent.top : shipping.bottom; bottom: offers.top }
+                anchors { leftMargin: inspector.padding; rightMargin: inspector.padding; topMargin: Theme.space1 }
+                visible: inspector.hasLines
+                cart: inspector.cart
+                backdrop: inspector.backdrop
+                unrolled: inspector.cramped
+                onPieceOpened: handle => inspector.pieceOpened(handle)
+            }
+            // What was taken out can be put back, also into an empty cart.
+            Column {
+                id: offers
+
+                anchors { left: lines.left; right: lines.right }
+                anchors { bottom: inspector.beside || !inspector.hasLines ? parent.bottom : sum.top }
+                anchors { bottomMargin: height > 0 ? Theme.space1 : 0 }
+
+                CartNotice {
+                    objectName: "cartError"
+                    width: parent.width
+                    sentence: inspector.presentation === CartModel.Failed ? "" : inspector.cart.errorText
+                    iconName: "warning"
+                    tone: Theme.danger
+                }
+                CartNotice {
+                    objectName: "undo"
+                    width: parent.width
+                    sentence: inspector.cart.removedTitle === "" ? ""
+                              : qsTranslate("Loomstreet", "%1 was taken out.").arg(inspector.cart.removedTitle)
+                    iconName: "trash"
+                    tone: Theme.ink
+                    actionText: qsTranslate("Loomstreet", "Undo")
+                    onActed: inspector.cart.undoRemoval()
+                }
+                CartNotice {
+                    objectName: "lost"
+                    width: parent.width
+                    sentence: inspector.cart.lostCount === 0 ? ""
+                              : inspector.cart.lostCount === 1
+                                ? qsTranslate("Loomstreet", "Your earlier cart has expired. 1 item was in it.")
+                                : qsTranslate("Loomstreet", "Your earlier cart has expired. %1 items were in it.").arg(inspector.cart.lostCount)
+                    tone: Theme.ink
+                    actionText: qsTranslate("Loomstreet", "Put back")
+                    busy: inspector.cart.isPuttingBack
+                    dismissable: true
+                    onActed: inspector.cart.restoreLostLines()
+                    onDismissed: inspector.cart.forgetLostLines()
+                }
+            }
+            Item {
+                id: sum
+
+                anchors { right: parent.right; bottom: parent.bottom }
+                anchors { top: inspector.beside ? shipping.bottom : undefined }
+                width: inspector.sumWidth
+                height: summary.height + 2 * Theme.space2
+                visible: inspector.hasLines
+
+                Hairline {
+                    anchors { left: parent.left; right: parent.right }
+                    visible: !inspector.beside
+                }
+                Hairline {
+                    anchors { top: parent.top; topMargin: -shipping.height; bottom: parent.bottom; left: parent.left }
+                    width: Theme.strokeHairline
+                    visible: inspector.beside
+                }
+                CartSummary {
+                    id: summary
+
+                    anchors { left: parent.left; right: parent.right; leftMargin: inspector.sumPadding; rightMargin: inspector.sumPadding }
+                    y: Theme.space2
+                    app: inspector.app
+                    session: inspector.session
+                    onShoppingContinued: inspector.shoppingContinued()
+                }
+            }
         }
     }
 }

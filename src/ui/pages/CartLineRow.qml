@@ -115,6 +115,20 @@ FocusScope {
                 type: Theme.type.small
                 color: Theme.muted
             }
+            // Where it does not fit beside the price.
+            TextLabel {
+                objectName: "formerAbove"
+                width: parent.width
+                visible: priceLabel.cramped
+                text: row.formerPrice
+                type: Theme.type.price
+                figures: true
+                color: Theme.muted
+                font.strikeout: true
+                font.weight: Font.Normal
+                horizontalAlignment: Text.AlignRight
+                Accessible.ignored: true
+            }
             TextLabel {
                 objectName: "note"
                 width: parent.width
@@ -158,6 +172,8 @@ FocusScope {
                 onClicked: row.cart.remove(row.lineId)
             }
             PriceLabel {
+                id: priceLabel
+
                 anchors { right: parent.right; verticalCenter: stepper.verticalCenter }
                 price: row.price
                 formerPrice: row.formerPrice

@@ -41,9 +41,7 @@ Column {
             id: goal
 
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-            width: visible ? implicitWidth : 0
-            visible: !shipping.cart.isShippingFree
-            text: shipping.cart.shippingThreshold
+            text: shipping.cart.isShippingFree ? "" : shipping.cart.shippingThreshold
             type: Theme.type.small
             figures: true
             color: Theme.muted

@@ -88,7 +88,7 @@ Column {
     CartNotice {
         objectName: "checkoutError"
         width: parent.width
-        sentence: summary.checkout.errorText
+        sentence: summary.checkout.cartErrorText
         iconName: "warning"
         tone: Theme.danger
     }

@@ -59,7 +59,7 @@ PageBase {
         id: strip
 
         objectName: "strip"
-        offline: [page.collections, page.newIn, page.finalSale].some(model => model?.isOffline ?? false)
+        offline: (page.collections?.isOffline || page.newIn?.isOffline || page.finalSale?.isOffline) ?? false
         canRetry: true
         onRetry: page.reload()
         width: parent.width

@@ -12,6 +12,7 @@ Column {
     readonly property int first: 3
     readonly property int step: 10
     readonly property var all: summary.reviews ?? []
+    property bool hasMore: false
 
     signal pictureOpened(var pictures, int index)
 
@@ -20,6 +21,7 @@ Column {
             shown.append({ number: shown.count })
         if (shown.count > all.length)
             shown.remove(all.length, shown.count - all.length)
+        hasMore = shown.count < all.length
     }
 
     onAllChanged: reveal(Math.max(first, shown.count))
@@ -78,7 +80,7 @@ Column {
     PushButton {
         objectName: "more"
         anchors.left: parent.left
-        visible: shown.count < reviews.all.length
+        visible: reviews.hasMore
         size: "small"
         text: qsTranslate("Loomstreet", "More reviews")
         onClicked: reviews.reveal(shown.count + reviews.step)

@@ -19,6 +19,7 @@ Panel {
     title: qsTranslate("Loomstreet", "Shopping bag")
     open: session.isCartOpen
     onCloseAsked: close()
+    onOpenChanged: if (open) app.checkout.forgetError()
 
     headerActions: IconButton {
         objectName: "expandCart"

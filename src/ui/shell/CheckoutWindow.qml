@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Loomstreet.Components
 import Loomstreet.Model
+import Loomstreet.Pages
 import Loomstreet.Theme
 
 // Paying, in a window of its own: the platform's page below a line that says where one is. The browser engine comes
@@ -123,12 +124,28 @@ Window {
 
             anchors { left: parent.left; right: parent.right; top: header.bottom; bottom: parent.bottom }
 
+            // A page can follow a link by itself; where it leads out, the shopper is asked.
+            CartNotice {
+                id: leaving
+
+                objectName: "leaving"
+                anchors { left: parent.left; right: parent.right; top: parent.top; leftMargin: Theme.space2; rightMargin: Theme.space1 }
+                sentence: window.checkout.refusedHost === "" || window.phase !== CheckoutModel.Page ? ""
+                          : qsTranslate("Loomstreet", "A link of this page leads out of the checkout, to %1.")
+                            .arg(window.checkout.refusedHost)
+                tone: Theme.ink
+                actionText: qsTranslate("Loomstreet", "Open in Browser")
+                dismissable: true
+                onActed: window.checkout.openRefusedLink()
+                onDismissed: window.checkout.forgetRefusedLink()
+            }
             Loader {
                 id: page
 
                 objectName: "page"
-                anchors.fill: parent
+                anchors { left: parent.left; right: parent.right; top: leaving.bottom; bottom: parent.bottom }
                 focus: true
+                enabled: !window.isOpening
                 onStatusChanged: if (status === Loader.Error) window.checkout.loadFailed("")
             }
             Rectangle {

@@ -80,6 +80,14 @@ FocusScope {
         onWindowCloseRequested: popup.closed()
         onRenderProcessTerminated: popup.closed()
         onFeaturePermissionRequested: (securityOrigin, feature) => grantFeaturePermission(securityOrigin, feature, false)
+        // There is nobody to ask before a page is left, and nothing to tell a page that asks.
+        onJavaScriptDialogRequested: request => {
+            request.accepted = true
+            if (request.type === JavaScriptDialogRequest.DialogTypeConfirm || request.type === JavaScriptDialogRequest.DialogTypePrompt)
+                request.dialogReject()
+            else
+                request.dialogAccept()
+        }
         onAuthenticationDialogRequested: request => {
             request.accepted = true
             request.dialogReject()

@@ -10,10 +10,6 @@ Item {
 
     readonly property alias view: web
 
-    function isClick(request: var): bool {
-        return request.navigationType === WebEngineNavigationRequest.LinkClickedNavigation
-    }
-
     focus: true
     Accessible.ignored: true
 
@@ -43,7 +39,7 @@ Item {
 
         onNavigationRequested: request => {
             // Frames are the page's own affair: the bank's questions live in them.
-            if (!request.isMainFrame || holder.checkout.mayNavigate(request.url, holder.isClick(request)))
+            if (!request.isMainFrame || holder.checkout.mayNavigate(request.url))
                 request.accept()
             else
                 request.reject()
@@ -54,6 +50,14 @@ Item {
                 popup.open(request)
         }
         onFeaturePermissionRequested: (securityOrigin, feature) => grantFeaturePermission(securityOrigin, feature, false)
+        // There is nobody to ask before a page is left, and nothing to tell a page that asks.
+        onJavaScriptDialogRequested: request => {
+            request.accepted = true
+            if (request.type === JavaScriptDialogRequest.DialogTypeConfirm || request.type === JavaScriptDialogRequest.DialogTypePrompt)
+                request.dialogReject()
+            else
+                request.dialogAccept()
+        }
         onAuthenticationDialogRequested: request => {
             request.accepted = true
             request.dialogReject()
@@ -81,7 +85,9 @@ Item {
                     web.readText()
                 break
             case WebEngineView.LoadStoppedStatus:
-                holder.checkout.loadStopped()
+                // The address alone does not tell whether a document is there: it is shown from the first request on.
+                if (holder.checkout.loadStopped(web.history.items.rowCount() > 0 ? web.url : ""))
+                    web.readText()
                 break
             case WebEngineView.LoadFailedStatus:
                 holder.checkout.loadFailed(info.errorString)

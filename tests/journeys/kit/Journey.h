@@ -28,6 +28,8 @@ protected:
 
     /// Warnings with these words in them are what the journey is about.
     void tolerate(const QString& words) { m_tolerated.append(words); }
+    /// What the browser engine says of its own modules, when they are loaded.
+    void tolerateEngine();
 
     Sandbox store;
     std::unique_ptr<Shop> shop;

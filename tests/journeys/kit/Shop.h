@@ -65,8 +65,10 @@ public:
     WindowDriver checkoutWindow();
     /// Those that can be seen.
     [[nodiscard]] static QList<QQuickWindow*> checkoutWindows();
-    /// A cart of these pieces is there from an earlier run, and comes with the next look at it.
-    void leaveCart(std::vector<CartLineInput> lines);
+    /// A cart of these pieces is there from an earlier run, and comes with the next look at it. Returns its ID.
+    QString leaveCart(std::vector<CartLineInput> lines);
+    /// So many variants that can be bought, one of each.
+    [[nodiscard]] std::vector<CartLineInput> anyPieces(std::size_t count);
     /// The variants of a piece.
     [[nodiscard]] std::vector<ProductVariant> variants(const QString& handle);
 

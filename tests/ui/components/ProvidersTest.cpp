@@ -69,21 +69,6 @@ TEST_F(IconProviderTest, EveryIconDrawsSomethingAndKeepsWithinItsGrid)
     EXPECT_EQ(warnings, QStringList());
 }
 
-TEST_F(IconProviderTest, AnIconHasTheColourAndTheSizeAskedFor)
-{
-    for (const QSize size : {QSize(20, 20), QSize(16, 16), QSize(40, 40)}) {
-        const QImage image = draw(QStringLiteral("minus/A1251F"), size);
-        EXPECT_EQ(image.size(), size);
-        // Half-covered pixels lose a little to rounding.
-        const QColor ink = image.pixelColor(size.width() / 2, size.height() / 2);
-        EXPECT_NEAR(ink.red(), 0xA1, 2);
-        EXPECT_NEAR(ink.green(), 0x25, 2);
-        EXPECT_NEAR(ink.blue(), 0x1F, 2);
-    }
-    EXPECT_EQ(draw(QStringLiteral("minus/A1251F"), {}).size(), QSize(20, 20));
-    EXPECT_NE(draw(QStringLiteral("minus/A1251F")), draw(QStringLiteral("minus/1F4D40")));
-}
-
 TEST_F(IconProviderTest, AnUnknownNameDrawsNothingAndIsReportedOnce)
 {
     for (const char* id : {"no.such.icon/000000", "no.such.icon/FFFFFF", "no.such.icon/000000"})
@@ -95,24 +80,6 @@ TEST_F(IconProviderTest, AnIdThatIsNoIconReachesNoFile)
 {
     for (const char* id : {"", "/", "house", "house/", "house/nocolour", "../icons/house/000000", "/house/000000"})
         EXPECT_TRUE(isEmpty(draw(QLatin1String(id)))) << id;
-}
-
-TEST(ShadowProviderTest, AShadowIsSymmetricFadesOutwardsAndEndsBeforeItsEdge)
-{
-    ShadowProvider shadows;
-    QSize size;
-    const QImage image = shadows.requestImage(QStringLiteral("28/6/34/80000000"), &size, {});
-    ASSERT_EQ(size, QSize(125, 125));
-    const int middle = 62;
-    EXPECT_NEAR(image.pixelColor(middle, middle).alpha(), 128, 3);
-    EXPECT_NEAR(image.pixelColor(28, middle).alpha(), 64, 8) << "half as dark at the edge of the box";
-    EXPECT_LE(image.pixelColor(0, middle).alpha(), 2);
-    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
-    for (int x = 0; x < middle; ++x) {
-        EXPECT_LE(image.pixelColor(x, middle).alpha(), image.pixelColor(x + 1, middle).alpha());
-        EXPECT_NEAR(image.pixelColor(x, middle).alpha(), image.pixelColor(124 - x, middle).alpha(), 2);
-        EXPECT_NEAR(image.pixelColor(x, middle).alpha(), image.pixelColor(middle, x).alpha(), 1);
-    }
 }
 
 TEST(ShadowProviderTest, WhatIsNoShadowGivesNoImageAndNoSizeIsTooLarge)

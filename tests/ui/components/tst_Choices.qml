@@ -91,15 +91,6 @@ TestCase {
         compare(control.value, 3)
     }
 
-    Component { id: soldOut; SizeButton { text: "L"; soldOut: true } }
-    function test_aSoldOutSizeCanBeReachedAndIsStruckThrough() {
-        const button = createTemporaryObject(soldOut, test)
-        button.forceActiveFocus(Qt.TabFocusReason)
-        verify(button.activeFocus && button.enabled)
-        verify(findChild(button, "label").font.strikeout)
-        compare(button.opacity, 1)
-    }
-
     Component {
         id: disclosure
 

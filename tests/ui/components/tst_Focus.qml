@@ -38,16 +38,6 @@ TestCase {
         verify(ringOf(first).visible, "what has the focus is shown as soon as a key is used")
     }
 
-    function test_theRingLiesTwoPixelsOutsideAndFollowsTheCorners() {
-        first.forceActiveFocus()
-        keyClick(Qt.Key_Right)
-        const ring = ringOf(first)
-        compare(ring.mapToItem(first, 0, 0), Qt.point(-4, -4))
-        compare(ring.width, first.width + 8)
-        compare(ring.border.width, 2)
-        compare(ring.radius, Theme.radiusControl + 4)
-    }
-
     function test_aFieldIsLabelledAndSaysItsErrorAndGivesTheFocusToItsText() {
         compare(AccessibleProbe.name(findChild(field, "input")), "Email")
         field.error = "That is not an address."
@@ -148,15 +138,6 @@ TestCase {
         panel.open = false
         verify(second.activeFocus)
     }
-
-    function test_aPanelCoversThePageWhereTooLittleOfItWouldRemain_data() {
-        return [{ tag: "wide", width: 960, panel: 400 }, { tag: "narrow", width: 959, panel: 959 }]
-    }
-    function test_aPanelCoversThePageWhereTooLittleOfItWouldRemain(row) {
-        const scene = createTemporaryObject(panels, test, { width: row.width })
-        compare(findChild(scene, "panel").panelWidth, row.panel)
-    }
-
     Component { id: toast; Toast { title: "Order placed"; actionText: "Open"; duration: 300 } }
     SignalSpy { id: dismissals; signalName: "dismissed" }
 

@@ -88,16 +88,6 @@ TestCase {
         verify(item.missing && !item.ready)
     }
 
-    function test_soldOutAndDarkAreQuieterAndNothingElseIs() {
-        const item = createTemporaryObject(picture, test, { address: "https://pictures.test/dim", soldOut: true })
-        tryCompare(item, "ready", true)
-        tryVerify(() => Math.abs(findChild(item, "image").opacity - 0.62) < 0.001)
-        verify(!findChild(item, "dim").visible)
-        Theme.appearance = "dark"
-        verify(findChild(item, "dim").visible)
-        fuzzyCompare(findChild(item, "dim").opacity, 0.07, 0.001)
-    }
-
     Component {
         id: mirrored
 

@@ -132,16 +132,4 @@ TestCase {
         keyClick(Qt.Key_Return)
         verify(second.checked && !first.checked)
     }
-
-    function test_theBadgeShowsNothingForNoneAndStopsCountingAtManyWithoutLosingTheNumber() {
-        const button = createTemporaryObject(iconButton, test)
-        const badge = findChild(button, "badge")
-        for (const row of [[0, false, ""], [1, true, "1"], [99, true, "99"], [100, true, "99+"]]) {
-            button.badge = row[0]
-            compare(badge.visible, row[1])
-            if (row[1])
-                compare(findChild(badge, "count").text, row[2])
-        }
-        compare(AccessibleProbe.description(button), "100")
-    }
 }

@@ -148,25 +148,6 @@ TestCase {
         compare(AccessibleProbe.name(plain), "128 pieces")
     }
 
-    Component { id: trail; Breadcrumb { crumbs: ["Women", "Dresses", "Sabine"] } }
-    SignalSpy { id: ups; signalName: "activated" }
-    function test_aBreadcrumbLeadsUpAndItsLastNameLeadsNowhere() {
-        const item = createTemporaryObject(trail, test)
-        ups.target = item
-        mouseClick(findChild(item, "crumb1"))
-        mouseClick(findChild(item, "crumb2"))
-        compare(ups.count, 1)
-        compare(ups.signalArguments[0][0], 1)
-    }
-
-    function test_coloursFollowTheAppearanceAtOnce() {
-        const item = createTemporaryObject(label, test, { text: "x" })
-        Theme.appearance = "light"
-        compare(item.color, Theme.lightColours.ink)
-        Theme.appearance = "dark"
-        compare(item.color, Theme.darkColours.ink)
-    }
-
     Component { id: skeleton; Skeleton { width: 100 } }
     function test_theSkeletonsClockRunsOnlyWhileOneIsSeenAndMotionIsWanted() {
         compare(SkeletonClock.watchers, 0)

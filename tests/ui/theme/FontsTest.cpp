@@ -1,13 +1,9 @@
 #include "ui/theme/Fonts.h"
 
-#include <QFile>
 #include <QFont>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGlyphRun>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRawFont>
 #include <QTextLayout>
 #include <gtest/gtest.h>
@@ -86,24 +82,6 @@ TEST_F(FontsTest, FiguresInTitlesStandOnTheLine)
         EXPECT_NEAR(-box.top(), capital, 8) << digit.toLatin1();
         EXPECT_LT(box.bottom(), 8) << digit.toLatin1();
     }
-}
-
-TEST_F(FontsTest, WhatStandsInIsWhatTheTableNames)
-{
-    QFile file(QStringLiteral(LOOM_TOKENS_FILE));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QJsonObject fonts = QJsonDocument::fromJson(file.readAll())[u"font"].toObject();
-    const auto fallback = [&fonts](const char* face) {
-        return fonts[QLatin1String(face)][u"fallback"].toVariant().toStringList();
-    };
-    const auto named = [](const QStringList& families) {
-        return families.join(u',').toLower().toStdString();
-    };
-    const QString inter = fonts[u"text"][u"family"].toString();
-    EXPECT_EQ(named(QFont::substitutes(inter)), named(fallback("text")));
-    EXPECT_EQ(named(QFont::substitutes(figures)), named(QStringList{inter} + fallback("text")));
-    EXPECT_EQ(named(QFont::substitutes(display)),
-              named(QStringList{fonts[u"display"][u"family"].toString()} + fallback("display")));
 }
 
 /// TypeScale.qml lays lines out by these numbers.

@@ -4,7 +4,6 @@
 
 #include <QQmlComponent>
 #include <QQmlEngine>
-#include <QSet>
 #include <QVariant>
 #include <gtest/gtest.h>
 
@@ -32,7 +31,6 @@ protected:
     {
         const QVariant found = m_theme->property(name.toLatin1().constData());
         EXPECT_TRUE(found.isValid()) << "Theme lacks " << name.toStdString();
-        m_seen.insert(name);
         return found;
     }
 
@@ -41,7 +39,6 @@ protected:
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QObject> m_holder;
     QObject* m_theme = nullptr;
-    mutable QSet<QString> m_seen;
 };
 
 } // namespace loom

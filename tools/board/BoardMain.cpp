@@ -1,4 +1,6 @@
-#include "TestEngine.h"
+#include "FakePictures.h"
+#include "ui/components/ImageProviders.h"
+#include "ui/theme/Fonts.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
@@ -24,8 +26,12 @@ int main(int argc, char** argv)
     });
     arguments.process(application);
 
+    loom::registerFonts();
+    loom::FakePictures pictures;
     QQmlApplicationEngine engine;
-    loom::prepareTestEngine(engine);
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.setNetworkAccessManagerFactory(&pictures);
+    loom::addImageProviders(engine);
     engine.setInitialProperties({
         {QStringLiteral("appearance"), arguments.value(QStringLiteral("appearance"))},
         {QStringLiteral("rightToLeft"), arguments.isSet(QStringLiteral("rtl"))},
