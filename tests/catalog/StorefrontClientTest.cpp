@@ -143,8 +143,6 @@ TEST_F(StorefrontClientTest, EveryFailureIsReportedAndOnlyAPassingOneIsTriedAgai
         return APIError{APIError::Decoding{QString::fromLatin1(why)}};
     };
     std::vector<Row> rows{
-        {Answer::drop(), {APIError::Offline{}}, false},
-        {Answer::body("{\"data\":{\"n\":1}}").cutAfter(9), {APIError::Offline{}}, false},
         {Answer::body(R"({"errors":[{"message":"no"}],"data":{"n":1}})"), refusal({QStringLiteral("no")}), false},
         {Answer::body(R"({"errors":[{"message":"a"},{"x":1},{"message":"b"}]})"),
          refusal({QStringLiteral("a"), QString(), QStringLiteral("b")}), false},
@@ -176,6 +174,17 @@ TEST_F(StorefrontClientTest, EveryFailureIsReportedAndOnlyAPassingOneIsTriedAgai
         }
         EXPECT_EQ(retried.result(), failed(row.error));
         EXPECT_EQ(sent(), before + (row.passes ? 4 : 2));
+        EXPECT_EQ(clock.sleepers(), 0);
+    }
+
+    // A connection that goes may take the next request with it, before it has been received.
+    for (const Answer& gone : {Answer::drop(), Answer::body("{\"data\":{\"n\":1}}").cutAfter(9)}) {
+        const std::size_t before = sent();
+        for (const Retry retry : {Retry::Never, Retry::Transient}) {
+            answer("Q", gone);
+            EXPECT_EQ(run(send(retry)), failed({APIError::Offline{}}));
+        }
+        EXPECT_LE(sent(), before + 2);
         EXPECT_EQ(clock.sleepers(), 0);
     }
 }
