@@ -144,20 +144,24 @@ void CartStore::endEnsuring(const std::shared_ptr<EnsurePromise>& promise, ApiRe
 {
     if (m_ensuring == promise)
         m_ensuring.reset();
-    promise->addResult(std::move(result));
-    promise->finish();
+    finish(*promise, std::move(result));
+}
+
+/// Also for those who wait for a store that is gone.
+void CartStore::finish(EnsurePromise& promise, ApiResult<QString> result)
+{
+    promise.addResult(std::move(result));
+    promise.finish();
 }
 
 QCoro::Task<> CartStore::ensure(std::shared_ptr<EnsurePromise> promise)
 {
     const std::stop_token stopped = stop();
     auto result = co_await findOrCreateCart();
-    if (!stopped.stop_requested()) {
+    if (stopped.stop_requested())
+        finish(*promise, std::move(result));
+    else
         endEnsuring(promise, std::move(result));
-        co_return;
-    }
-    promise->addResult(std::move(result));
-    promise->finish();
 }
 
 QCoro::Task<ApiResult<QString>> CartStore::findOrCreateCart()

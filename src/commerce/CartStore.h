@@ -148,6 +148,7 @@ private:
     [[nodiscard]] QCoro::Task<> load();
     [[nodiscard]] std::shared_ptr<EnsurePromise> beginEnsuring();
     void endEnsuring(const std::shared_ptr<EnsurePromise>& promise, ApiResult<QString> result);
+    static void finish(EnsurePromise& promise, ApiResult<QString> result);
     [[nodiscard]] QCoro::Task<> ensure(std::shared_ptr<EnsurePromise> promise);
     [[nodiscard]] QCoro::Task<ApiResult<QString>> findOrCreateCart();
     [[nodiscard]] QCoro::Task<> attribute(QString id);

@@ -54,8 +54,7 @@ QCoro::Task<ApiResult<AddOutcome>> CartStore::recreate(std::vector<CartLineInput
     forgetCart();
     auto created = co_await m_api.create(lines, stopped);
     if (stopped.stop_requested()) {
-        promise->addResult(Unexpected(Failure(Cancelled{})));
-        promise->finish();
+        finish(*promise, Unexpected(Failure(Cancelled{})));
         co_return Unexpected(Failure(Cancelled{}));
     }
     if (!created) {

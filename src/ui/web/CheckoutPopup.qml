@@ -55,19 +55,13 @@ FocusScope {
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         }
     }
-    WebEngineView {
+    GuardedWebView {
         id: web
 
         objectName: "popupView"
         anchors { left: parent.left; right: parent.right; top: header.bottom; bottom: parent.bottom }
         focus: true
         profile: popup.profile
-
-        settings.pluginsEnabled: false
-        settings.javascriptCanAccessClipboard: false
-        settings.localContentCanAccessRemoteUrls: false
-        settings.localContentCanAccessFileUrls: false
-        settings.screenCaptureEnabled: false
 
         onNavigationRequested: request => {
             const address = request.url.toString()
@@ -79,27 +73,5 @@ FocusScope {
         onNewWindowRequested: {}
         onWindowCloseRequested: popup.closed()
         onRenderProcessTerminated: popup.closed()
-        onFeaturePermissionRequested: (securityOrigin, feature) => grantFeaturePermission(securityOrigin, feature, false)
-        // There is nobody to ask before a page is left, and nothing to tell a page that asks.
-        onJavaScriptDialogRequested: request => {
-            request.accepted = true
-            if (request.type === JavaScriptDialogRequest.DialogTypeConfirm || request.type === JavaScriptDialogRequest.DialogTypePrompt)
-                request.dialogReject()
-            else
-                request.dialogAccept()
-        }
-        onAuthenticationDialogRequested: request => {
-            request.accepted = true
-            request.dialogReject()
-        }
-        onFileDialogRequested: request => {
-            request.accepted = true
-            request.dialogReject()
-        }
-        onContextMenuRequested: request => { request.accepted = true }
-        onPrintRequested: {}
-        onQuotaRequested: request => request.reject()
-        onRegisterProtocolHandlerRequested: request => request.reject()
-        onCertificateError: error => error.rejectCertificate()
     }
 }

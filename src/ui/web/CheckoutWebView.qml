@@ -21,7 +21,7 @@ Item {
         httpUserAgent: holder.checkout.userAgent
         onDownloadRequested: download => download.cancel()
     }
-    WebEngineView {
+    GuardedWebView {
         id: web
 
         objectName: "checkoutView"
@@ -30,12 +30,6 @@ Item {
         visible: popup.item === null
         profile: own
         url: holder.checkout.address
-
-        settings.pluginsEnabled: false
-        settings.javascriptCanAccessClipboard: false
-        settings.localContentCanAccessRemoteUrls: false
-        settings.localContentCanAccessFileUrls: false
-        settings.screenCaptureEnabled: false
 
         onNavigationRequested: request => {
             // Frames are the page's own affair: the bank's questions live in them.
@@ -49,28 +43,6 @@ Item {
             if (request.userInitiated && popup.item === null)
                 popup.open(request)
         }
-        onFeaturePermissionRequested: (securityOrigin, feature) => grantFeaturePermission(securityOrigin, feature, false)
-        // There is nobody to ask before a page is left, and nothing to tell a page that asks.
-        onJavaScriptDialogRequested: request => {
-            request.accepted = true
-            if (request.type === JavaScriptDialogRequest.DialogTypeConfirm || request.type === JavaScriptDialogRequest.DialogTypePrompt)
-                request.dialogReject()
-            else
-                request.dialogAccept()
-        }
-        onAuthenticationDialogRequested: request => {
-            request.accepted = true
-            request.dialogReject()
-        }
-        onFileDialogRequested: request => {
-            request.accepted = true
-            request.dialogReject()
-        }
-        onContextMenuRequested: request => { request.accepted = true }
-        onPrintRequested: {}
-        onQuotaRequested: request => request.reject()
-        onRegisterProtocolHandlerRequested: request => request.reject()
-        onCertificateError: error => error.rejectCertificate()
         onRenderProcessTerminated: (status, code) => {
             if (status !== WebEngineView.NormalTerminationStatus)
                 holder.checkout.rendererGone()

@@ -3,7 +3,7 @@ import QtWebEngine
 import Loomstreet.Web
 
 // A page of the store's own site. It stays on that page: where its links lead is for the application to say.
-WebEngineView {
+GuardedWebView {
     id: view
 
     required property string storeAddress
@@ -39,12 +39,8 @@ WebEngineView {
         storeAddress: view.storeAddress
     }
 
-    settings.pluginsEnabled: false
-    settings.javascriptCanAccessClipboard: false
     settings.javascriptCanOpenWindows: false
-    settings.localContentCanAccessRemoteUrls: false
     settings.fullScreenSupportEnabled: false
-    settings.screenCaptureEnabled: false
     settings.webGLEnabled: false
 
     onNavigationRequested: request => {
@@ -56,16 +52,6 @@ WebEngineView {
         linkActivated(request.url.toString())
     }
     onNewWindowRequested: request => linkActivated(request.requestedUrl.toString())
-    onFeaturePermissionRequested: (securityOrigin, feature) => grantFeaturePermission(securityOrigin, feature, false)
-    onJavaScriptDialogRequested: request => { request.accepted = true }
-    onAuthenticationDialogRequested: request => { request.accepted = true }
-    onFileDialogRequested: request => { request.accepted = true }
-    onColorDialogRequested: request => { request.accepted = true }
-    onContextMenuRequested: request => { request.accepted = true }
-    onPrintRequested: {}
-    onQuotaRequested: request => request.reject()
-    onRegisterProtocolHandlerRequested: request => request.reject()
-    onCertificateError: error => error.rejectCertificate()
     onRenderProcessTerminated: lastFailure = "gone"
     onLoadingChanged: info => {
         if (info.status === WebEngineView.LoadStartedStatus)
