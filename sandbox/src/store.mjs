@@ -3,7 +3,9 @@ import { join } from 'node:path';
 
 import { BackendSite } from './backend/site.mjs';
 import { Tracker } from './backend/endpoints/track.mjs';
+import { Wishlists } from './backend/endpoints/wishlist.mjs';
 import { Catalog } from './catalog/catalog.mjs';
+import { Prices } from './catalog/prices.mjs';
 import { Stock } from './catalog/stock.mjs';
 import { checkoutUrl } from './checkout/addresses.mjs';
 import { BankSite } from './checkout/bankSite.mjs';
@@ -39,14 +41,16 @@ export async function startStore({ seed = 'loomstreet', pieces = 420, stateDir, 
   const checkouts = new Checkouts(carts);
   const handOvers = new HandOvers();
   const tracker = new Tracker();
+  const wishlists = new Wishlists();
   const catalog = new Catalog({ seed, count: pieces, startedAt });
   const stock = new Stock(catalog);
+  const prices = new Prices(catalog);
   const pictures = new PictureSite({ catalog, studio: new Studio(join(stateDir, 'pictures')), journal });
   const storefront = new StorefrontSite({ catalog, carts, checkoutUrl: (cart) => checkoutUrl(cart, settings.values), journal });
   const pages = new CheckoutSite({ carts, checkouts, settings, journal });
   const sites = new Map([
     [hosts.shop, new ShopSite({ storefront, checkout: pages })],
-    [hosts.service, new BackendSite({ store: { catalog, carts, handOvers, settings, tracker }, journal })],
+    [hosts.service, new BackendSite({ store: { catalog, carts, handOvers, settings, tracker, wishlists }, journal })],
     [hosts.cdn, pictures],
     [hosts.web, new WebSite({ catalog, storefront, pictures, journal })],
     [hosts.bareWeb, new BareWebSite()],
@@ -59,15 +63,17 @@ export async function startStore({ seed = 'loomstreet', pieces = 420, stateDir, 
     checkouts.clear();
     handOvers.clear();
     stock.clear();
+    prices.clear();
     settings.clear();
     pages.release();
     tracker.clear();
+    wishlists.clear();
     journal.clear();
   };
   const certificates = await certificatesLoaded;
   const secure = createSecureStore({ certificates, sites, journal, faults });
   const proxy = createProxy({ secureServer: secure, hostNames, journal });
-  const control = createControl({ journal, faults, tracker, more: checkoutControls({ carts, checkouts, settings, pages, stock }), reset });
+  const control = createControl({ journal, faults, tracker, wishlists, more: checkoutControls({ carts, checkouts, settings, pages, stock, prices }), reset });
   const [proxyPort, ownControlPort] = await Promise.all([listen(proxy, port), listen(control, controlPort)]);
 
   return {

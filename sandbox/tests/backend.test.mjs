@@ -28,3 +28,15 @@ test('unknown paths, wrong methods and broken bodies are told apart', async () =
   const { value } = await client.control('GET', '/unexpected');
   assert.deepEqual(value.map(({ kind, path }) => [kind, path]), [['path', '/api/support/widget/nothing'], ['path', '/api/pub/nothing']]);
 });
+
+test('a summary of a wishlist is taken whole or not at all', async () => {
+  await client.control('POST', '/reset');
+  const item = { handle: 'party-dress', title: 'Party dress', price: 248, currency: 'USD' };
+  const sync = (body) => client.backend('/api/support/widget/wishlist-sync', { publicKey, ...body });
+  assert.equal((await sync({ items: [item], email: 'jane@mail.example', platform: 'macos' })).status, 200);
+  for (const broken of [{}, { items: [{ ...item, price: '248' }] }, { items: [item], email: 'jane@mail.example' }]) {
+    assert.equal((await sync(broken)).status, 400, JSON.stringify(broken));
+  }
+  const { value } = await client.control('GET', '/wishlist');
+  assert.deepEqual(value.map(({ time, ...kept }) => kept), [{ items: [item], email: 'jane@mail.example', platform: 'macos' }]);
+});

@@ -97,6 +97,22 @@ test('what sells out while it lies in a cart is found out by the next change, an
   assert.equal((await newCart([{ merchandiseId: sabine, quantity: 1 }])).totalQuantity, 1);
 });
 
+test('a piece that costs less from now on costs less everywhere and in every market, until a reset', async () => {
+  const handle = 'sabine-bias-slip-dress';
+  const costs = async () => {
+    const { product } = await client.data(operations.Product, { handle, country: 'JP', language: 'EN' });
+    return [product.priceRange.minVariantPrice.amount, (await newCart([{ merchandiseId: sabine, quantity: 1 }])).cost.totalAmount.amount];
+  };
+  assert.deepEqual(await costs(), ['37100.0', '248.0']);
+  assert.equal((await client.control('POST', '/price', { piece: handle, price: 199 })).status, 200);
+  assert.deepEqual(await costs(), ['29800.0', '199.0']);
+  for (const wanted of [{ piece: handle, price: -1 }, { piece: handle }, { piece: 'x', price: 1 }]) {
+    assert.ok((await client.control('POST', '/price', wanted)).status >= 400);
+  }
+  await client.control('POST', '/reset');
+  assert.deepEqual(await costs(), ['37100.0', '248.0']);
+});
+
 test('discount codes apply when they may, and say so when they may not', async () => {
   const { id } = await newCart([{ merchandiseId: sabine, quantity: 1 }]);
   const apply = async (...codes) => (await run('ApplyDiscount', { cartId: id, codes })).cart;

@@ -11,7 +11,8 @@ const get = (path) => client.request(web + path);
 const sectionPages = [
   '/', '/pages/brands-at-loomstreet', '/pages/starlook', '/pages/vessa', '/pages/mira', '/pages/wishlist', '/pages/tools', '/pages/closet',
   '/pages/following', '/pages/notifications', '/pages/help-center', '/pages/agreements', '/pages/about-us', '/account', '/account/orders',
-  '/account/orders/LST10483', '/account/membership', '/account/returns', '/account/addresses', '/account/profile', '/cart', '/search?q=silk',
+  '/account/orders/LST10483', '/account/membership', '/account/returns', '/account/addresses', '/account/profile', '/account/coupons', '/account/alerts',
+  '/account/tracking?number=LP1%3Cb%3E', '/account/returns/R1', '/account/reviews', '/pages/image-search', '/pages/rail-silk', '/cart', '/search?q=silk',
   '/search', '/collections', '/collections/dresses?sort=price-low&page=2', '/collections/autumn-preview', '/products/sabine-bias-slip-dress',
   '/collections/women/products/odile-tiered-dress', ...catalog.collectionByHandle.get('curiosities').pieces.map(({ handle }) => `/products/${encodeURIComponent(handle)}`),
 ];

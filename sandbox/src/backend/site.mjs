@@ -57,6 +57,7 @@ async function readCall(exchange) {
     const { fields, files } = parseMultipart(await exchange.body(uploadLimit), type);
     return { input: fields, files, query, exchange };
   }
+  await exchange.body(uploadLimit); // long wishlists come whole
   const input = await exchange.json();
   if (input === null || typeof input !== 'object' || Array.isArray(input)) throw new BadRequest('the body is not a JSON object');
   return { input, files: {}, query, exchange };

@@ -21,7 +21,7 @@ const editorial = [
   ['evening', 'Evening', (piece) => piece.evening, 'For after six.'],
   ['silk', 'Silk', (piece) => piece.cloth.tag === 'Silk', 'The lightest thing in the wardrobe, and the strongest.'],
   ['presale', 'Presale', (piece) => Boolean(piece.presale), 'Order now, worn later.'],
-  ['all-fashion-clothing-for-women', 'All Clothing', isWomensClothing, 'Every dress, coat, knit, shirt, skirt and pair of trousers.'],
+  ['all-fashion-clothing-for-women', 'All Pieces', () => true, 'Everything on the floor, in one long walk.'],
   ['alpine-archive', 'Alpine Archive', isArchived, 'Knits and boots from mountain winters past.'],
   ['autumn-preview', 'Autumn Preview', () => false, 'The first pieces arrive with the first cold morning.'],
   ['curiosities', 'Curiosities', (piece) => piece.curiosity === true, 'One of each, and each of its own kind.'],
@@ -60,8 +60,4 @@ function type(collection) {
 
 function isArchived({ garment, index }) {
   return garment.alpine === true && index % 3 === 0;
-}
-
-function isWomensClothing({ department, garment }) {
-  return department === 'women' && garment.table !== 'bag' && garment.table !== 'shoes';
 }

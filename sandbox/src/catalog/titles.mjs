@@ -4,25 +4,25 @@ const titles = {
     'new-in': 'Nouveautés', women: 'Femme', men: 'Homme', luxury: 'Luxe', bags: 'Sacs', accessories: 'Accessoires',
     'final-sale': 'Dernières pièces', dresses: 'Robes', tops: 'Hauts', knitwear: 'Maille', skirts: 'Jupes', trousers: 'Pantalons',
     coats: 'Manteaux', blazers: 'Blazers', shoes: 'Chaussures', boots: 'Bottines', evening: 'Soir', silk: 'Soie', presale: 'Prévente',
-    'all-fashion-clothing-for-women': 'Tous les vêtements',
+    'all-fashion-clothing-for-women': 'Toutes les pièces',
   },
   DE: {
     'new-in': 'Neu', women: 'Damen', men: 'Herren', luxury: 'Luxus', bags: 'Taschen', accessories: 'Accessoires',
     'final-sale': 'Letzte Stücke', dresses: 'Kleider', tops: 'Oberteile', knitwear: 'Strick', skirts: 'Röcke', trousers: 'Hosen',
     coats: 'Mäntel', blazers: 'Blazer', shoes: 'Schuhe', boots: 'Stiefeletten', evening: 'Abend', silk: 'Seide', presale: 'Vorverkauf',
-    'all-fashion-clothing-for-women': 'Alle Kleidung',
+    'all-fashion-clothing-for-women': 'Alle Stücke',
   },
   JA: {
     'new-in': '新着', women: 'ウィメンズ', men: 'メンズ', luxury: 'ラグジュアリー', bags: 'バッグ', accessories: 'アクセサリー',
     'final-sale': 'ファイナルセール', dresses: 'ドレス', tops: 'トップス', knitwear: 'ニット', skirts: 'スカート', trousers: 'パンツ',
     coats: 'コート', blazers: 'ブレザー', shoes: 'シューズ', boots: 'ブーツ', evening: 'イブニング', silk: 'シルク', presale: '予約販売',
-    'all-fashion-clothing-for-women': 'すべてのウェア',
+    'all-fashion-clothing-for-women': 'すべてのアイテム',
   },
   AR: {
     'new-in': 'وصل حديثًا', women: 'نساء', men: 'رجال', luxury: 'فاخر', bags: 'حقائب', accessories: 'إكسسوارات',
     'final-sale': 'تخفيضات نهائية', dresses: 'فساتين', tops: 'قمصان', knitwear: 'تريكو', skirts: 'تنانير', trousers: 'بناطيل',
     coats: 'معاطف', blazers: 'سترات', shoes: 'أحذية', boots: 'جزمات', evening: 'سهرة', silk: 'حرير', presale: 'طلب مسبق',
-    'all-fashion-clothing-for-women': 'كل الملابس',
+    'all-fashion-clothing-for-women': 'كل القطع',
   },
 };
 

@@ -44,10 +44,16 @@ export function setVariants(piece, variants) {
     product: piece,
   }));
   piece.available = piece.variants.some(({ available }) => available);
-  piece.lowest = Math.min(...piece.variants.map(({ price }) => price));
+  setPriceRange(piece);
+}
+
+/** What follows from the prices of a piece's variants. */
+export function setPriceRange(piece) {
+  const prices = piece.variants.map(({ price }) => price);
+  piece.lowest = Math.min(...prices);
+  piece.highest = Math.max(...prices);
   const earlier = piece.variants.flatMap(({ compareAt }) => compareAt ?? []);
   piece.earlier = earlier.length > 0 ? { lowest: Math.min(...earlier), highest: Math.max(...earlier) } : null;
-  piece.highest = Math.max(...piece.variants.map(({ price }) => price));
 }
 
 function stockOf(piece, title, random) {

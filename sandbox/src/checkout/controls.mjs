@@ -4,7 +4,7 @@ import { prefilledValues } from './fields.mjs';
 import { summaryOf } from './summary.mjs';
 
 /** What the control port can ask of carts, of what they may hold, and of checkout. */
-export function checkoutControls({ carts, checkouts, settings, pages, stock }) {
+export function checkoutControls({ carts, checkouts, settings, pages, stock, prices }) {
   const each = async (exchange, act) => {
     const { id } = await exchange.json();
     const chosen = id === undefined ? carts.all : [carts.find(id)].filter(Boolean);
@@ -17,6 +17,7 @@ export function checkoutControls({ carts, checkouts, settings, pages, stock }) {
     'POST /carts/expire': (exchange) => each(exchange, ({ id }) => carts.end(id)),
     'POST /carts/complete': (exchange) => each(exchange, (cart) => checkouts.place(cart, prefilledValues())),
     'POST /stock': async (exchange) => stock.set(await exchange.json()),
+    'POST /price': async (exchange) => prices.set(await exchange.json()),
     'GET /orders': () => checkouts.orders.map(({ number, confirmation, cartId, email, placedAt, summary: { pieces, total } }) => (
       { number, confirmation, cartId, email, placedAt, pieces, total }
     )),

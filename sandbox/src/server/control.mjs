@@ -4,11 +4,12 @@ import { BadRequest, Exchange } from './exchange.mjs';
 import { FaultError } from './faults.mjs';
 
 /** The plain HTTP server through which tests and developers steer the store. See README.md for examples. */
-export function createControl({ journal, faults, tracker, more = {}, reset }) {
+export function createControl({ journal, faults, tracker, wishlists, more = {}, reset }) {
   const routes = {
     'GET /requests': () => journal.requests,
     'GET /unexpected': () => journal.unexpected,
     'GET /events': () => tracker.events,
+    'GET /wishlist': () => wishlists.syncs,
     'GET /faults': () => faults.list(),
     'POST /faults': async (exchange) => ({ id: faults.add(await exchange.json()) }),
     'DELETE /faults': () => faults.clear(),

@@ -8,9 +8,11 @@ import { collectionPage, collectionsPage } from './pages/collection.mjs';
 import { followingPage } from './pages/following.mjs';
 import { helpPage } from './pages/help.mjs';
 import { homePage } from './pages/home.mjs';
+import { imageSearchPage } from './pages/imageSearch.mjs';
 import { miraPage } from './pages/mira.mjs';
 import { notificationsPage } from './pages/notifications.mjs';
 import { productPage } from './pages/product.mjs';
+import { railPage } from './pages/rail.mjs';
 import { searchPage } from './pages/search.mjs';
 import { starlookPage } from './pages/starlook.mjs';
 import { toolsPage } from './pages/tools.mjs';
@@ -27,6 +29,7 @@ const sections = {
   closet: closetPage,
   following: followingPage,
   notifications: notificationsPage,
+  'image-search': imageSearchPage,
   'help-center': helpPage,
   agreements: agreementsPage,
   'about-us': aboutPage,
@@ -48,7 +51,7 @@ export function pageFor(exchange, store) {
     case 'search':
       return second === undefined ? searchPage(store, request) : undefined;
     case 'account':
-      return fourth === undefined ? accountPage(store, [second, third]) : undefined;
+      return fourth === undefined ? accountPage(store, [second, third], request) : undefined;
     case 'products':
       return second && third === undefined ? productPage(store, second) : undefined;
     case 'collections':
@@ -69,5 +72,6 @@ function inCollections(store, request, [handle, below, piece]) {
 function inPages(store, request, [name, below, further]) {
   if (further !== undefined) return undefined;
   if (below !== undefined) return name === 'agreements' ? agreementPage(below) : undefined;
+  if (name?.startsWith('rail-')) return railPage(store, name.slice('rail-'.length));
   return Object.hasOwn(sections, name ?? '') ? sections[name](store, request) : undefined;
 }

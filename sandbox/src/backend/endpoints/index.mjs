@@ -1,5 +1,6 @@
 import { prepareCheckout, revokeCheckout, startCheckout } from './checkout.mjs';
 import { track } from './track.mjs';
+import { wishlistSync } from './wishlist.mjs';
 
 /**
  * Every endpoint is one module with {path, methods, public, keyless, handle}. A public one lies below /api/pub and needs
@@ -7,4 +8,4 @@ import { track } from './track.mjs';
  * opens are. handle(call, store) gets {input, files, query, exchange} and returns the JSON to answer with, throws a
  * BackendError, or answers the exchange itself.
  */
-export const endpoints = [prepareCheckout, revokeCheckout, startCheckout, track];
+export const endpoints = [prepareCheckout, revokeCheckout, startCheckout, track, wishlistSync];

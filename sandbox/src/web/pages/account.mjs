@@ -1,6 +1,7 @@
 import { slug } from '../../catalog/pieces.mjs';
 import { heading, money, picture, pieceLink } from '../components.mjs';
 import { html } from '../html.mjs';
+import { alertsPage, couponsPage, returnPage, reviewsPage, trackingPage } from './accountServices.mjs';
 
 const stations = ['Placed', 'Packed', 'With the carrier', 'Delivered'];
 
@@ -18,10 +19,16 @@ const parts = [
   ['Profile', '/account/profile', 'Name, language and sizes.'], ['Wishlist', '/pages/wishlist', 'What you saved.'],
 ];
 
-export function accountPage({ catalog }, [part, detail]) {
-  const pages = { orders: () => ordersPage(catalog, detail), membership, returns, addresses, profile };
+export function accountPage({ catalog }, [part, detail], { query }) {
+  const pages = {
+    orders: () => ordersPage(catalog, detail),
+    returns: () => (detail === undefined ? returns() : returnPage(detail)),
+    tracking: () => trackingPage(query.get('number')),
+    coupons: couponsPage, alerts: alertsPage, reviews: reviewsPage,
+    membership, addresses, profile,
+  };
   if (part === undefined) return overview();
-  if (!Object.hasOwn(pages, part) || (detail !== undefined && part !== 'orders')) return undefined;
+  if (!Object.hasOwn(pages, part) || (detail !== undefined && part !== 'orders' && part !== 'returns')) return undefined;
   return pages[part]();
 }
 
