@@ -8,6 +8,7 @@
 #include "platform/SingleInstance.h"
 #include "platform/SystemLocaleReading.h"
 #include "platform/SystemNetworkStatus.h"
+#include "platform/WindowActivation.h"
 #include "ui/shell/ApplicationSetup.h"
 #include "ui/shell/EventLoopProbe.h"
 #include "ui/shell/PictureLoading.h"
@@ -22,6 +23,8 @@
 #include <QQuickWindow>
 #include <QStandardPaths>
 #include <QtConcurrent>
+
+#include <span>
 
 using namespace loom;
 
@@ -40,6 +43,32 @@ QString pictureCacheFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
            QStringLiteral("/LOOMSTREET/pictures");
+}
+
+/// What another start, or the desktop, asks for.
+void obey(const Activation& activation, AppLifecycle& lifecycle)
+{
+    if (!activation.links.isEmpty())
+        lifecycle.handleOpen(activation.links);
+    else if (!activation.action.isEmpty())
+        lifecycle.handleAction(activation.action);
+    else
+        lifecycle.handleReopen();
+}
+
+void launch(const LaunchOptions& options, AppLifecycle& lifecycle)
+{
+    if (options.isService) {
+        lifecycle.didLaunchAsService();
+        return;
+    }
+    const QStringList links = AppLifecycle::acceptable(options.links);
+    lifecycle.didFinishLaunching({.link = links.isEmpty() ? std::nullopt : std::optional(links.first())});
+    for (const QString& link : links.mid(1))
+        lifecycle.handleOpen(link);
+    // There is a new window already.
+    if (!options.action.isEmpty() && options.action != QLatin1String("new-window"))
+        lifecycle.handleAction(options.action);
 }
 
 int runShop(const AppConfig& config, const LaunchOptions& options, const SingleInstance& instance, QQmlEngine& engine,
@@ -64,10 +93,11 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
     model.setWindowHost(&windows);
     AppLifecycle lifecycle(model, windows, clock);
 
-    QObject::connect(&instance, &SingleInstance::activated, &lifecycle, &AppLifecycle::handleReopen);
-    QObject::connect(&instance, &SingleInstance::linksOpened, &lifecycle, [&lifecycle](const QStringList& links) {
-        for (const QString& link : links)
-            lifecycle.handleOpen(link);
+    WindowActivation comingForward;
+    windows.setActivate([&comingForward](QWindow& window) { comingForward.activate(window); });
+    QObject::connect(&instance, &SingleInstance::activated, &lifecycle, [&](const Activation& activation) {
+        comingForward.follow(activation);
+        obey(activation, lifecycle);
     });
     QObject::connect(&model, &AppModel::quitRequested, &lifecycle, [&lifecycle] {
         if (lifecycle.shouldTerminate())
@@ -80,10 +110,7 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
     std::optional<EventLoopProbe> probe;
     if (!options.eventLoopReportFile.isEmpty())
         probe.emplace();
-    lifecycle.didFinishLaunching(
-        {.link = options.links.isEmpty() ? std::nullopt : std::optional(options.links.first())});
-    for (const QString& link : options.links.mid(1))
-        lifecycle.handleOpen(link);
+    launch(options, lifecycle);
     StartReport report(options.startReportFile, options.screenshotFile);
     if (const WindowSession* const session = model.keySession())
         report.watch(windows.windowOf(*session));
@@ -98,8 +125,16 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
 int main(int argc, char* argv[])
 {
     prepareApplication(applicationID);
-    QGuiApplication application(argc, argv);
-    const LaunchOptions options = readLaunchOptions(QCoreApplication::arguments());
+    Activation start = readLaunch();
+    const std::span<char*> given(argv, static_cast<std::size_t>(argc));
+    int optionCount = countOfOptions(argc, argv);
+    QStringList data;
+    for (const char* const argument : given.subspan(static_cast<std::size_t>(optionCount)))
+        data.append(QString::fromLocal8Bit(argument));
+    QGuiApplication application(optionCount, argv);
+    const LaunchOptions options = readLaunchOptions(QCoreApplication::arguments() + data);
+    start.links = options.links;
+    start.action = options.action;
     // Reading certificates takes longer than all the rest of this; they are needed with the first request.
     QFuture<bool> authority =
         QtConcurrent::run([file = options.authorityFile] { return file.isEmpty() || addCertificateAuthority(file); });
@@ -109,7 +144,7 @@ int main(int argc, char* argv[])
     const auto preloaded = WindowManager::preload(engine);
 
     SingleInstance instance(applicationID);
-    if (instance.claim(options.links) == SingleInstance::Role::Second)
+    if (instance.claim(start) == SingleInstance::Role::Second)
         return 0;
     registerFonts();
     DesktopAppearance appearance;
@@ -119,7 +154,6 @@ int main(int argc, char* argv[])
     if (!config) {
         const auto window = WindowManager::showConfigurationMissing(engine, appearance);
         QObject::connect(&instance, &SingleInstance::activated, window.get(), &QWindow::requestActivate);
-        QObject::connect(&instance, &SingleInstance::linksOpened, window.get(), &QWindow::requestActivate);
         return QCoreApplication::exec();
     }
     return runShop(*config, options, instance, engine, appearance);

@@ -31,6 +31,8 @@ AppCommands::AppCommands(WindowSession& session, AppCommandActions actions, QObj
 {
     connect(&m_session, &WindowSession::selectedChanged, this, &AppCommands::watchSelectedTab);
     connect(m_session.tabs(), &TabsModel::countChanged, this, &AppCommands::availabilityChanged);
+    connect(&m_session, &WindowSession::canReopenTabChanged, this, &AppCommands::availabilityChanged);
+    connect(&m_session, &WindowSession::previewShownChanged, this, &AppCommands::availabilityChanged);
     watchSelectedTab();
 }
 
@@ -69,7 +71,16 @@ bool AppCommands::isEnabled(AppCommand::Id id) const
         return tab && tab->canGoForward();
     case AppCommand::Id::GoToSectionHome:
         return tab && tab->depth() > 0;
+    case AppCommand::Id::ReopenTab:
+        return m_session.canReopenTab();
+    case AppCommand::Id::PreviewInFullPage:
+    case AppCommand::Id::PreviewInNewTab:
+    case AppCommand::Id::ClosePreview:
+        return m_session.isPreviewShown();
     case AppCommand::Id::CloseOtherTabs:
+    case AppCommand::Id::MoveTabLeft:
+    case AppCommand::Id::MoveTabRight:
+    case AppCommand::Id::MoveTabToNewWindow:
     case AppCommand::Id::NextTab:
     case AppCommand::Id::PreviousTab:
         return m_session.tabs()->count() > 1;
@@ -95,6 +106,30 @@ void AppCommands::perform(AppCommand::Id id)
         break;
     case AppCommand::Id::CloseOtherTabs:
         m_session.closeOtherTabs(m_session.selectedIndex());
+        break;
+    case AppCommand::Id::ReopenTab:
+        m_session.reopenTab();
+        break;
+    case AppCommand::Id::PinTab:
+        m_session.setTabPinned(m_session.selectedIndex(), !tab->isPinned());
+        break;
+    case AppCommand::Id::MoveTabLeft:
+        m_session.moveTab(m_session.selectedIndex(), m_session.selectedIndex() - 1);
+        break;
+    case AppCommand::Id::MoveTabRight:
+        m_session.moveTab(m_session.selectedIndex(), m_session.selectedIndex() + 1);
+        break;
+    case AppCommand::Id::MoveTabToNewWindow:
+        m_session.tearOffTab(m_session.selectedIndex());
+        break;
+    case AppCommand::Id::PreviewInFullPage:
+        tab->expandPreview();
+        break;
+    case AppCommand::Id::PreviewInNewTab:
+        tab->openPreviewInNewTab();
+        break;
+    case AppCommand::Id::ClosePreview:
+        tab->closePreview();
         break;
     case AppCommand::Id::TakeScreenshot:
         Q_EMIT m_session.screenshotRequested();
@@ -126,8 +161,14 @@ void AppCommands::perform(AppCommand::Id id)
     case AppCommand::Id::Search:
         m_session.setPendingSearchFocus(true);
         break;
+    case AppCommand::Id::SearchByImage:
+        tab->openImageSearch();
+        break;
     case AppCommand::Id::ShoppingBag:
         m_session.setCartOpen(!m_session.isCartOpen());
+        break;
+    case AppCommand::Id::Footprints:
+        m_session.setHistoryOpen(!m_session.isHistoryOpen());
         break;
     case AppCommand::Id::ToggleSidebar:
         m_session.setSidebarCollapsed(!m_session.isSidebarCollapsed());

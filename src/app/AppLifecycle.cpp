@@ -4,6 +4,8 @@
 #include "app/WindowHost.h"
 #include "base/Clock.h"
 
+#include <algorithm>
+
 namespace loom
 {
 
@@ -12,6 +14,16 @@ namespace
 
 constexpr std::chrono::milliseconds firstLook{500};
 constexpr std::chrono::milliseconds secondLook{1500};
+
+constexpr qsizetype maximumLinkLength = 8192;
+constexpr qsizetype maximumLinks = 12;
+
+bool isAcceptable(const QString& link)
+{
+    return link.size() <= maximumLinkLength && std::ranges::none_of(link.trimmed(), [](QChar character) {
+               return character.category() == QChar::Other_Control;
+           });
+}
 
 } // namespace
 
@@ -25,7 +37,7 @@ AppLifecycle::AppLifecycle(AppModel& model, WindowHost& windows, Clock& clock, Q
 
 void AppLifecycle::didFinishLaunching(const WindowSeed& seed)
 {
-    m_model.openWindow(seed);
+    openFirstWindow(seed);
     static_cast<void>(lookAfterWindows());
 }
 
@@ -47,18 +59,63 @@ void AppLifecycle::handleReopen()
     if (WindowSession* const session = m_model.keySession())
         m_windows.raise(*session);
     else
-        m_model.openWindow({});
+        openFirstWindow({});
+}
+
+void AppLifecycle::openFirstWindow(const WindowSeed& seed)
+{
+    if (!m_model.restoreWindows())
+        m_model.openWindow(seed);
+    else if (seed.link)
+        m_model.keySession()->openLink(*seed.link);
+}
+
+bool AppLifecycle::shouldTerminate()
+{
+    m_model.saveWindowsForNextStart();
+    return true;
 }
 
 void AppLifecycle::handleOpen(const QString& link)
 {
     WindowSession* const session = m_model.keySession();
     if (!session) {
-        m_model.openWindow({.link = link});
+        openFirstWindow({.link = link});
         return;
     }
     m_windows.raise(*session); // first: a link may lead on to the browser, which is then in front
     session->openLink(link);
+}
+
+void AppLifecycle::handleOpen(const QStringList& links)
+{
+    const QStringList opened = acceptable(links);
+    for (const QString& link : opened)
+        handleOpen(link);
+    if (opened.isEmpty())
+        handleReopen();
+}
+
+void AppLifecycle::handleAction(const QString& name)
+{
+    // Where there is none, the window that is opened anyway is the new one.
+    if (name == QLatin1String("new-window") && m_model.keySession()) {
+        m_model.openWindow(WindowSeed{});
+        return;
+    }
+    handleReopen();
+    WindowSession& session = *m_model.keySession();
+    if (name == QLatin1String("search"))
+        session.setPendingSearchFocus(true);
+    else if (name == QLatin1String("bag"))
+        session.setCartOpen(true);
+}
+
+QStringList AppLifecycle::acceptable(const QStringList& links)
+{
+    QStringList accepted;
+    std::ranges::copy_if(links, std::back_inserter(accepted), isAcceptable);
+    return accepted.mid(0, maximumLinks);
 }
 
 } // namespace loom

@@ -4,19 +4,30 @@
 #include "app/AppConfig.h"
 #include "app/AppSession.h"
 #include "app/AppSettings.h"
+#include "app/ClosedTabs.h"
+#include "app/SavedWindows.h"
 #include "app/WindowServices.h"
 #include "app/WindowSession.h"
 #include "base/Announcements.h"
 #include "base/FeatureGates.h"
+#include "catalog/BrandsModel.h"
 #include "catalog/CollectionModel.h"
 #include "catalog/CollectionTilesModel.h"
+#include "catalog/MarketChoicesModel.h"
 #include "catalog/MarketStore.h"
 #include "catalog/MoneyFormat.h"
 #include "catalog/ProductModel.h"
+#include "catalog/RecentSearches.h"
+#include "catalog/SearchModel.h"
 #include "catalog/StorefrontAPI.h"
 #include "commerce/BuyModel.h"
 #include "commerce/CartModel.h"
 #include "commerce/CheckoutStarter.h"
+#include "commerce/CompareModel.h"
+#include "commerce/PriceDropsModel.h"
+#include "commerce/RecentlyViewedStore.h"
+#include "commerce/SuggestionsModel.h"
+#include "commerce/WishlistStore.h"
 #include "net/HttpTransport.h"
 #include "net/SessionSource.h"
 #include "net/Tracker.h"
@@ -52,6 +63,8 @@ class AppModel final : public QObject
     Q_PROPERTY(loom::AppSettings* settings READ settings CONSTANT)
     Q_PROPERTY(loom::CartModel* cart READ cart CONSTANT)
     Q_PROPERTY(loom::CheckoutStarter* checkout READ checkout CONSTANT)
+    Q_PROPERTY(loom::WishlistStore* wishlist READ wishlist CONSTANT)
+    Q_PROPERTY(loom::RecentlyViewedStore* recentlyViewed READ recentlyViewed CONSTANT)
     Q_PROPERTY(loom::AppSession* session READ session CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QString storeWebAddress READ storeWebAddress CONSTANT)
@@ -69,6 +82,8 @@ public:
     [[nodiscard]] CartModel* cart() { return &m_cartModel; }
     [[nodiscard]] CartStore& cartStore() { return m_cart; }
     [[nodiscard]] CheckoutStarter* checkout() { return &m_checkout; }
+    [[nodiscard]] WishlistStore* wishlist() { return &m_wishlist; }
+    [[nodiscard]] RecentlyViewedStore* recentlyViewed() { return &m_recentlyViewed; }
     [[nodiscard]] Announcements& announcements() { return m_announcements; }
     [[nodiscard]] Preferences& preferences() { return m_preferences; }
     [[nodiscard]] Tracker& tracker() { return m_tracker; }
@@ -89,6 +104,12 @@ public:
     /// Who shows windows; must be set before the first is opened, and outlive the model's use.
     void setWindowHost(WindowHost* host) { m_windows = host; }
     WindowSession& openWindow(const WindowSeed& seed);
+    /// As it was saved; `state` has a tab at least.
+    WindowSession& openSavedWindow(const WindowState& state);
+    /// Opens what was open last. False where there was nothing.
+    bool restoreWindows();
+    /// What is open now is what the next start opens; nothing that closes from here on counts.
+    void saveWindowsForNextStart() { m_savedWindows.saveAndEnd(); }
     /// The session's window is gone.
     Q_INVOKABLE void closeWindow(loom::WindowSession* session);
     /// The session's window came to the front.
@@ -104,14 +125,25 @@ public:
     [[nodiscard]] Q_INVOKABLE loom::CollectionModel* makeRail(QObject* owner, const QString& handle);
     [[nodiscard]] Q_INVOKABLE loom::ProductModel* makeProduct(QObject* owner, const QString& handle,
                                                               const QVariant& item);
+    [[nodiscard]] Q_INVOKABLE loom::SuggestionsModel* makeSuggestions(QObject* owner);
+    [[nodiscard]] Q_INVOKABLE loom::MarketChoicesModel* makeCountries(QObject* owner);
+    [[nodiscard]] Q_INVOKABLE loom::MarketChoicesModel* makeLanguages(QObject* owner);
+    [[nodiscard]] Q_INVOKABLE loom::SearchModel* makeSearch(QObject* owner, const QString& query);
     /// The collections of a department, or with an empty id those of all departments.
     [[nodiscard]] Q_INVOKABLE loom::CollectionTilesModel* makeDepartment(QObject* owner, const QString& id);
+    [[nodiscard]] Q_INVOKABLE loom::BrandsModel* makeBrands(QObject* owner);
     /// The ways to buy what a product's page shows; its `product` belongs to the page too.
     [[nodiscard]] Q_INVOKABLE loom::BuyModel* makeBuying(QObject* owner, loom::ProductModel* product);
+    [[nodiscard]] Q_INVOKABLE loom::KeptPiecesModel* makeWishlist(QObject* owner);
+    [[nodiscard]] Q_INVOKABLE loom::KeptPiecesModel* makeRecentlyViewed(QObject* owner);
+    [[nodiscard]] Q_INVOKABLE loom::PriceDropsModel* makePriceDrops(QObject* owner);
+    [[nodiscard]] Q_INVOKABLE loom::CompareModel* makeCompare(QObject* owner, const QStringList& handles);
     [[nodiscard]] Q_INVOKABLE loom::AppCommands* makeCommands(QObject* owner, loom::WindowSession* session);
 
     /// Where a picture of the window taken now is to be saved.
     [[nodiscard]] Q_INVOKABLE QString screenshotPath() const;
+    /// Opens the folder that a file lies in.
+    Q_INVOKABLE void showFolderOf(const QString& path) const;
 
 Q_SIGNALS:
     void quitRequested();
@@ -123,6 +155,12 @@ private:
     /// Who tells whom.
     void connectStores();
     void takePendingCheckout(WindowSession& session);
+    /// What the shopper has seen, then what they keep.
+    [[nodiscard]] std::vector<ProductHit> knownPieces() const;
+    WindowSession& show(std::unique_ptr<WindowSession> session);
+    [[nodiscard]] std::vector<WindowState> windowStates() const;
+    /// What the models of kept pieces need.
+    [[nodiscard]] KeptPiecesModel::Services keptServices();
     template <typename Model>
     [[nodiscard]] Model* takeBegun(QObject* owner, const QString& handle);
 
@@ -141,18 +179,23 @@ private:
     QSet<QString> m_claimed;
     MoneyFormat m_money;
     MarketStore m_market;
+    RecentSearches m_recentSearches;
     Announcements m_announcements;
     CartAPI m_cartAPI;
     CartStore m_cart;
     CartModel m_cartModel;
     CheckoutStarter m_checkout;
+    WishlistStore m_wishlist;
+    RecentlyViewedStore m_recentlyViewed;
     bool m_didBootstrap = false;
+    ClosedTabs m_closedTabs;
     WindowServices m_services;
     WindowHost* m_windows = nullptr;
     /// Models of first pages that no page has taken over yet, by what they are of.
     std::vector<std::pair<QString, std::unique_ptr<QObject>>> m_begun;
     std::vector<std::unique_ptr<WindowSession>> m_sessions;
     QList<WindowSession*> m_keyOrder; ///< the one in front first
+    SavedWindows m_savedWindows;
 };
 
 } // namespace loom

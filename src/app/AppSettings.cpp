@@ -39,6 +39,7 @@ AppSettings::AppSettings(Preferences& preferences, QObject* parent)
         tell(preferences::appearance, &AppSettings::appearanceChanged);
         tell(preferences::sizeUnit, &AppSettings::sizeUnitChanged);
         tell(preferences::windowFrame, &AppSettings::windowFrameChanged);
+        tell(preferences::splitPreview, &AppSettings::splitPreviewChanged);
         tell(preferences::privacyConsent, &AppSettings::sharesUsageChanged);
         tell(preferences::settingsTab, &AppSettings::settingsTabChanged);
     });
@@ -72,6 +73,16 @@ QString AppSettings::windowFrame() const
 void AppSettings::setWindowFrame(const QString& frame)
 {
     m_preferences.set(preferences::windowFrame, frame);
+}
+
+bool AppSettings::splitPreview() const
+{
+    return m_preferences.value(preferences::splitPreview);
+}
+
+void AppSettings::setSplitPreview(bool isOn)
+{
+    m_preferences.set(preferences::splitPreview, isOn);
 }
 
 bool AppSettings::sharesUsage() const

@@ -14,6 +14,7 @@ class AppSettings final : public QObject
     Q_PROPERTY(QString appearance READ appearance WRITE setAppearance NOTIFY appearanceChanged)
     Q_PROPERTY(QString sizeUnit READ sizeUnit WRITE setSizeUnit NOTIFY sizeUnitChanged)
     Q_PROPERTY(QString windowFrame READ windowFrame WRITE setWindowFrame NOTIFY windowFrameChanged)
+    Q_PROPERTY(bool splitPreview READ splitPreview WRITE setSplitPreview NOTIFY splitPreviewChanged)
     Q_PROPERTY(bool sharesUsage READ sharesUsage WRITE setSharesUsage NOTIFY sharesUsageChanged)
     Q_PROPERTY(QString settingsTab READ settingsTab WRITE setSettingsTab NOTIFY settingsTabChanged)
 
@@ -29,6 +30,9 @@ public:
     /// "own" or "desktop".
     [[nodiscard]] QString windowFrame() const;
     void setWindowFrame(const QString& frame);
+    /// Whether pieces open beside the grid they are in.
+    [[nodiscard]] bool splitPreview() const;
+    void setSplitPreview(bool isOn);
     /// Whether the shopper agreed to more than what is essential.
     [[nodiscard]] bool sharesUsage() const;
     void setSharesUsage(bool shares);
@@ -40,6 +44,7 @@ Q_SIGNALS:
     void appearanceChanged();
     void sizeUnitChanged();
     void windowFrameChanged();
+    void splitPreviewChanged();
     void sharesUsageChanged();
     void settingsTabChanged();
 

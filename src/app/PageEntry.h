@@ -21,6 +21,12 @@ enum class Kind {
     Collection,
     Product,
     Cart,
+    Search, ///< for the query that is the handle
+    Brands,
+    Wishlist,
+    RecentlyViewed,
+    PriceDrops,
+    Compare,   ///< the pieces named by the handles
     StorePage, ///< the store's own web page
     Unknown,
 };
@@ -36,6 +42,7 @@ struct PageEntry {
     Q_PROPERTY(QString symbol MEMBER symbol)
     Q_PROPERTY(QVariant item READ itemVariant)
     Q_PROPERTY(QUrl address MEMBER address)
+    Q_PROPERTY(QStringList handles MEMBER handles)
 
 public:
     PageKind::Kind kind = PageKind::Kind::Unknown;
@@ -44,6 +51,7 @@ public:
     QString symbol;
     std::optional<ProductListItem> item;
     QUrl address;
+    QStringList handles;
 
     [[nodiscard]] QVariant itemVariant() const { return item ? QVariant::fromValue(*item) : QVariant(); }
 

@@ -4,6 +4,9 @@
 #include "app/WindowSession.h"
 #include "base/Clock.h"
 #include "base/Random.h"
+#include "storage/Preferences.h"
+
+#include <algorithm>
 
 namespace loom
 {
@@ -15,6 +18,18 @@ template <typename... Functions>
 struct Overloaded : Functions... {
     using Functions::operator()...;
 };
+
+/// How many titles a menu of pages shows at most.
+constexpr qsizetype longestMenu = 15;
+
+/// The pages around the current one whose state is kept in memory.
+constexpr std::size_t livePagesBehind = 16;
+constexpr std::size_t livePagesAhead = 8;
+
+double previewWidthFor(double stored)
+{
+    return stored > 0 ? std::clamp(stored, 420.0, 640.0) : 480.0;
+}
 
 std::optional<ProductListItem> cardIn(const QVariant& item)
 {
@@ -28,9 +43,17 @@ Router::Router(const WindowServices& services, WindowSession* session, SidebarIt
     , m_services(services)
     , m_session(session)
     , m_id(services.random.uuid())
-    , m_section{.selection = section, .routes = {}}
     , m_lastSelectionChange(services.clock.now())
+    , m_history(section)
+    , m_previewWidth(previewWidthFor(services.preferences.value(preferences::splitPreviewWidth)))
 {
+    apply(section);
+}
+
+// Pages that are still there go while they can turn to the whole of this.
+Router::~Router()
+{
+    m_navigationPath.show({}, 0);
 }
 
 void Router::setPinned(bool isPinned)
@@ -39,23 +62,53 @@ void Router::setPinned(bool isPinned)
         Q_EMIT isPinnedChanged();
 }
 
-PageEntry Router::page(int depth) const
+std::vector<Route> Router::routes() const
 {
-    if (depth <= 0 || depth > this->depth())
-        return pageFor(m_section.selection, m_services.storePages);
-    return pageFor(m_section.routes[static_cast<std::size_t>(depth - 1)], m_services.storePages);
+    std::vector<Route> routes;
+    for (std::size_t i = m_history.root() + 1; i <= m_history.current(); ++i)
+        routes.push_back(*m_history.pages()[i].route);
+    return routes;
 }
 
-QString Router::titleAt(int depth) const
+std::vector<Route> Router::forwardRoutes() const
 {
-    const QString title = m_pageTitles.value(depth);
-    return title.isEmpty() ? page(depth).title : title;
+    std::vector<Route> routes;
+    for (std::size_t i = m_history.current() + 1; i < m_history.pages().size() && m_history.pages()[i].route; ++i)
+        routes.insert(routes.begin(), *m_history.pages()[i].route);
+    return routes;
+}
+
+QMap<int, QString> Router::pageTitles() const
+{
+    QMap<int, QString> titles;
+    for (std::size_t i = m_history.root(); i <= m_history.current(); ++i) {
+        if (const QString& title = m_history.pages()[i].title; !title.isEmpty())
+            titles.insert(m_history.depthOf(i), title);
+    }
+    return titles;
+}
+
+PageEntry Router::entryAt(std::size_t index) const
+{
+    const History::Page& page = m_history.pages()[index];
+    return page.route ? pageFor(*page.route, m_services.storePages) : pageFor(page.section, m_services.storePages);
+}
+
+PageEntry Router::page(int depth) const
+{
+    return entryAt(m_history.root() + static_cast<std::size_t>(std::clamp(depth, 0, this->depth())));
+}
+
+QString Router::titleAt(std::size_t index) const
+{
+    const QString& title = m_history.pages()[index].title;
+    return title.isEmpty() ? entryAt(index).title : title;
 }
 
 QStringList Router::trail() const
 {
     QStringList titles;
-    for (int i = 0; i <= depth(); ++i)
+    for (std::size_t i = m_history.root(); i <= m_history.current(); ++i)
         titles.append(titleAt(i));
     return titles;
 }
@@ -104,46 +157,88 @@ bool Router::open(const std::optional<QString>& link)
 void Router::openProduct(const ProductPreview& request, OpenMode mode)
 {
     const Qt::KeyboardModifiers keys = m_services.heldKeys();
-    if (mode == OpenMode::Automatic)
-        mode = keys.testFlag(Qt::ControlModifier) ? OpenMode::NewTab : OpenMode::Page;
+    if (mode == OpenMode::Automatic) {
+        if (keys.testFlag(Qt::ControlModifier))
+            mode = OpenMode::NewTab;
+        else if (isSplitPreviewAvailable()) {
+            setPreview(request);
+            return;
+        }
+    }
+    if (mode == OpenMode::Docked && !(m_session && m_session->isMiraDocked())) {
+        setPreview(request);
+        return;
+    }
     const Route route = ShopRoute{ShopRoute::Product{.handle = request.handle, .item = request.item}};
-    if (mode == OpenMode::NewTab && m_session) {
+    if (mode == OpenMode::NewTab) {
         Router* const tab =
-            m_session->openTab(m_section.selection,
-                               keys.testFlag(Qt::ShiftModifier) ? TabActivation::Background : TabActivation::Activate);
+            m_session ? m_session->openTab(selection(), keys.testFlag(Qt::ShiftModifier) ? TabActivation::Background
+                                                                                         : TabActivation::Activate)
+                      : this;
         tab->push(route);
         return;
     }
+    if (m_preview && m_preview->handle == request.handle)
+        closePreview();
     push(route);
 }
 
-void Router::openProductCard(const QString& handle, const QVariant& item)
+bool Router::isSplitPreviewAvailable() const
 {
-    openProduct({.handle = handle, .item = cardIn(item)}, OpenMode::Automatic);
+    return !(m_session && m_session->isMiraDocked()) && m_services.preferences.value(preferences::splitPreview) &&
+           (!m_session || m_session->contentWidth() >= WindowSession::leastWidthForPreview);
 }
 
-void Router::openProductInNewTab(const QString& handle, const QVariant& item)
+void Router::openPiece(const QString& handle, const QVariant& item, OpenMode mode)
 {
-    openProduct({.handle = handle, .item = cardIn(item)}, OpenMode::NewTab);
+    openProduct({.handle = handle, .item = cardIn(item)}, mode);
+}
+
+void Router::setPreview(const std::optional<ProductPreview>& preview)
+{
+    if (m_preview == preview)
+        return;
+    m_preview = preview;
+    Q_EMIT previewChanged();
+}
+
+void Router::expandPreview()
+{
+    if (m_preview)
+        openProduct(ProductPreview(*m_preview), OpenMode::Page);
+}
+
+void Router::openPreviewInNewTab()
+{
+    if (!m_preview || !m_session)
+        return;
+    const Route route = ShopRoute{ShopRoute::Product{.handle = m_preview->handle, .item = m_preview->item}};
+    m_session->openTab(selection(), TabActivation::Activate)->push(route);
+}
+
+void Router::setPreviewWidth(double width)
+{
+    const double clamped = previewWidthFor(width);
+    if (qFuzzyCompare(std::exchange(m_previewWidth, clamped), clamped))
+        return;
+    m_services.preferences.set(preferences::splitPreviewWidth, clamped);
+    Q_EMIT previewWidthChanged();
 }
 
 void Router::openCollection(const QString& handle, const QString& title)
 {
+    closePreview();
     const Route route = ShopRoute{
         ShopRoute::Collection{.handle = handle, .title = title.isEmpty() ? std::nullopt : std::optional(title)}};
-    const auto* const top = m_section.routes.empty() ? nullptr : std::get_if<ShopRoute>(&m_section.routes.back());
+    const std::optional<Route>& current = m_history.currentPage().route;
+    const auto* const top = current ? std::get_if<ShopRoute>(&*current) : nullptr;
     if (!top || !std::holds_alternative<ShopRoute::Collection>(top->page)) {
         push(route);
         return;
     }
     // From one collection to another: the stack does not grow.
-    m_section.routes.back() = route;
-    m_forwardRoutes.clear();
-    m_laterSections.clear();
-    forgetAbove(depth() - 1); // the pages below are still there, and tell their titles only once
-    Q_EMIT replaced(depth());
-    Q_EMIT stackChanged();
-    Q_EMIT titleChanged();
+    m_history.replace(route);
+    apply(selection());
 }
 
 void Router::openDepartment(const QString& id)
@@ -154,6 +249,36 @@ void Router::openDepartment(const QString& id)
 void Router::openSearch(const QString& query)
 {
     push(ShopRoute{ShopRoute::Search{.query = query}});
+}
+
+void Router::openWishlist()
+{
+    select(SidebarItem::Wishlist);
+}
+
+void Router::openRecentlyViewed()
+{
+    push(ShopRoute{ShopRoute::RecentlyViewed{}});
+}
+
+void Router::openPriceDrops()
+{
+    push(ShopRoute{ShopRoute::PriceDrops{}});
+}
+
+void Router::openCompare(const QStringList& handles)
+{
+    push(ShopRoute{ShopRoute::Compare{.handles = handles}});
+}
+
+void Router::setCompared(int pageID, const QStringList& handles)
+{
+    History::Page* const page = m_history.find(pageID);
+    const auto* const shop = page && page->route ? std::get_if<ShopRoute>(&*page->route) : nullptr;
+    if (!shop || !std::holds_alternative<ShopRoute::Compare>(shop->page))
+        return;
+    page->route = ShopRoute{ShopRoute::Compare{.handles = handles}};
+    Q_EMIT stackChanged();
 }
 
 void Router::openFromStorePage(const QString& link)
@@ -174,25 +299,19 @@ void Router::openStorePage(const QString& path, const QString& title)
 
 void Router::push(const Route& route)
 {
-    m_section.routes.push_back(route);
-    m_forwardRoutes.clear();
-    m_laterSections.clear();
-    forgetAbove(depth() - 1);
-    Q_EMIT pushed(depth());
-    Q_EMIT stackChanged();
-    Q_EMIT titleChanged();
+    m_history.push(route);
+    apply(selection());
 }
 
 void Router::select(SidebarItem item)
 {
-    if (item == m_section.selection) {
+    const SidebarItem before = selection();
+    if (item == before) {
         goToSectionHome();
         return;
     }
-    m_earlierSections.push_back(state());
-    m_laterSections.clear();
-    m_forwardRoutes.clear();
-    show({.section = {.selection = item, .routes = {}}});
+    m_history.enter(item);
+    apply(before);
 }
 
 void Router::selectItem(int item)
@@ -201,115 +320,98 @@ void Router::selectItem(int item)
         select(static_cast<SidebarItem>(item));
 }
 
-void Router::restore(const TabState& state)
-{
-    m_forwardRoutes.clear();
-    m_earlierSections.clear();
-    m_laterSections.clear();
-    setPinned(state.isPinned);
-    show(state);
-}
-
-void Router::show(const TabState& state)
-{
-    m_section = state.section;
-    m_lastSelectionChange = m_services.clock.now();
-    m_pageTitles.clear();
-    m_scrollPositions.clear();
-    for (int i = 0; i <= depth(); ++i) {
-        if (const QString title = state.titles.value(i); !title.isEmpty())
-            m_pageTitles.insert(i, title);
-        if (const double offset = state.scrollOffsets.value(i); offset > 0)
-            m_scrollPositions.insert(i, offset);
-    }
-    Q_EMIT reset();
-    Q_EMIT selectionChanged();
-    Q_EMIT stackChanged();
-    Q_EMIT titleChanged();
-}
-
 void Router::back()
 {
-    if (depth() > 0) {
-        popTo(m_section.routes.size() - 1);
-        return;
-    }
-    if (m_earlierSections.empty())
-        return;
-    TabState later = state();
-    // What was popped in this section can be brought back when the shopper returns to it.
-    later.section.routes.assign(std::make_move_iterator(m_forwardRoutes.rbegin()),
-                                std::make_move_iterator(m_forwardRoutes.rend()));
-    m_forwardRoutes.clear();
-    m_laterSections.push_back(std::move(later));
-    const TabState earlier = std::move(m_earlierSections.back());
-    m_earlierSections.pop_back();
-    show(earlier);
+    go(-1);
 }
 
 void Router::forward()
 {
-    if (!m_forwardRoutes.empty()) {
-        m_section.routes.push_back(std::move(m_forwardRoutes.back()));
-        m_forwardRoutes.pop_back();
-        Q_EMIT pushed(depth());
-        Q_EMIT stackChanged();
-        Q_EMIT titleChanged();
-        return;
-    }
-    if (m_laterSections.empty())
-        return;
-    m_earlierSections.push_back(state());
-    TabState later = std::move(m_laterSections.back());
-    m_laterSections.pop_back();
-    m_forwardRoutes.assign(std::make_move_iterator(later.section.routes.rbegin()),
-                           std::make_move_iterator(later.section.routes.rend()));
-    later.section.routes.clear();
-    show(later);
+    go(1);
+}
+
+void Router::go(int pages)
+{
+    const SidebarItem before = selection();
+    if (m_history.move(pages))
+        apply(before);
 }
 
 void Router::backTo(int depth)
 {
-    if (depth >= 0)
-        popTo(static_cast<std::size_t>(depth));
+    if (depth >= 0 && depth < this->depth())
+        go(depth - this->depth());
 }
 
 void Router::goToSectionHome()
 {
-    popTo(0);
+    backTo(0);
 }
 
-void Router::popTo(std::size_t count)
+QStringList Router::backTitles() const
 {
-    if (m_section.routes.size() <= count)
-        return;
-    while (m_section.routes.size() > count) {
-        m_forwardRoutes.push_back(std::move(m_section.routes.back()));
-        m_section.routes.pop_back();
+    QStringList titles;
+    for (std::size_t i = m_history.current(); i > 0 && titles.size() < longestMenu; --i)
+        titles.append(titleAt(i - 1));
+    return titles;
+}
+
+QStringList Router::forwardTitles() const
+{
+    QStringList titles;
+    for (std::size_t i = m_history.current() + 1; i < m_history.pages().size() && titles.size() < longestMenu; ++i)
+        titles.append(titleAt(i));
+    return titles;
+}
+
+void Router::apply(SidebarItem before)
+{
+    const bool wasApplying = std::exchange(m_isApplying, true);
+    const std::size_t current = m_history.current();
+    const std::size_t first = current > livePagesBehind ? current - livePagesBehind : 0;
+    const std::size_t last = std::min(current + livePagesAhead, m_history.pages().size() - 1);
+    std::vector<VisitedPage> pages;
+    for (std::size_t i = first; i <= last; ++i)
+        pages.push_back({.id = m_history.pages()[i].id, .depth = m_history.depthOf(i), .entry = entryAt(i)});
+    m_navigationPath.show(std::move(pages), static_cast<int>(current - first));
+    m_isApplying = wasApplying;
+    if (selection() != before) {
+        m_lastSelectionChange = m_services.clock.now();
+        Q_EMIT selectionChanged();
     }
-    forgetAbove(depth());
-    Q_EMIT popped(depth());
     Q_EMIT stackChanged();
     Q_EMIT titleChanged();
-}
-
-void Router::forgetAbove(int depth)
-{
-    const auto isAbove = [depth](const auto& entry) {
-        return entry.key() > depth;
-    };
-    m_pageTitles.removeIf(isAbove);
-    m_scrollPositions.removeIf(isAbove);
+    Q_EMIT topChanged();
 }
 
 TabState Router::state() const
 {
-    TabState state{.isPinned = m_isPinned, .section = m_section};
-    for (int i = 0; i <= depth(); ++i) {
-        state.titles.append(m_pageTitles.value(i));
-        state.scrollOffsets.append(m_scrollPositions.value(i));
+    TabState state{.isPinned = m_isPinned,
+                   .section = {.selection = selection(), .routes = routes()},
+                   .titles = {},
+                   .scrollOffsets = {},
+                   .preview = m_preview};
+    for (std::size_t i = m_history.root(); i <= m_history.current(); ++i) {
+        state.titles.append(m_history.pages()[i].title);
+        state.scrollOffsets.append(m_history.pages()[i].scrollOffset);
     }
     return state;
+}
+
+void Router::restore(const TabState& state)
+{
+    const SidebarItem before = selection();
+    setPinned(state.isPinned);
+    m_history.reset(state.section.selection);
+    for (const Route& route : state.section.routes)
+        m_history.push(route);
+    for (int i = 0; i <= depth(); ++i) {
+        History::Page& page = *m_history.find(m_history.pages()[static_cast<std::size_t>(i)].id);
+        page.title = state.titles.value(i);
+        page.scrollOffset = std::max(0.0, state.scrollOffsets.value(i));
+    }
+    apply(before);
+    setPreview(state.preview);
 }
 
 void Router::reload()
@@ -335,23 +437,29 @@ int Router::addReloadHandler(QObject* page)
     return m_nextReloadKey++;
 }
 
-void Router::setPageTitle(int depth, const QString& title)
+void Router::setPageTitle(int pageID, const QString& title)
 {
-    if (depth < 0 || depth > this->depth() || m_pageTitles.value(depth) == title)
+    History::Page* const page = m_history.find(pageID);
+    if (!page || page->title == title)
         return;
-    m_pageTitles.insert(depth, title);
-    Q_EMIT titleChanged();
+    page->title = title;
+    if (!m_isApplying) // else it is told in a moment
+        Q_EMIT titleChanged();
 }
 
-void Router::setScrollPosition(int depth, double position)
+void Router::setScrollPosition(int pageID, double position)
 {
-    if (depth >= 0 && depth <= this->depth())
-        m_scrollPositions.insert(depth, position);
+    History::Page* const page = m_history.find(pageID);
+    if (m_isApplying || !page || qFuzzyCompare(1 + page->scrollOffset, 1 + position))
+        return;
+    page->scrollOffset = position;
+    Q_EMIT scrollPositionChanged();
 }
 
-double Router::scrollPosition(int depth) const
+double Router::scrollPosition(int pageID) const
 {
-    return m_scrollPositions.value(depth);
+    const History::Page* const page = m_history.find(pageID);
+    return page ? page->scrollOffset : 0;
 }
 
 } // namespace loom

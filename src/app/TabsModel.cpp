@@ -36,6 +36,17 @@ void TabsModel::remove(int index)
     Q_EMIT countChanged();
 }
 
+void TabsModel::move(int from, int to)
+{
+    // The place is counted here before the tab is taken out.
+    if (from == to || !beginMoveRows({}, from, from, {}, to > from ? to + 1 : to))
+        return;
+    auto tab = std::move(m_tabs[static_cast<std::size_t>(from)]);
+    m_tabs.erase(m_tabs.begin() + from);
+    m_tabs.insert(m_tabs.begin() + to, std::move(tab));
+    endMoveRows();
+}
+
 int TabsModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : count();

@@ -25,6 +25,7 @@ public:
     [[nodiscard]] int indexOf(const QUuid& id) const;
     void insert(int index, std::unique_ptr<Router> tab);
     void remove(int index);
+    void move(int from, int to);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;

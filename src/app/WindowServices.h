@@ -9,12 +9,16 @@ namespace loom
 {
 
 class Clock;
+class ClosedTabs;
+class Preferences;
 class Random;
 
 /// What windows and their tabs need of the outside. Owned by the application model, which outlives them.
 struct WindowServices {
     Clock& clock;
     Random& random;
+    Preferences& preferences;
+    ClosedTabs& closedTabs;
     LinkResolver resolver;
     StorePages storePages;
     /// Hands an address to the shopper's browser.

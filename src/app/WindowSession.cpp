@@ -1,5 +1,6 @@
 #include "app/WindowSession.h"
 
+#include "app/ClosedTabs.h"
 #include "app/WindowServices.h"
 #include "base/Random.h"
 
@@ -14,13 +15,38 @@ WindowSession::WindowSession(const WindowServices& services, const WindowSeed& s
     Router* const tab = openTab(seed.section, TabActivation::Activate);
     if (seed.link)
         tab->open(seed.link);
+    connect(&services.closedTabs, &ClosedTabs::changed, this, &WindowSession::canReopenTabChanged);
+    connect(this, &WindowSession::layoutChanged, this, &WindowSession::previewShownChanged);
+    connect(this, &WindowSession::panelsChanged, this, &WindowSession::previewShownChanged);
+    connect(this, &WindowSession::selectedChanged, this, &WindowSession::previewShownChanged);
 }
 
-WindowSession::~WindowSession() = default;
+std::unique_ptr<WindowSession> WindowSession::restored(const WindowServices& services, const WindowState& state)
+{
+    auto session = std::make_unique<WindowSession>(
+        services, WindowSeed{.link = {}, .section = state.tabs.front().section.selection});
+    session->m_tabs.at(0)->restore(state.tabs.front());
+    for (std::size_t i = 1; i < state.tabs.size(); ++i)
+        session->openTab(state.tabs[i].section.selection, TabActivation::Background)->restore(state.tabs[i]);
+    session->selectTab(state.selectedIndex);
+    session->m_isSidebarCollapsed = state.isSidebarCollapsed;
+    session->m_windowSize = state.size;
+    session->m_isWindowMaximized = state.isMaximized;
+    return session;
+}
+
+WindowSession::~WindowSession()
+{
+    Q_EMIT ending();
+}
 
 WindowState WindowSession::state() const
 {
-    WindowState state{.selectedIndex = selectedIndex(), .isSidebarCollapsed = m_isSidebarCollapsed};
+    WindowState state{.tabs = {},
+                      .selectedIndex = selectedIndex(),
+                      .isSidebarCollapsed = m_isSidebarCollapsed,
+                      .size = m_windowSize,
+                      .isMaximized = m_isWindowMaximized};
     for (int i = 0; i < m_tabs.count(); ++i)
         state.tabs.push_back(m_tabs.at(i)->state());
     return state;
@@ -36,10 +62,19 @@ Router* WindowSession::insertTab(int index, SidebarItem section, TabActivation a
     auto tab = std::make_unique<Router>(m_services, this, section);
     Router* const router = tab.get();
     m_recency.append(router->id());
+    watch(*router);
     m_tabs.insert(index, std::move(tab));
     if (activation == TabActivation::Activate)
         select(router->id());
     return router;
+}
+
+void WindowSession::watch(const Router& tab)
+{
+    for (const auto signal :
+         {&Router::isPinnedChanged, &Router::titleChanged, &Router::previewChanged, &Router::scrollPositionChanged})
+        connect(&tab, signal, this, &WindowSession::stateChanged);
+    connect(&tab, &Router::previewChanged, this, &WindowSession::previewShownChanged);
 }
 
 void WindowSession::openLink(const QString& link)
@@ -48,6 +83,14 @@ void WindowSession::openLink(const QString& link)
     const bool isPage = !std::holds_alternative<LinkResolver::External>(target) &&
                         !std::holds_alternative<LinkResolver::Cart>(target) &&
                         !std::holds_alternative<LinkResolver::None>(target);
+    if (isPage) {
+        // What lies over the page would hide that it came.
+        setCartOpen(false);
+        setHistoryOpen(false);
+        setInboxOpen(false);
+        setSupportOpen(false);
+        closeLightbox();
+    }
     Router* const tab = isPage ? openTab(SidebarItem::Home, TabActivation::Activate) : selected();
     tab->open(link);
 }
@@ -74,11 +117,18 @@ void WindowSession::select(QUuid id)
 {
     m_recency.removeAll(id);
     m_recency.prepend(id);
-    if (std::exchange(m_selectedID, id) != id)
-        Q_EMIT selectedChanged();
+    if (std::exchange(m_selectedID, id) == id)
+        return;
+    Q_EMIT selectedChanged();
+    Q_EMIT stateChanged();
 }
 
 void WindowSession::closeTab(int index)
+{
+    closeTab(index, Closing::Remembered);
+}
+
+void WindowSession::closeTab(int index, Closing closing)
 {
     if (!m_tabs.at(index))
         return;
@@ -86,18 +136,81 @@ void WindowSession::closeTab(int index)
         Q_EMIT closeRequested();
         return;
     }
-    dropTab(index);
+    dropTab(index, closing);
 }
 
-void WindowSession::dropTab(int index)
+void WindowSession::dropTab(int index, Closing closing)
 {
     const QUuid id = m_tabs.at(index)->id();
     m_recency.removeAll(id);
+    if (closing == Closing::Remembered)
+        m_services.closedTabs.add(m_tabs.at(index)->state());
     // The next tab is in front before the closed one goes, so that the window is never without a page.
     if (id == m_selectedID)
         select(m_recency.first());
     m_tabs.remove(index);
     Q_EMIT selectedChanged(); // its number may have changed
+    Q_EMIT stateChanged();
+}
+
+void WindowSession::reopenTab()
+{
+    const std::optional<TabState> closed = m_services.closedTabs.take();
+    if (!closed)
+        return;
+    const int index = closed->isPinned ? pinnedCount() : m_tabs.count();
+    insertTab(index, closed->section.selection, TabActivation::Activate)->restore(*closed);
+}
+
+bool WindowSession::canReopenTab() const
+{
+    return !m_services.closedTabs.isEmpty();
+}
+
+int WindowSession::pinnedCount() const
+{
+    int count = 0;
+    while (count < m_tabs.count() && m_tabs.at(count)->isPinned())
+        ++count;
+    return count;
+}
+
+void WindowSession::moveTab(int from, int to)
+{
+    const Router* const tab = m_tabs.at(from);
+    if (!tab)
+        return;
+    const int pinned = pinnedCount();
+    const int place =
+        tab->isPinned() ? std::clamp(to, 0, pinned - 1) : std::clamp(to, pinned, std::max(pinned, m_tabs.count() - 1));
+    if (place == from)
+        return;
+    m_tabs.move(from, place);
+    Q_EMIT selectedChanged(); // its number may have changed
+    Q_EMIT stateChanged();
+}
+
+void WindowSession::setTabPinned(int index, bool isPinned)
+{
+    Router* const tab = m_tabs.at(index);
+    if (!tab || tab->isPinned() == isPinned)
+        return;
+    // To the border between the two kinds, on whichever side it then belongs.
+    const int border = isPinned ? pinnedCount() : pinnedCount() - 1;
+    tab->setPinned(isPinned);
+    m_tabs.move(index, border);
+    Q_EMIT selectedChanged();
+    Q_EMIT stateChanged();
+}
+
+void WindowSession::tearOffTab(int index)
+{
+    const Router* const tab = m_tabs.at(index);
+    if (!tab || m_tabs.count() < 2)
+        return;
+    const TabState state = tab->state();
+    closeTab(index, Closing::Forgotten); // only here: it is open elsewhere
+    Q_EMIT tabTornOff(state);
 }
 
 void WindowSession::closeOtherTabs(int index)
@@ -217,14 +330,38 @@ void WindowSession::setWindowFullScreen(bool isFullScreen)
 
 void WindowSession::setSidebarCollapsed(bool isCollapsed)
 {
-    if (std::exchange(m_isSidebarCollapsed, isCollapsed) != isCollapsed)
-        Q_EMIT layoutChanged();
+    if (std::exchange(m_isSidebarCollapsed, isCollapsed) == isCollapsed)
+        return;
+    Q_EMIT layoutChanged();
+    Q_EMIT stateChanged();
 }
 
 void WindowSession::setWindowWidth(double width)
 {
     if (!qFuzzyCompare(std::exchange(m_windowWidth, width), width))
         Q_EMIT layoutChanged();
+}
+
+bool WindowSession::isPreviewShown() const
+{
+    const Router* const tab = selected();
+    return tab && tab->preview() && !m_isMiraDocked && contentWidth() >= leastWidthForPreview;
+}
+
+void WindowSession::setWindowSize(const QSize& size)
+{
+    if (std::exchange(m_windowSize, size) == size)
+        return;
+    Q_EMIT windowSizeChanged();
+    Q_EMIT stateChanged();
+}
+
+void WindowSession::setWindowMaximized(bool isMaximized)
+{
+    if (std::exchange(m_isWindowMaximized, isMaximized) == isMaximized)
+        return;
+    Q_EMIT windowSizeChanged();
+    Q_EMIT stateChanged();
 }
 
 void WindowSession::setWindow(QObject* window)

@@ -6,6 +6,9 @@
 #include "navigation/LightboxRequest.h"
 
 #include <QPointer>
+#include <QSize>
+
+#include <algorithm>
 
 namespace loom
 {
@@ -18,6 +21,7 @@ class WindowSession final : public QObject
     Q_OBJECT
     Q_PROPERTY(loom::TabsModel* tabs READ tabs CONSTANT)
     Q_PROPERTY(loom::Router* selected READ selected NOTIFY selectedChanged)
+    Q_PROPERTY(int pinnedCount READ pinnedCount NOTIFY stateChanged)
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedChanged)
     Q_PROPERTY(bool isCartOpen READ isCartOpen WRITE setCartOpen NOTIFY panelsChanged)
     Q_PROPERTY(bool isHistoryOpen READ isHistoryOpen WRITE setHistoryOpen NOTIFY panelsChanged)
@@ -31,10 +35,23 @@ class WindowSession final : public QObject
     Q_PROPERTY(bool isWindowFullScreen READ isWindowFullScreen WRITE setWindowFullScreen NOTIFY layoutChanged)
     Q_PROPERTY(bool isSidebarCollapsed READ isSidebarCollapsed WRITE setSidebarCollapsed NOTIFY layoutChanged)
     Q_PROPERTY(double windowWidth READ windowWidth WRITE setWindowWidth NOTIFY layoutChanged)
+    Q_PROPERTY(double contentWidth READ contentWidth NOTIFY layoutChanged)
+    Q_PROPERTY(bool isPreviewShown READ isPreviewShown NOTIFY previewShownChanged)
+    Q_PROPERTY(int lastWidth READ lastWidth NOTIFY windowSizeChanged)
+    Q_PROPERTY(int lastHeight READ lastHeight NOTIFY windowSizeChanged)
+    Q_PROPERTY(bool isWindowMaximized READ isWindowMaximized WRITE setWindowMaximized NOTIFY windowSizeChanged)
     Q_PROPERTY(QObject* window READ window WRITE setWindow NOTIFY windowChanged)
 
 public:
+    /// What a product beside the page takes at least, the page included, in points.
+    static constexpr double leastWidthForPreview = 1160;
+    /// What the sidebar takes in its full width; pages are measured without it, whether it is there or not.
+    static constexpr double sidebarWidth = 216;
+
     WindowSession(const WindowServices& services, const WindowSeed& seed, QObject* parent = nullptr);
+    /// As it was saved; `state` has a tab at least.
+    [[nodiscard]] static std::unique_ptr<WindowSession> restored(const WindowServices& services,
+                                                                 const WindowState& state);
     ~WindowSession() override;
 
     [[nodiscard]] const QUuid& id() const { return m_id; }
@@ -60,6 +77,15 @@ public:
     Q_INVOKABLE void closeTab(int index);
     /// Pinned ones too.
     Q_INVOKABLE void closeOtherTabs(int index);
+    /// Opens the tab again that was closed last in any window.
+    Q_INVOKABLE void reopenTab();
+    [[nodiscard]] Q_INVOKABLE bool canReopenTab() const;
+    [[nodiscard]] int pinnedCount() const;
+    /// Pinned tabs stand before the others; a tab moves among its own kind.
+    Q_INVOKABLE void moveTab(int from, int to);
+    Q_INVOKABLE void setTabPinned(int index, bool isPinned);
+    /// A window of its own for a tab; nothing happens to the only one.
+    Q_INVOKABLE void tearOffTab(int index);
     Q_INVOKABLE void selectNextTab();
     Q_INVOKABLE void selectPreviousTab();
 
@@ -99,6 +125,18 @@ public:
     void setSidebarCollapsed(bool isCollapsed);
     [[nodiscard]] double windowWidth() const { return m_windowWidth; }
     void setWindowWidth(double width);
+    /// What there is for pages, in points.
+    [[nodiscard]] double contentWidth() const { return std::max(0.0, m_windowWidth - sidebarWidth); }
+    /// There is a product beside the page, and room for it.
+    [[nodiscard]] bool isPreviewShown() const;
+    /// The window's size while it is neither maximised nor on the full screen, to come back to; none while unknown.
+    [[nodiscard]] const QSize& windowSize() const { return m_windowSize; }
+    void setWindowSize(const QSize& size);
+    [[nodiscard]] int lastWidth() const { return m_windowSize.width(); }
+    [[nodiscard]] int lastHeight() const { return m_windowSize.height(); }
+    Q_INVOKABLE void keepSize(int width, int height) { setWindowSize(QSize(width, height)); }
+    [[nodiscard]] bool isWindowMaximized() const { return m_isWindowMaximized; }
+    void setWindowMaximized(bool isMaximized);
     [[nodiscard]] QObject* window() const { return m_window; }
     void setWindow(QObject* window);
 
@@ -110,7 +148,16 @@ Q_SIGNALS:
     void pendingSearchFocusChanged();
     void layoutChanged();
     void windowChanged();
+    void windowSizeChanged();
+    void previewShownChanged();
+    void canReopenTabChanged();
+    /// What state() tells is not what it was.
+    void stateChanged();
+    /// A tab is to have a window of its own.
+    void tabTornOff(const loom::TabState& tab);
     void closeRequested();
+    /// It is about to be gone, and still whole: whoever shows it lets go of it now.
+    void ending();
     void screenshotRequested();
     void webPageClaimed(QObject* owner);
 
@@ -127,7 +174,10 @@ private:
     Router* insertTab(int index, SidebarItem section, TabActivation activation);
     void select(QUuid id);
     void setPanel(bool& panel, bool isOpen);
-    void dropTab(int index);
+    enum class Closing { Remembered, Forgotten };
+    void closeTab(int index, Closing closing);
+    void dropTab(int index, Closing closing = Closing::Remembered);
+    void watch(const Router& tab);
     [[nodiscard]] QVariant lightboxVariant() const;
 
     const WindowServices& m_services;
@@ -145,6 +195,8 @@ private:
     bool m_isSidebarCollapsed = false;
     QPointer<QObject> m_window;
     double m_windowWidth = 0;
+    QSize m_windowSize;
+    bool m_isWindowMaximized = false;
 };
 
 } // namespace loom

@@ -5,35 +5,6 @@
 namespace loom
 {
 
-namespace
-{
-
-CollectionFilter::Value decodeValue(const JsonReader& json)
-{
-    return {.id = json.text("id"),
-            .label = json.text("label"),
-            .count = json.optionalInteger("count").value_or(0),
-            .input = json.text("input")};
-}
-
-CollectionFilter decodeFilter(const JsonReader& json)
-{
-    CollectionFilter filter;
-    filter.id = json.text("id");
-    filter.label = json.text("label");
-    const QString kind = json.text("type");
-    if (kind == QLatin1String("PRICE_RANGE"))
-        filter.kind = CollectionFilter::Kind::PriceRange;
-    else if (kind == QLatin1String("BOOLEAN"))
-        filter.kind = CollectionFilter::Kind::Boolean;
-    else if (kind != QLatin1String("LIST"))
-        json.fail(QStringLiteral("a filter of an unknown kind"));
-    filter.values = JsonReader::decodeEach(json.optionalList("values"), decodeValue);
-    return filter;
-}
-
-} // namespace
-
 CollectionPage decodeCollectionPage(const JsonReader& data)
 {
     CollectionPage page;

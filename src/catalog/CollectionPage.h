@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalog/CollectionFilter.h"
 #include "catalog/CollectionInfo.h"
 #include "catalog/ProductListItem.h"
 
@@ -43,26 +44,6 @@ struct CollectionRequest {
     std::optional<QString> after;
     QJsonArray filters; ///< ProductFilter inputs
     CollectionSort sort = CollectionSort::Featured;
-};
-
-/// One thing a collection can be narrowed by.
-struct CollectionFilter {
-    enum class Kind { List, PriceRange, Boolean };
-    struct Value {
-        QString id;
-        QString label;
-        qint64 count = 0;
-        QString input; ///< the JSON object to send back when the value is chosen
-
-        bool operator==(const Value&) const = default;
-    };
-
-    QString id;
-    QString label;
-    Kind kind = Kind::List;
-    std::vector<Value> values;
-
-    bool operator==(const CollectionFilter&) const = default;
 };
 
 /// One answer. Without a collection there is none in this market.

@@ -1,6 +1,7 @@
 #include "catalog/MarketStore.h"
 
 #include "base/Clock.h"
+#include "catalog/CountryNames.h"
 #include "catalog/StorefrontAPI.h"
 #include "catalog/StorefrontLanguage.h"
 #include "storage/DataFolder.h"
@@ -36,24 +37,28 @@ MarketStore::MarketStore(MarketContext context, StorefrontClient& client, Storef
     , m_folder(folder)
     , m_preferences(preferences)
     , m_clock(clock)
+    , m_currency(preferences.value(preferences::marketCurrency))
+    , m_fetching([this] { Q_EMIT fetchingChanged(); })
 {
+    m_context.language = appLanguageFromCode(m_preferences.value(preferences::language)).value_or(m_context.language);
     const QString chosen = m_preferences.value(preferences::marketCountry).toUpper();
     if (isStorefrontCountry(chosen))
         m_context.country = chosen;
     m_client.setCountry(m_context.country);
     m_client.setLanguage(m_context.language);
+    m_api.setCurrencyWatcher(
+        [this](const QString& country, const QString& currency) { noteCurrency(country, currency); });
+}
+
+MarketStore::~MarketStore()
+{
+    m_api.setCurrencyWatcher({});
 }
 
 QString MarketStore::countryName() const
 {
     const auto found = std::ranges::find(m_countries, m_context.country, &MarketCountry::isoCode);
-    return found != m_countries.end() ? found->name : m_context.country;
-}
-
-QString MarketStore::currency() const
-{
-    const auto found = std::ranges::find(m_countries, m_context.country, &MarketCountry::isoCode);
-    return found != m_countries.end() ? found->currency : m_preferences.value(preferences::marketCurrency);
+    return found != m_countries.end() ? found->name : countryNameIn(m_context.language, m_context.country);
 }
 
 ShopGender MarketStore::gender() const
@@ -61,10 +66,18 @@ ShopGender MarketStore::gender() const
     return m_preferences.value(preferences::shopGender) == QLatin1String("men") ? ShopGender::Men : ShopGender::Women;
 }
 
+QString MarketStore::department() const
+{
+    return gender() == ShopGender::Men ? QStringLiteral("men") : QStringLiteral("women");
+}
+
 void MarketStore::setGender(ShopGender gender)
 {
+    const ShopGender before = this->gender();
     m_preferences.set(preferences::shopGender,
                       gender == ShopGender::Men ? QStringLiteral("men") : QStringLiteral("women"));
+    if (gender != before)
+        Q_EMIT genderChanged();
 }
 
 void MarketStore::load()
@@ -90,8 +103,7 @@ bool MarketStore::setCountry(const QString& isoCode)
     m_context.country = country;
     m_client.setCountry(country);
     m_preferences.set(preferences::marketCountry, country);
-    m_preferences.remove(preferences::marketCurrency); // the former market's
-    rememberCurrency();
+    setCurrency({}); // the former market's
     raiseRevision();
     Q_EMIT countriesChanged();
     refreshRate();
@@ -104,6 +116,7 @@ void MarketStore::setLanguage(AppLanguage language)
         return;
     m_context.language = language;
     m_client.setLanguage(language);
+    m_preferences.set(preferences::language, appLanguageCode(language));
     raiseRevision();
     refreshCountries(); // their names are in the former language
 }
@@ -135,6 +148,8 @@ QCoro::Task<> MarketStore::measureRate(QString country)
         co_return;
     const auto rate = marketSample && dollarSample ? measuredRate(country, *marketSample, *dollarSample, m_clock.now())
                                                    : std::nullopt;
+    if (marketSample && *marketSample)
+        noteCurrency(country, (*marketSample)->currency);
     if (rate)
         m_folder.save(rateFile, toJson(*rate));
     setRate(rate);
@@ -149,15 +164,19 @@ QCoro::Task<> MarketStore::fetchCountries()
 {
     const Work::Run run = m_fetching.begin();
     auto countries = co_await m_api.countries(run.stop());
-    // A failure keeps the list that was there, and so does a list of which nothing can be read.
-    if (run.isStopped() || !countries || countries->empty())
+    if (run.isStopped())
         co_return;
+    // A failure keeps the list that was there, and so does a list of which nothing can be read.
+    if (!countries || countries->empty()) {
+        m_countriesFailure = countries ? APIError{APIError::InvalidResponse{}} : countries.error().error();
+        co_return;
+    }
+    m_countriesFailure.reset();
     m_countries = *std::move(countries);
     QJsonArray stored;
     for (const MarketCountry& country : m_countries)
         stored.append(toJson(country));
     m_folder.saveSnapshot(countriesFile, stored, m_clock.now());
-    rememberCurrency();
     Q_EMIT countriesChanged();
 }
 
@@ -173,10 +192,21 @@ void MarketStore::raiseRevision()
     Q_EMIT revisionChanged();
 }
 
-void MarketStore::rememberCurrency()
+void MarketStore::noteCurrency(const QString& country, const QString& currency)
 {
-    if (const QString code = currency(); !code.isEmpty())
-        m_preferences.set(preferences::marketCurrency, code);
+    if (country == m_context.country)
+        setCurrency(currency);
+}
+
+void MarketStore::setCurrency(const QString& currency)
+{
+    if (std::exchange(m_currency, currency) == currency)
+        return;
+    if (currency.isEmpty())
+        m_preferences.remove(preferences::marketCurrency);
+    else
+        m_preferences.set(preferences::marketCurrency, currency);
+    Q_EMIT currencyChanged();
 }
 
 } // namespace loom

@@ -2,6 +2,7 @@
 
 #include "catalog/MarketCountry.h"
 #include "catalog/MarketRate.h"
+#include "net/ApiResult.h"
 #include "net/AppLanguage.h"
 #include "net/Work.h"
 
@@ -35,13 +36,17 @@ class MarketStore final : public QObject
     Q_OBJECT
     Q_PROPERTY(QString country READ country NOTIFY revisionChanged)
     Q_PROPERTY(QString countryName READ countryName NOTIFY countriesChanged)
-    Q_PROPERTY(QString currency READ currency NOTIFY countriesChanged)
+    Q_PROPERTY(QString currency READ currency NOTIFY currencyChanged)
+    Q_PROPERTY(QString language READ languageCode NOTIFY revisionChanged)
+    Q_PROPERTY(QString languageName READ languageName NOTIFY revisionChanged)
+    Q_PROPERTY(QString department READ department NOTIFY genderChanged)
     Q_PROPERTY(int revision READ revision NOTIFY revisionChanged)
 
 public:
     /// `context` is where a shopper without a choice of their own begins.
     MarketStore(MarketContext context, StorefrontClient& client, StorefrontAPI& api, DataFolder& folder,
                 Preferences& preferences, Clock& clock, QObject* parent = nullptr);
+    ~MarketStore() override;
 
     [[nodiscard]] const MarketContext& context() const { return m_context; }
     [[nodiscard]] const std::vector<MarketCountry>& countries() const { return m_countries; }
@@ -50,12 +55,19 @@ public:
     [[nodiscard]] int revision() const { return m_revision; }
 
     [[nodiscard]] QString country() const { return m_context.country; }
-    /// In the content language; the code while the name is not known.
+    /// In the content language.
     [[nodiscard]] QString countryName() const;
-    /// ISO 4217; empty while it is not known.
-    [[nodiscard]] QString currency() const;
+    /// ISO 4217; what the store's answers in this market were last in, empty until there was one.
+    [[nodiscard]] const QString& currency() const { return m_currency; }
+    [[nodiscard]] QString languageCode() const { return appLanguageCode(m_context.language); }
+    [[nodiscard]] QString languageName() const { return appLanguageName(m_context.language); }
+    [[nodiscard]] bool isLoadingCountries() const { return m_fetching.isRunning(); }
+    /// Why the countries are not as fresh as they should be; none where they are.
+    [[nodiscard]] const std::optional<APIError>& countriesFailure() const { return m_countriesFailure; }
 
     [[nodiscard]] ShopGender gender() const;
+    /// The handle of that department.
+    [[nodiscard]] QString department() const;
     void setGender(ShopGender gender);
 
     /// Reads what is kept on this machine and begins a refresh of the rate and of the countries.
@@ -74,14 +86,19 @@ public:
 Q_SIGNALS:
     void revisionChanged();
     void countriesChanged();
+    /// They are being fetched, or no more.
+    void fetchingChanged();
+    void currencyChanged();
     void rateChanged();
+    void genderChanged();
 
 private:
     [[nodiscard]] QCoro::Task<> measureRate(QString country);
     [[nodiscard]] QCoro::Task<> fetchCountries();
     void setRate(std::optional<MarketRate> rate);
     void raiseRevision();
-    void rememberCurrency();
+    void noteCurrency(const QString& country, const QString& currency);
+    void setCurrency(const QString& currency);
 
     MarketContext m_context;
     StorefrontClient& m_client;
@@ -90,6 +107,8 @@ private:
     Preferences& m_preferences;
     Clock& m_clock;
     std::vector<MarketCountry> m_countries;
+    std::optional<APIError> m_countriesFailure;
+    QString m_currency;
     std::optional<MarketRate> m_rate;
     int m_revision = 0;
     Work m_measuring;

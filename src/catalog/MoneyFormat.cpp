@@ -5,6 +5,7 @@
 #include <unicode/unum.h>
 
 #include <array>
+#include <cmath>
 
 namespace loom
 {
@@ -15,13 +16,42 @@ struct MoneyFormat::Formatter {
         UErrorCode status = U_ZERO_ERROR;
         const QByteArray locale = appLanguageCode(language).toLatin1();
         number = unum_open(UNUM_CURRENCY, nullptr, 0, locale.constData(), nullptr, &status);
+        round = unum_open(UNUM_CURRENCY, nullptr, 0, locale.constData(), nullptr, &status);
+        if (round)
+            unum_setAttribute(round, UNUM_MAX_FRACTION_DIGITS, 0);
     }
     Formatter(const Formatter&) = delete;
     Formatter& operator=(const Formatter&) = delete;
-    ~Formatter() { unum_close(number); }
+    ~Formatter()
+    {
+        unum_close(number);
+        unum_close(round);
+    }
 
     UNumberFormat* number = nullptr;
+    UNumberFormat* round = nullptr; ///< without decimals
 };
+
+namespace
+{
+
+QString format(UNumberFormat* formatter, const Money& money)
+{
+    std::array<UChar, 96> buffer{};
+    UErrorCode status = U_ZERO_ERROR;
+    QString currency = money.currencyCode.toUpper();
+    if (currency.size() == 3 && formatter) {
+        const int length =
+            unum_formatDoubleCurrency(formatter, money.amount,
+                                      reinterpret_cast<UChar*>(currency.data()), // NOLINT: ICU writes nothing
+                                      buffer.data(), static_cast<int32_t>(buffer.size()), nullptr, &status);
+        if (U_SUCCESS(status) && status != U_STRING_NOT_TERMINATED_WARNING)
+            return QString::fromUtf16(buffer.data(), length);
+    }
+    return (QString::number(money.amount, 'f', 2) + QLatin1Char(' ') + money.currencyCode).trimmed();
+}
+
+} // namespace
 
 MoneyFormat::MoneyFormat(AppLanguage language)
 {
@@ -37,17 +67,13 @@ void MoneyFormat::setLanguage(AppLanguage language)
 
 QString MoneyFormat::text(const Money& money) const
 {
-    std::array<UChar, 96> buffer{};
-    UErrorCode status = U_ZERO_ERROR;
-    QString currency = money.currencyCode.toUpper();
-    if (currency.size() == 3 && m_formatter->number) {
-        const int length = unum_formatDoubleCurrency(
-            m_formatter->number, money.amount, reinterpret_cast<UChar*>(currency.data()), // NOLINT: ICU writes nothing
-            buffer.data(), static_cast<int32_t>(buffer.size()), nullptr, &status);
-        if (U_SUCCESS(status) && status != U_STRING_NOT_TERMINATED_WARNING)
-            return QString::fromUtf16(buffer.data(), length);
-    }
-    return (QString::number(money.amount, 'f', 2) + QLatin1Char(' ') + money.currencyCode).trimmed();
+    return format(m_formatter->number, money);
+}
+
+QString MoneyFormat::roundText(const Money& money) const
+{
+    const bool isWhole = std::round(money.amount) == money.amount;
+    return format(isWhole ? m_formatter->round : m_formatter->number, money);
 }
 
 } // namespace loom

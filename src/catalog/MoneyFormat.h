@@ -22,6 +22,8 @@ public:
 
     /// "$248.00". A currency that is none is written behind the amount as it stands.
     [[nodiscard]] QString text(const Money& money) const;
+    /// "$248", and "$248.50" where it is not whole: for bounds, not for prices.
+    [[nodiscard]] QString roundText(const Money& money) const;
 
 private:
     struct Formatter;

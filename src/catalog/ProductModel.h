@@ -28,6 +28,7 @@ class ProductModel final : public QObject
     Q_PROPERTY(QString errorText READ errorText NOTIFY stateChanged)
     Q_PROPERTY(bool isOffline READ isOffline NOTIFY stateChanged)
     Q_PROPERTY(bool isComplete READ isComplete NOTIFY productChanged)
+    Q_PROPERTY(QVariant item READ itemVariant NOTIFY productChanged)
     Q_PROPERTY(QString title READ title NOTIFY productChanged)
     Q_PROPERTY(QString designer READ designer NOTIFY productChanged)
     Q_PROPERTY(QString label READ label NOTIFY productChanged)
@@ -106,6 +107,7 @@ private:
     void adopt(std::optional<Product> product, ProductDetails details);
     void readSizeTables();
     [[nodiscard]] const ProductListItem* item() const;
+    [[nodiscard]] QVariant itemVariant() const { return item() ? QVariant::fromValue(*item()) : QVariant(); }
 
     [[nodiscard]] QString presale() const { return m_details.metafields.presale.value_or(QString()); }
     [[nodiscard]] QString sizeHint() const { return m_details.metafields.sizeHint.value_or(QString()); }

@@ -191,14 +191,25 @@ QJsonObject handleVariables(const QStringList& handles)
 
 } // namespace
 
+void StorefrontAPI::noteCurrency(const QString& country, const std::vector<ProductListItem>& items) const
+{
+    if (m_currencyWatcher && !items.empty() && !items.front().price.currencyCode.isEmpty())
+        m_currencyWatcher(country, items.front().price.currencyCode);
+}
+
 QCoro::Task<ApiResult<std::optional<Product>>> StorefrontAPI::product(QString handle, std::stop_token stop)
 {
-    co_return co_await m_client.send(queries::product(), {{QStringLiteral("handle"), handle}}, Retry::Transient,
-                                     readProduct, stop);
+    const QString country = m_client.country();
+    auto product = co_await m_client.send(queries::product(), {{QStringLiteral("handle"), handle}}, Retry::Transient,
+                                          readProduct, stop);
+    if (product && *product)
+        noteCurrency(country, {(*product)->item});
+    co_return product;
 }
 
 QCoro::Task<ApiResult<std::vector<ProductListItem>>> StorefrontAPI::productsByIDs(QStringList ids, std::stop_token stop)
 {
+    const QString country = m_client.country();
     std::vector<ProductListItem> items;
     for (const QStringList& chunk : chunks(ids, maximumIDs)) {
         LOOM_CO_TRY(some, co_await m_client.send(queries::productsByIDs(),
@@ -206,6 +217,7 @@ QCoro::Task<ApiResult<std::vector<ProductListItem>>> StorefrontAPI::productsByID
                                                  Retry::Transient, readProductNodes, stop));
         items.insert(items.end(), std::make_move_iterator(some.begin()), std::make_move_iterator(some.end()));
     }
+    noteCurrency(country, items);
     co_return items;
 }
 
@@ -247,6 +259,22 @@ QCoro::Task<ApiResult<SearchSuggestions>> StorefrontAPI::suggest(QString text, s
 {
     co_return co_await m_client.send(queries::suggest(), {{QStringLiteral("q"), text}}, Retry::Transient,
                                      decodeSuggestions, stop);
+}
+
+QCoro::Task<ApiResult<SearchPage>> StorefrontAPI::search(SearchRequest request, std::stop_token stop)
+{
+    const QString country = m_client.country();
+    auto page = co_await m_client.send(queries::search(),
+                                       {{QStringLiteral("query"), request.query},
+                                        {QStringLiteral("first"), request.first},
+                                        {QStringLiteral("after"), orNull(request.after)},
+                                        {QStringLiteral("filters"), request.filters},
+                                        {QStringLiteral("sortKey"), QLatin1String(request.order.sortKey)},
+                                        {QStringLiteral("reverse"), request.order.reverse}},
+                                       Retry::Transient, decodeSearchPage, stop);
+    if (page)
+        noteCurrency(country, page->products);
+    co_return page;
 }
 
 QCoro::Task<ApiResult<std::optional<SkuImages>>> StorefrontAPI::skuImages(QString handle, std::stop_token stop)
@@ -294,14 +322,18 @@ QCoro::Task<ApiResult<CollectionPage>> StorefrontAPI::collectionProducts(Collect
                                                                          std::stop_token stop)
 {
     const CollectionSortOrder& order = orderOf(request.sort);
-    co_return co_await m_client.send(queries::collectionProducts(),
-                                     {{QStringLiteral("handle"), request.handle},
-                                      {QStringLiteral("first"), request.first},
-                                      {QStringLiteral("after"), orNull(request.after)},
-                                      {QStringLiteral("filters"), request.filters},
-                                      {QStringLiteral("sortKey"), QLatin1String(order.sortKey)},
-                                      {QStringLiteral("reverse"), order.reverse}},
-                                     Retry::Transient, decodeCollectionPage, stop);
+    const QString country = m_client.country();
+    auto page = co_await m_client.send(queries::collectionProducts(),
+                                       {{QStringLiteral("handle"), request.handle},
+                                        {QStringLiteral("first"), request.first},
+                                        {QStringLiteral("after"), orNull(request.after)},
+                                        {QStringLiteral("filters"), request.filters},
+                                        {QStringLiteral("sortKey"), QLatin1String(order.sortKey)},
+                                        {QStringLiteral("reverse"), order.reverse}},
+                                       Retry::Transient, decodeCollectionPage, stop);
+    if (page)
+        noteCurrency(country, page->products);
+    co_return page;
 }
 
 QCoro::Task<ApiResult<std::optional<qint64>>> StorefrontAPI::collectionProductCount(QString handle, QJsonArray filters,

@@ -3,10 +3,13 @@
 #include "catalog/CollectionPage.h"
 #include "catalog/MarketCountry.h"
 #include "catalog/Product.h"
+#include "catalog/SearchPage.h"
 #include "catalog/SearchSuggestions.h"
 #include "catalog/StorefrontClient.h"
 
 #include <QHash>
+
+#include <functional>
 
 namespace loom
 {
@@ -66,6 +69,10 @@ public:
     {
     }
 
+    /// Called with the country that was asked for and the currency that the answer's prices are in.
+    using CurrencyWatcher = std::function<void(const QString& country, const QString& currency)>;
+    void setCurrencyWatcher(CurrencyWatcher watcher) { m_currencyWatcher = std::move(watcher); }
+
     /// Nothing when no product has the handle.
     [[nodiscard]] QCoro::Task<ApiResult<std::optional<Product>>> product(QString handle, std::stop_token stop);
     /// In the order answered; products that are gone are left out.
@@ -77,6 +84,7 @@ public:
                                                                                        std::stop_token stop);
     [[nodiscard]] QCoro::Task<ApiResult<ProductsPage>> products(ProductsRequest request, std::stop_token stop);
     [[nodiscard]] QCoro::Task<ApiResult<SearchSuggestions>> suggest(QString text, std::stop_token stop);
+    [[nodiscard]] QCoro::Task<ApiResult<SearchPage>> search(SearchRequest request, std::stop_token stop);
     /// Nothing when no product has the handle.
     [[nodiscard]] QCoro::Task<ApiResult<std::optional<SkuImages>>> skuImages(QString handle, std::stop_token stop);
 
@@ -100,7 +108,11 @@ public:
     [[nodiscard]] QCoro::Task<ApiResult<std::optional<MarketSample>>> rateSample(QString country, std::stop_token stop);
 
 private:
+    /// Reads the currency of an answer to what was asked in `country`.
+    void noteCurrency(const QString& country, const std::vector<ProductListItem>& items) const;
+
     StorefrontClient& m_client;
+    CurrencyWatcher m_currencyWatcher;
 };
 
 } // namespace loom

@@ -151,6 +151,23 @@ QString suggest()
 })"});
 }
 
+QString search()
+{
+    // What is sold out comes last, in whatever order.
+    return document({listItemFragment,
+                     R"(query Search($query: String!, $first: Int!, $after: String, $filters: [ProductFilter!],
+  $sortKey: SearchSortKeys, $reverse: Boolean, $country: CountryCode, $language: LanguageCode)
+@inContext(country: $country, language: $language) {
+  search(query: $query, first: $first, after: $after, types: PRODUCT, productFilters: $filters, sortKey: $sortKey,
+    reverse: $reverse, unavailableProducts: LAST) {
+    totalCount
+    nodes { ... on Product { ...ListItem } }
+    pageInfo { hasNextPage endCursor }
+    productFilters { id label type values { id label count input } }
+  }
+})"});
+}
+
 QString skuImage()
 {
     return document({R"(query SkuImage($handle: String!) {

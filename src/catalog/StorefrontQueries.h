@@ -14,6 +14,7 @@ namespace loom::queries
 [[nodiscard]] QString recommendations();
 [[nodiscard]] QString products();
 [[nodiscard]] QString suggest();
+[[nodiscard]] QString search();
 [[nodiscard]] QString skuImage();
 [[nodiscard]] QString collectionProducts();
 [[nodiscard]] QString collectionProductCount();

@@ -134,6 +134,7 @@ void CheckoutStarter::show(const QUrl& start, const CheckoutHosts& hosts, const 
         Q_EMIT changed();
     });
     connect(checkout, &CheckoutModel::changed, this, &CheckoutStarter::changed);
+    Q_EMIT opened();
     Q_EMIT ready(checkout);
 }
 

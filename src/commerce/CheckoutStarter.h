@@ -39,6 +39,8 @@ public:
 
 Q_SIGNALS:
     void changed();
+    /// A checkout begins that was not there before.
+    void opened();
     /// There is a checkout to show. It lives until it is closed.
     void ready(loom::CheckoutModel* checkout);
 

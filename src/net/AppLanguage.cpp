@@ -8,6 +8,18 @@ QString appLanguageCode(AppLanguage language)
     return QString::fromLatin1(appLanguageCodes.at(static_cast<std::size_t>(language)));
 }
 
+QString appLanguageName(AppLanguage language)
+{
+    static constexpr std::array<const char*, appLanguageCodes.size()> names{
+        "English",  "العربية",       "Hrvatski",     "Čeština",          "Dansk",     "Nederlands",
+        "Filipino", "Suomi",         "Français",     "Deutsch",          "Ελληνικά",  "עברית",
+        "हिन्दी",    "Magyar",        "Íslenska",     "Bahasa Indonesia", "Italiano",  "日本語",
+        "한국어",   "Bahasa Melayu", "Norsk bokmål", "Polski",           "Português", "Română",
+        "Русский",  "简体中文",      "Slovenčina",   "Español",          "Svenska",   "ไทย",
+        "繁體中文", "Türkçe",        "Українська",   "Tiếng Việt"};
+    return QString::fromUtf8(names.at(static_cast<std::size_t>(language)));
+}
+
 std::optional<AppLanguage> appLanguageFromCode(const QString& code)
 {
     for (std::size_t i = 0; i < appLanguageCodes.size(); ++i) {

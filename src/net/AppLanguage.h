@@ -61,6 +61,8 @@ inline constexpr std::array<const char*, 34> appLanguageCodes{
     "ja", "ko", "ms", "nb", "pl", "pt", "ro",  "ru", "zh-Hans", "sk", "es", "sv", "th", "zh-Hant", "tr", "uk", "vi"};
 
 [[nodiscard]] QString appLanguageCode(AppLanguage language);
+/// What its speakers call it.
+[[nodiscard]] QString appLanguageName(AppLanguage language);
 [[nodiscard]] std::optional<AppLanguage> appLanguageFromCode(const QString& code);
 
 /// The language to begin with on a system with these settings; English where the store has none of them.

@@ -14,12 +14,20 @@ struct Name {
     QString operator()(const Tracker::AppOpened&) const { return QStringLiteral("app_opened"); }
     QString operator()(const Tracker::CollectionViewed&) const { return QStringLiteral("collection_viewed"); }
     QString operator()(const Tracker::ProductViewed&) const { return QStringLiteral("product_viewed"); }
+    QString operator()(const Tracker::CartAdded&) const { return QStringLiteral("cart_added"); }
+    QString operator()(const Tracker::CheckoutOpened&) const { return QStringLiteral("checkout_opened"); }
+    QString operator()(const Tracker::OrderPlaced&) const { return QStringLiteral("order_placed"); }
 };
 
 struct Handle {
-    QString operator()(const Tracker::AppOpened&) const { return {}; }
-    QString operator()(const Tracker::CollectionViewed& event) const { return event.handle; }
-    QString operator()(const Tracker::ProductViewed& event) const { return event.handle; }
+    template <typename Event>
+    QString operator()(const Event& event) const
+    {
+        if constexpr (requires { event.handle; })
+            return event.handle;
+        else
+            return {};
+    }
 };
 
 } // namespace

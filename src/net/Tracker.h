@@ -26,7 +26,14 @@ public:
     struct ProductViewed {
         QString handle;
     };
-    using Event = std::variant<AppOpened, CollectionViewed, ProductViewed>;
+    struct CartAdded {
+        QString handle;
+    };
+    struct CheckoutOpened {
+    };
+    struct OrderPlaced {
+    };
+    using Event = std::variant<AppOpened, CollectionViewed, ProductViewed, CartAdded, CheckoutOpened, OrderPlaced>;
 
     /// `hasConsent` is asked before every report; `visitorId` only when one is sent.
     Tracker(WidgetClient& client, Clock& clock, std::function<bool()> hasConsent, std::function<QString()> visitorId);

@@ -20,12 +20,31 @@ public:
     {
     }
 
+    /// How a launch travels beside each call.
+    [[nodiscard]] static QVariantMap platformData(const Activation& activation)
+    {
+        QVariantMap data;
+        if (!activation.startupId.isEmpty())
+            data.insert(QStringLiteral("desktop-startup-id"), activation.startupId);
+        if (!activation.activationToken.isEmpty())
+            data.insert(QStringLiteral("activation-token"), activation.activationToken);
+        return data;
+    }
+
 public Q_SLOTS:
-    void Activate(const QVariantMap&) { m_instance.receive({}); }
-    void Open(const QStringList& links, const QVariantMap&) { m_instance.receive(links); }
-    void ActivateAction(const QString&, const QVariantList&, const QVariantMap&) { m_instance.receive({}); }
+    void Activate(const QVariantMap& data) { pass({}, {}, data); }
+    void Open(const QStringList& links, const QVariantMap& data) { pass(links, {}, data); }
+    void ActivateAction(const QString& action, const QVariantList&, const QVariantMap& data) { pass({}, action, data); }
 
 private:
+    void pass(const QStringList& links, const QString& action, const QVariantMap& data)
+    {
+        Q_EMIT m_instance.activated({.links = links,
+                                     .action = action,
+                                     .startupId = data.value(QStringLiteral("desktop-startup-id")).toString(),
+                                     .activationToken = data.value(QStringLiteral("activation-token")).toString()});
+    }
+
     SingleInstance& m_instance;
 };
 

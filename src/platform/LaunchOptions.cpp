@@ -7,8 +7,17 @@
 #include <QSslCertificate>
 #include <QSslConfiguration>
 
+#include <algorithm>
+#include <span>
+
 namespace loom
 {
+
+int countOfOptions(int argc, const char* const* argv)
+{
+    const std::span<const char* const> arguments(argv, static_cast<std::size_t>(argc));
+    return static_cast<int>(std::ranges::find(arguments, QByteArrayView("--")) - arguments.begin());
+}
 
 LaunchOptions readLaunchOptions(const QStringList& arguments)
 {
@@ -24,15 +33,22 @@ LaunchOptions readLaunchOptions(const QStringList& arguments)
     const QCommandLineOption screenshot =
         option("screenshot", "Save the first page to FILE once its pictures are there, then quit.", "FILE");
 
+    const QCommandLineOption action =
+        option("action", "Do ACTION, as the desktop entry names them, in the running instance.", "ACTION");
+    QCommandLineOption service(QStringLiteral("service"));
+    service.setFlags(QCommandLineOption::HiddenFromHelp);
+
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("The shopping client of an online fashion store."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({authority, startReport, eventLoopReport, screenshot});
+    parser.addOptions({action, service, authority, startReport, eventLoopReport, screenshot});
     parser.addPositionalArgument(QStringLiteral("link"), QStringLiteral("A link to open."), QStringLiteral("[link…]"));
     parser.process(arguments);
 
     LaunchOptions options{.links = parser.positionalArguments(),
+                          .action = parser.value(action),
+                          .isService = parser.isSet(service),
                           .authorityFile = parser.value(authority),
                           .startReportFile = parser.value(startReport),
                           .eventLoopReportFile = parser.value(eventLoopReport),

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
@@ -22,8 +23,8 @@ namespace
 
 constexpr int answerTimeout = 2000; // milliseconds
 
-/// Requests over the socket are one JSON list of links; nobody has more to say than this.
-constexpr qint64 maximumRequestBytes = 65536;
+/// Requests over the socket are one JSON object; nobody has more to say than this.
+constexpr qint64 maximumRequestBytes = 1 << 20;
 
 /// "com.example.Program" is served at "/com/example/Program".
 QString objectPath(const QString& applicationID)
@@ -39,6 +40,46 @@ QString runtimeFile(const QString& name)
     return folder + QLatin1Char('/') + name;
 }
 
+QDBusMessage callFor(const Activation& start, const QString& service, const QString& path)
+{
+    const QString interface = QStringLiteral("org.freedesktop.Application");
+    const QVariantMap data = FreedesktopApplication::platformData(start);
+    const auto call = [&](const char* method, const QVariantList& arguments) {
+        QDBusMessage message = QDBusMessage::createMethodCall(service, path, interface, QLatin1String(method));
+        message.setArguments(arguments);
+        return message;
+    };
+    if (!start.links.isEmpty())
+        return call("Open", {start.links, data});
+    if (!start.action.isEmpty())
+        return call("ActivateAction", {start.action, QVariantList(), data});
+    return call("Activate", {data});
+}
+
+QByteArray requestFor(const Activation& start)
+{
+    const QJsonObject request{{QStringLiteral("links"), QJsonArray::fromStringList(start.links)},
+                              {QStringLiteral("action"), start.action},
+                              {QStringLiteral("startupId"), start.startupId},
+                              {QStringLiteral("activationToken"), start.activationToken}};
+    return QJsonDocument(request).toJson(QJsonDocument::Compact);
+}
+
+Activation readRequestFrom(const QByteArray& bytes)
+{
+    const QJsonObject request = QJsonDocument::fromJson(bytes).object();
+    const auto text = [&request](const char* key) {
+        return request.value(QLatin1String(key)).toString();
+    };
+    Activation activation{.links = {},
+                          .action = text("action"),
+                          .startupId = text("startupId"),
+                          .activationToken = text("activationToken")};
+    for (const auto& link : request.value(QStringLiteral("links")).toArray())
+        activation.links.append(link.toString());
+    return activation;
+}
+
 } // namespace
 
 SingleInstance::SingleInstance(QString applicationID, QObject* parent)
@@ -49,12 +90,12 @@ SingleInstance::SingleInstance(QString applicationID, QObject* parent)
 
 SingleInstance::~SingleInstance() = default;
 
-SingleInstance::Role SingleInstance::claim(const QStringList& links)
+SingleInstance::Role SingleInstance::claim(const Activation& start)
 {
-    return QDBusConnection::sessionBus().isConnected() ? claimOnBus(links) : claimSocket(links);
+    return QDBusConnection::sessionBus().isConnected() ? claimOnBus(start) : claimSocket(start);
 }
 
-SingleInstance::Role SingleInstance::claimOnBus(const QStringList& links)
+SingleInstance::Role SingleInstance::claimOnBus(const Activation& start)
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     // The object before the name: whoever finds the name must find somebody behind it.
@@ -66,22 +107,17 @@ SingleInstance::Role SingleInstance::claimOnBus(const QStringList& links)
     bus.unregisterObject(objectPath(m_applicationID));
     if (!bus.interface()->isServiceRegistered(m_applicationID)) {
         qCWarning(logPlatform) << "the session bus refuses the application its name:" << refusal.name();
-        return claimSocket(links);
+        return claimSocket(start);
     }
 
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        m_applicationID, objectPath(m_applicationID), QStringLiteral("org.freedesktop.Application"),
-        links.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open"));
-    if (!links.isEmpty())
-        call << links;
-    call << QVariantMap();
-    const QDBusMessage answer = bus.call(call, QDBus::Block, answerTimeout);
+    const QDBusMessage answer =
+        bus.call(callFor(start, m_applicationID, objectPath(m_applicationID)), QDBus::Block, answerTimeout);
     if (answer.type() == QDBusMessage::ErrorMessage)
         qCWarning(logPlatform) << "the running instance does not answer:" << answer.errorName();
     return Role::Second;
 }
 
-SingleInstance::Role SingleInstance::claimSocket(const QStringList& links)
+SingleInstance::Role SingleInstance::claimSocket(const Activation& start)
 {
     const QString name = runtimeFile(m_applicationID);
     m_lock = std::make_unique<QLockFile>(name + QStringLiteral(".lock"));
@@ -102,7 +138,7 @@ SingleInstance::Role SingleInstance::claimSocket(const QStringList& links)
     QLocalSocket socket;
     socket.connectToServer(name);
     if (socket.waitForConnected(answerTimeout)) {
-        socket.write(QJsonDocument(QJsonArray::fromStringList(links)).toJson(QJsonDocument::Compact));
+        socket.write(requestFor(start));
         socket.disconnectFromServer();
         if (socket.state() != QLocalSocket::UnconnectedState)
             socket.waitForDisconnected(answerTimeout);
@@ -116,20 +152,9 @@ void SingleInstance::readRequest()
 {
     QLocalSocket* const socket = m_server->nextPendingConnection();
     connect(socket, &QLocalSocket::disconnected, this, [this, socket] {
-        QStringList links;
-        for (const auto& link : QJsonDocument::fromJson(socket->read(maximumRequestBytes)).array())
-            links.append(link.toString());
-        receive(links);
+        Q_EMIT activated(readRequestFrom(socket->read(maximumRequestBytes)));
         socket->deleteLater();
     });
-}
-
-void SingleInstance::receive(const QStringList& links)
-{
-    if (links.isEmpty())
-        Q_EMIT activated();
-    else
-        Q_EMIT linksOpened(links);
 }
 
 } // namespace loom

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/Activation.h"
+
 #include <QObject>
-#include <QStringList>
 #include <QVariantMap>
 
 #include <memory>
@@ -26,20 +27,18 @@ public:
     explicit SingleInstance(QString applicationID, QObject* parent = nullptr);
     ~SingleInstance() override;
 
-    /// Finds out whether another instance runs. If so it has been asked to come to the front and to open `links`, and
-    /// this process should end.
-    [[nodiscard]] Role claim(const QStringList& links);
+    /// Finds out whether another instance runs. If so it has been asked to do what this start is for, and this process
+    /// should end.
+    [[nodiscard]] Role claim(const Activation& start);
 
 Q_SIGNALS:
-    /// Another start, or the desktop, asks for a window.
-    void activated();
-    void linksOpened(const QStringList& links);
+    /// Another start, or the desktop, asks for a window, and for what it is to show.
+    void activated(const loom::Activation& activation);
 
 private:
-    [[nodiscard]] Role claimOnBus(const QStringList& links);
-    [[nodiscard]] Role claimSocket(const QStringList& links);
+    [[nodiscard]] Role claimOnBus(const Activation& start);
+    [[nodiscard]] Role claimSocket(const Activation& start);
     void readRequest();
-    void receive(const QStringList& links);
 
     QString m_applicationID;
     std::unique_ptr<QLockFile> m_lock;

@@ -83,7 +83,12 @@ QString DataFolder::filePath(const QString& name) const
 
 void DataFolder::save(const QString& name, const QJsonValue& value)
 {
-    m_writer.write(filePath(name), encode(value),
+    save(name, FileWriter::Encode([bytes = encode(value)] { return bytes; }));
+}
+
+void DataFolder::save(const QString& name, FileWriter::Encode encode)
+{
+    m_writer.write(filePath(name), std::move(encode),
                    [this, file = fileName(name)](const QString& path) { return mayReplace(file, path); });
 }
 

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] static QString fileName(const QString& name);
 
     void save(const QString& name, const QJsonValue& value);
+    /// For what takes long to write down: `encode` makes the JSON in the background.
+    void save(const QString& name, FileWriter::Encode encode);
     void saveSnapshot(const QString& name, const QJsonValue& value, const QDateTime& savedAt);
 
     /// Removes the file and what was set aside of it.
@@ -88,17 +90,22 @@ public:
         return records;
     }
 
+    // For long lists, which are read on another thread: what the file holds, its elements, and the word that some of
+    // them could not be read.
+
+    [[nodiscard]] std::optional<QByteArray> read(const QString& name);
+    /// The whole elements of a list, each as it is written there, also when it was cut off. Any thread.
+    [[nodiscard]] static std::vector<QByteArray> completeElements(const QByteArray& list, bool* isWhole);
+    void markUnreadable(const QString& name, const QString& reason);
+
     /// Blocks until everything saved so far is on the disk. For the end of the process and for tests.
     void waitUntilWritten() { m_writer.waitUntilWritten(); }
 
 private:
     [[nodiscard]] QString filePath(const QString& name) const;
-    [[nodiscard]] std::optional<QByteArray> read(const QString& name);
-    void markUnreadable(const QString& name, const QString& reason);
     [[nodiscard]] bool isKnownUnreadable(const QString& file) const;
     /// Sets the file aside first if that has to be. Runs on the writer's thread.
     [[nodiscard]] bool mayReplace(const QString& file, const QString& path);
-    [[nodiscard]] static std::vector<QByteArray> completeElements(const QByteArray& list, bool* isWhole);
 
     QString m_path;
     mutable QMutex m_mutex;

@@ -20,7 +20,12 @@ FileWriter::~FileWriter()
 
 void FileWriter::write(const QString& path, const QByteArray& bytes, MayReplace mayReplace)
 {
-    enqueue(path, {.bytes = bytes, .mayReplace = std::move(mayReplace)});
+    write(path, [bytes] { return bytes; }, std::move(mayReplace));
+}
+
+void FileWriter::write(const QString& path, Encode encode, MayReplace mayReplace)
+{
+    enqueue(path, {.encode = std::move(encode), .mayReplace = std::move(mayReplace)});
 }
 
 void FileWriter::remove(const QString& path)
@@ -30,11 +35,15 @@ void FileWriter::remove(const QString& path)
 
 std::optional<std::optional<QByteArray>> FileWriter::pending(const QString& path) const
 {
-    const QMutexLocker lock(&m_mutex);
-    const auto found = m_waiting.constFind(path);
-    if (found == m_waiting.cend())
-        return std::nullopt;
-    return found->bytes;
+    Change change;
+    {
+        const QMutexLocker lock(&m_mutex);
+        const auto found = m_waiting.constFind(path);
+        if (found == m_waiting.cend())
+            return std::nullopt;
+        change = *found;
+    }
+    return change.encode ? std::optional(change.encode()) : std::optional<QByteArray>();
 }
 
 void FileWriter::waitUntilWritten()
@@ -60,10 +69,10 @@ void FileWriter::carryOut(const QString& path)
             const QMutexLocker lock(&m_mutex);
             change = m_waiting.value(path);
         }
-        if (!change.bytes) {
+        if (!change.encode) {
             QFile::remove(path);
         } else if (!change.mayReplace || change.mayReplace(path)) {
-            if (const auto written = writeFileAtomically(path, *change.bytes); !written)
+            if (const auto written = writeFileAtomically(path, change.encode()); !written)
                 qCWarning(logStorage) << "cannot write" << path << written.error();
         }
         const QMutexLocker lock(&m_mutex);

@@ -20,6 +20,8 @@ class FileWriter
 public:
     /// Asked on the writer's thread just before a file is replaced; it stays as it is if the answer is no.
     using MayReplace = std::function<bool(const QString& path)>;
+    /// Makes the bytes of a file when its turn comes, on the writer's thread; what it holds it holds alone.
+    using Encode = std::function<QByteArray()>;
 
     FileWriter();
     FileWriter(const FileWriter&) = delete;
@@ -27,6 +29,7 @@ public:
     ~FileWriter();
 
     void write(const QString& path, const QByteArray& bytes, MayReplace mayReplace = {});
+    void write(const QString& path, Encode encode, MayReplace mayReplace = {});
     /// A file that does not exist or cannot be removed is ignored.
     void remove(const QString& path);
 
@@ -38,7 +41,7 @@ public:
 
 private:
     struct Change {
-        std::optional<QByteArray> bytes; ///< none removes the file
+        Encode encode; ///< none removes the file
         MayReplace mayReplace;
         quint64 number = 0;
     };

@@ -2,6 +2,7 @@
 
 #include "storage/DataFolder.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace loom
@@ -52,6 +53,16 @@ QString Preferences::value(const Preference<const char*>& preference) const
     return m_values.value(keyOf(preference.key)).toString(QString::fromUtf8(preference.fallback));
 }
 
+QStringList Preferences::value(const ListPreference& preference) const
+{
+    QStringList texts;
+    for (const QJsonValue& text : m_values.value(keyOf(preference.key)).toArray()) {
+        if (text.isString())
+            texts.append(text.toString());
+    }
+    return texts;
+}
+
 void Preferences::set(const Preference<bool>& preference, bool value)
 {
     setJson(keyOf(preference.key), value);
@@ -65,6 +76,11 @@ void Preferences::set(const Preference<double>& preference, double value)
 void Preferences::set(const Preference<const char*>& preference, const QString& value)
 {
     setJson(keyOf(preference.key), value);
+}
+
+void Preferences::set(const ListPreference& preference, const QStringList& value)
+{
+    setJson(keyOf(preference.key), QJsonArray::fromStringList(value));
 }
 
 void Preferences::setJson(const QString& key, const QJsonValue& value)

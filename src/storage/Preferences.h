@@ -2,7 +2,7 @@
 
 #include <QJsonObject>
 #include <QObject>
-#include <QString>
+#include <QStringList>
 
 #include <concepts>
 
@@ -18,14 +18,21 @@ struct Preference {
     T fallback;
 };
 
+/// A setting that is a list of texts, empty while it is absent.
+struct ListPreference {
+    const char* key;
+};
+
 /// The one table of settings.
 namespace preferences
 {
 inline constexpr Preference<const char*> cartID{"shopify_cart_id", ""};          ///< opaque, and as good as a key
 inline constexpr Preference<const char*> appearance{"lst_appearance", "system"}; ///< "system", "light" or "dark"
+inline constexpr Preference<const char*> language{"lst_language", ""};           ///< its code; empty follows the system
 inline constexpr Preference<const char*> marketCountry{"lst_market_country", ""};
 inline constexpr Preference<const char*> marketCurrency{"lst_market_currency", ""};
 inline constexpr Preference<const char*> privacyConsent{"lst_privacy_consent", "essential"}; ///< or "all"
+inline constexpr ListPreference recentSearches{"lst_recent_searches"};
 inline constexpr Preference<const char*> secureStore{"lst_secure_store", ""}; ///< "system" or "file" once chosen
 inline constexpr Preference<const char*> settingsTab{"lst_settings_tab", "appearance"};
 inline constexpr Preference<const char*> shopGender{"lst_shop_gender_v1", "women"};
@@ -33,6 +40,7 @@ inline constexpr Preference<const char*> sizeUnit{"lst_size_unit", "metric"}; //
 inline constexpr Preference<bool> splitPreview{"lst_split_preview", true};
 inline constexpr Preference<double> splitPreviewWidth{"lst_split_preview_width_v2", 0};
 inline constexpr Preference<const char*> visitorId{"lst_visitor_id", ""};
+inline constexpr Preference<bool> wishlistUntold{"lst_wishlist_untold", false};  ///< the backend has yet to hear of it
 inline constexpr Preference<const char*> windowFrame{"lst_window_frame", "own"}; ///< or "desktop"
 } // namespace preferences
 
@@ -47,10 +55,13 @@ public:
     [[nodiscard]] bool value(const Preference<bool>& preference) const;
     [[nodiscard]] double value(const Preference<double>& preference) const;
     [[nodiscard]] QString value(const Preference<const char*>& preference) const;
+    /// What in the list is no text is left out.
+    [[nodiscard]] QStringList value(const ListPreference& preference) const;
 
     void set(const Preference<bool>& preference, bool value);
     void set(const Preference<double>& preference, double value);
     void set(const Preference<const char*>& preference, const QString& value);
+    void set(const ListPreference& preference, const QStringList& value);
 
     template <typename T>
     void remove(const Preference<T>& preference)

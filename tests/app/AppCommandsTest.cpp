@@ -120,8 +120,11 @@ TEST_F(AppCommandsTest, ACommandActsOnTheSelectedTab)
 
 TEST_F(AppCommandsTest, WhatCannotBeDoneNowIsToldAndDoesNothing)
 {
-    const QList<Id> conditional{Id::Back,           Id::Forward, Id::GoToSectionHome,
-                                Id::CloseOtherTabs, Id::NextTab, Id::PreviousTab};
+    const QList<Id> conditional{Id::Back,           Id::Forward,           Id::GoToSectionHome,
+                                Id::CloseOtherTabs, Id::NextTab,           Id::PreviousTab,
+                                Id::MoveTabLeft,    Id::MoveTabRight,      Id::MoveTabToNewWindow,
+                                Id::ReopenTab,      Id::PreviewInFullPage, Id::PreviewInNewTab,
+                                Id::ClosePreview};
     const auto enabled = [&] {
         QSet<Id> ids;
         for (const AppCommandEntry& entry : appCommandEntries) {
@@ -148,7 +151,8 @@ TEST_F(AppCommandsTest, WhatCannotBeDoneNowIsToldAndDoesNothing)
     EXPECT_EQ(told, (Ids{Id::Forward}));
     tab().select(SidebarItem::Men);
     EXPECT_EQ(told, (Ids{Id::Back}));
-    const Ids manyTabs{Id::CloseOtherTabs, Id::NextTab, Id::PreviousTab};
+    const Ids manyTabs{Id::CloseOtherTabs, Id::NextTab,      Id::PreviousTab,
+                       Id::MoveTabLeft,    Id::MoveTabRight, Id::MoveTabToNewWindow};
     session.openTab(SidebarItem::Home, TabActivation::Background);
     EXPECT_EQ(told, (Ids{Id::Back} + manyTabs));
     session.selectTab(1);
@@ -156,7 +160,13 @@ TEST_F(AppCommandsTest, WhatCannotBeDoneNowIsToldAndDoesNothing)
     tab().openLink(QStringLiteral("/products/a")); // the tab that is selected now is followed
     EXPECT_EQ(told, (Ids{Id::Back, Id::GoToSectionHome} + manyTabs));
     session.closeTab(0);
-    EXPECT_EQ(told, (Ids{Id::Back, Id::GoToSectionHome}));
+    EXPECT_EQ(told, (Ids{Id::Back, Id::GoToSectionHome, Id::ReopenTab}));
+    const Ids preview{Id::PreviewInFullPage, Id::PreviewInNewTab, Id::ClosePreview};
+    session.setWindowWidth(1440);
+    tab().setPreview(ProductPreview{.handle = QStringLiteral("b")});
+    EXPECT_EQ(told, (Ids{Id::Back, Id::GoToSectionHome, Id::ReopenTab} + preview));
+    session.setWindowWidth(1000); // there, but not to be seen
+    EXPECT_EQ(told, (Ids{Id::Back, Id::GoToSectionHome, Id::ReopenTab}));
 }
 
 } // namespace

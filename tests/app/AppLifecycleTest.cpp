@@ -2,6 +2,8 @@
 
 #include "AppFixture.h"
 
+#include <QFile>
+
 using namespace loom;
 using namespace std::chrono_literals;
 
@@ -65,7 +67,6 @@ TEST_F(AppLifecycleTest, NobodyIsLookedAfterOnceItIsGone)
     lifecycle->didFinishLaunching({});
     static_cast<void>(host.takeCalls());
     lifecycle.reset();
-    EXPECT_EQ(clock.sleepers(), 0);
     clock.advance(2s);
     EXPECT_EQ(host.takeCalls(), calls({}));
 }
@@ -84,6 +85,72 @@ TEST_F(AppLifecycleTest, AnotherStartBringsTheFrontWindowForwardOrOpensOne)
     // Closing the last window leaves the application running.
     EXPECT_FALSE(AppLifecycle::shouldTerminateAfterLastWindowClosed());
     EXPECT_TRUE(lifecycle->shouldTerminate());
+}
+
+TEST_F(AppLifecycleTest, WindowsAndTabsComeBackAfterARestartAndAfterAKill)
+{
+    const auto kill = [this] {
+        lifecycle.reset();
+        start({}); // nothing was told that it ends
+        lifecycle.emplace(*model, host, clock);
+        static_cast<void>(host.takeCalls());
+    };
+    const auto tab = [this](std::size_t window, int index) -> Router& {
+        return *model->windows().at(window)->tabs()->at(index);
+    };
+    lifecycle->didFinishLaunching({.section = SidebarItem::Men});
+    WindowSession& first = *model->keySession();
+    first.openTab(SidebarItem::Women, TabActivation::Background)->openCollection(QStringLiteral("new-in"));
+    first.setTabPinned(1, true);
+    first.setWindowSize(QSize(1300, 800));
+    model->openWindow({.section = SidebarItem::Luxury});
+    model->windowBecameKey(&first);
+    clock.advance(1s);
+    model->keySession()->newTab(); // too late to be written
+    kill();
+
+    lifecycle->didFinishLaunching({.link = QStringLiteral("/products/silk")});
+    EXPECT_EQ(host.takeCalls(), calls({"show 3", "show 4"}));
+    ASSERT_EQ(model->windows().size(), 2U);
+    EXPECT_EQ(tab(0, 0).selection(), SidebarItem::Luxury);
+    EXPECT_EQ(model->keySession(), model->windows().at(1).get()); // it was in front
+    EXPECT_EQ(model->keySession()->windowSize(), QSize(1300, 800));
+    ASSERT_EQ(model->keySession()->tabs()->count(), 3);
+    EXPECT_TRUE(tab(1, 0).isPinned());
+    EXPECT_EQ(tab(1, 0).page(1).handle, QStringLiteral("new-in"));
+    EXPECT_EQ(tab(1, 1).selection(), SidebarItem::Men);
+    EXPECT_EQ(tab(1, 2).page(1).handle, QStringLiteral("silk")); // the link, in front
+    EXPECT_EQ(model->keySession()->selectedIndex(), 2);
+
+    // A closed tab can be had again after a restart, and what was closed last stays for the next start.
+    model->keySession()->closeTab(2);
+    model->closeWindow(model->windows().at(0).get());
+    model->closeWindow(model->windows().at(0).get());
+    EXPECT_TRUE(model->windows().empty());
+    kill();
+    lifecycle->handleReopen();
+    ASSERT_EQ(model->windows().size(), 1U);
+    EXPECT_EQ(model->keySession()->tabs()->count(), 2);
+    model->keySession()->reopenTab();
+    EXPECT_EQ(model->keySession()->selected()->selection(), SidebarItem::Luxury);
+    model->keySession()->reopenTab();
+    EXPECT_EQ(model->keySession()->selected()->page(1).handle, QStringLiteral("silk"));
+
+    // Windows that close because the application ends are open at the next start.
+    EXPECT_TRUE(lifecycle->shouldTerminate());
+    model->closeWindow(model->keySession());
+    kill();
+    lifecycle->didFinishLaunching({});
+    EXPECT_EQ(model->keySession()->tabs()->count(), 4);
+
+    // A file that was cut off has what is whole in it.
+    kill();
+    QFile file(home.path() + QStringLiteral("/data/lst_windows.json"));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.resize(file.size() / 2);
+    file.close();
+    lifecycle->didFinishLaunching({.section = SidebarItem::Bags});
+    EXPECT_EQ(model->keySession()->selected()->selection(), SidebarItem::Bags);
 }
 
 TEST_F(AppLifecycleTest, ALinkFromOutsideOpensInATabOfItsOwn)
@@ -115,6 +182,38 @@ TEST_F(AppLifecycleTest, ALinkFromOutsideOpensInATabOfItsOwn)
     EXPECT_EQ(shown(*session.selected()), QStringLiteral("bags"));
     lifecycle->handleOpen(QStringLiteral("/account"));
     EXPECT_EQ(session.tabs()->count(), 3);
+}
+
+TEST_F(AppLifecycleTest, OfManyLinksAnybodyMayHaveWrittenOnlySensibleOnesAreOpened)
+{
+    QStringList links{QString(10'000, u'a'), QStringLiteral("/products/a\nb"), QStringLiteral("/products/a\u0085b"),
+                      QStringLiteral("loomstreet://products/silk\n"), QStringLiteral("https://elsewhere.example/a")};
+    lifecycle->handleOpen(links);
+    WindowSession& session = *model->keySession();
+    EXPECT_EQ(session.tabs()->count(), 1);
+    EXPECT_EQ(browsed, QList<QUrl>{QUrl(QStringLiteral("https://elsewhere.example/a"))});
+    for (int i = 0; i < 5000; ++i)
+        links.append(QStringLiteral("/products/%1").arg(i));
+    lifecycle->handleOpen(links);
+    EXPECT_LT(session.tabs()->count(), 20);
+    static_cast<void>(host.takeCalls());
+    lifecycle->handleOpen(QStringList(QString(100'000, u'/')));
+    EXPECT_EQ(host.takeCalls(), calls({"raise 1"})); // the shopper asked for the application all the same
+}
+
+TEST_F(AppLifecycleTest, EveryActionOfTheDesktopEntryDoesWhatItSays)
+{
+    QFile entry(QStringLiteral(LOOM_DESKTOP_ENTRY));
+    ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(entry.readAll().contains("\nActions=new-window;search;bag;\n"));
+    for (const char* const name : {"new-window", "search", "bag"})
+        lifecycle->handleAction(QLatin1String(name)); // the first opens a window, the others act in it
+    const WindowSession& session = *model->keySession();
+    EXPECT_TRUE(session.pendingSearchFocus());
+    EXPECT_TRUE(session.isCartOpen());
+    lifecycle->handleAction(QStringLiteral("new-window"));
+    lifecycle->handleAction(QStringLiteral("something else"));
+    EXPECT_EQ(host.takeCalls(), calls({"show 1", "raise 1", "raise 1", "show 2", "raise 2"}));
 }
 
 } // namespace

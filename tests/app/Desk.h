@@ -4,8 +4,14 @@
 #include "app/WindowServices.h"
 #include "app/WindowSession.h"
 
+#include "app/ClosedTabs.h"
+#include "storage/DataFolder.h"
+#include "storage/Preferences.h"
+
 #include "support/FakeClock.h"
 #include "support/FakeRandom.h"
+
+#include <QTemporaryDir>
 
 namespace loom
 {
@@ -32,10 +38,16 @@ protected:
 
     FakeClock clock;
     FakeRandom random;
+    QTemporaryDir home;
+    DataFolder folder{home.path()};
+    Preferences settings{folder};
+    ClosedTabs closedTabs{folder};
     QList<QUrl> browsed;
     Qt::KeyboardModifiers keys;
     WindowServices services{.clock = clock,
                             .random = random,
+                            .preferences = settings,
+                            .closedTabs = closedTabs,
                             .resolver = LinkResolver(QStringLiteral("loom.example")),
                             .storePages = StorePages(QStringLiteral("https://www.loom.example")),
                             .openExternally = [this](const QUrl& url) { browsed.append(url); },

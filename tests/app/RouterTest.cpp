@@ -1,5 +1,7 @@
 #include "Desk.h"
 
+#include <QAbstractItemModelTester>
+
 using namespace loom;
 
 namespace
@@ -22,26 +24,17 @@ public:
     }
 };
 
-/// Follows a router as the page container does, by its signals alone.
-class Container : public QObject
+/// The page at a depth of what the tab shows, as the page container knows it.
+const VisitedPage& pageAt(Router& router, int depth)
 {
-public:
-    explicit Container(Router& router)
-    {
-        connect(&router, &Router::pushed, this, [this](int depth) {
-            EXPECT_EQ(depth, pages);
-            ++pages;
-        });
-        connect(&router, &Router::popped, this, [this](int depth) {
-            EXPECT_LT(depth + 1, pages);
-            pages = depth + 1;
-        });
-        connect(&router, &Router::replaced, this, [this](int depth) { EXPECT_EQ(depth + 1, pages); });
-        connect(&router, &Router::reset, this, [this, &router] { pages = router.depth() + 1; });
-    }
+    const NavigationPath& path = *router.navigationPath();
+    return path.pages().at(static_cast<std::size_t>(path.top() - router.depth() + depth));
+}
 
-    int pages = 1;
-};
+int idAt(Router& router, int depth)
+{
+    return pageAt(router, depth).id;
+}
 
 class RouterTest : public Desk
 {
@@ -144,17 +137,18 @@ TEST_F(RouterTest, AProductOpensWhereTheKeysSay)
 
         Router alone(services, nullptr, SidebarItem::Men);
         alone.openProduct({.handle = silk}, row.mode);
-        EXPECT_EQ(shown(alone), "men: product silk");
+        if (row.mode != OpenMode::Automatic || row.inNewTab)
+            EXPECT_EQ(shown(alone), "men: product silk");
     }
     keys = {};
 
     ProductListItem item;
     item.handle = silk;
     item.title = QStringLiteral("Silk dress");
-    tab().openProductCard(silk, QVariant::fromValue(item));
+    tab().openPiece(silk, QVariant::fromValue(item), OpenMode::Page);
     EXPECT_EQ(tab().page(1).item, item);
     EXPECT_EQ(tab().title(), QStringLiteral("Silk dress"));
-    tab().openProductCard(silk, QVariant(7));
+    tab().openPiece(silk, QVariant(7), OpenMode::Page);
     EXPECT_EQ(tab().page(tab().depth()).item, std::nullopt);
 }
 
@@ -200,7 +194,7 @@ TEST_F(RouterTest, BackAndForwardFindEveryPageAgain)
              Row{"@women @men @women < <", "women", "2"},
          }) {
         Router router(services, nullptr, SidebarItem::Home);
-        const Container container(router);
+        const QAbstractItemModelTester tester(router.navigationPath());
         const QStringList steps = QString::fromUtf8(row.steps).split(QLatin1Char(' '));
         for (const QString& step : steps) {
             const QString rest = step.mid(1);
@@ -226,17 +220,18 @@ TEST_F(RouterTest, BackAndForwardFindEveryPageAgain)
             default:
                 router.backTo(step.toInt());
             }
-            EXPECT_EQ(container.pages, router.depth() + 1) << row.steps;
+            EXPECT_EQ(pageAt(router, router.depth()).entry, router.page(router.depth())) << row.steps;
+            EXPECT_EQ(pageAt(router, 0).depth, 0) << row.steps;
         }
         EXPECT_EQ(shown(router), row.shown) << row.steps;
-        int forward = 0;
-        while (router.canGoForward() && forward < 10) {
-            router.forward();
-            ++forward;
-        }
-        EXPECT_EQ(std::to_string(forward), row.forward) << row.steps;
-        while (router.canGoBack())
-            router.back();
+        EXPECT_EQ(std::to_string(router.forwardTitles().size()), row.forward) << row.steps;
+        const int top = idAt(router, router.depth());
+        router.go(99);
+        EXPECT_FALSE(router.canGoForward());
+        router.go(-row.forward[0] + '0');
+        EXPECT_EQ(idAt(router, router.depth()), top) << row.steps; // the very page, not one like it
+        router.go(-99);
+        EXPECT_FALSE(router.canGoBack());
         EXPECT_EQ(shown(router), "home") << row.steps;
     }
 }
@@ -247,68 +242,117 @@ TEST_F(RouterTest, ATitleBelongsToItsPage)
     EXPECT_EQ(router.trail(), QStringList(QStringLiteral("Women")));
     router.openLink(QStringLiteral("/products/silk"));
     EXPECT_EQ(router.title(), QString());
-    router.setPageTitle(1, QStringLiteral("Silk dress"));
+    router.setPageTitle(idAt(router, 1), QStringLiteral("Silk dress"));
     router.openCollection(QStringLiteral("new-in"), QStringLiteral("From the menu"));
     EXPECT_EQ(router.trail(),
               QStringList({QStringLiteral("Women"), QStringLiteral("Silk dress"), QStringLiteral("From the menu")}));
-    router.setPageTitle(2, QStringLiteral("New In"));
+    const int replaced = idAt(router, 2);
+    router.setPageTitle(replaced, QStringLiteral("New In"));
 
     int told = 0;
     QObject::connect(&router, &Router::titleChanged, &router, [&told] { ++told; });
-    router.setPageTitle(2, QStringLiteral("New In"));
-    router.setPageTitle(-1, QStringLiteral("?"));
-    router.setPageTitle(3, QStringLiteral("?")); // a page that is gone
+    router.setPageTitle(replaced, QStringLiteral("New In"));
+    router.setPageTitle(99, QStringLiteral("?"));
     EXPECT_EQ(told, 0);
-    EXPECT_EQ(router.pageTitles().size(), 2);
+    EXPECT_EQ(router.pageTitles(),
+              (QMap<int, QString>{{1, QStringLiteral("Silk dress")}, {2, QStringLiteral("New In")}}));
 
     router.openCollection(QStringLiteral("bags")); // in place of the other
+    router.setPageTitle(replaced, QStringLiteral("?"));
     EXPECT_EQ(router.trail(), QStringList({QStringLiteral("Women"), QStringLiteral("Silk dress"), QString()}));
-    router.setPageTitle(2, QStringLiteral("Bags"));
+    const int bags = idAt(router, 2);
     router.back();
     EXPECT_EQ(router.title(), QStringLiteral("Silk dress"));
+    router.setPageTitle(bags, QStringLiteral("Bags")); // it came late
+    EXPECT_EQ(router.forwardTitles(), QStringList(QStringLiteral("Bags")));
+    EXPECT_EQ(router.backTitles(), QStringList(QStringLiteral("Women")));
     router.forward();
-    EXPECT_EQ(router.title(), QString()); // until the page tells it again
     router.select(SidebarItem::Men);
-    EXPECT_EQ(router.trail(), QStringList(QStringLiteral("Men")));
-    router.back();
-    EXPECT_EQ(router.trail(), QStringList({QStringLiteral("Women"), QStringLiteral("Silk dress"), QString()}));
+    EXPECT_EQ(router.backTitles(),
+              QStringList({QStringLiteral("Bags"), QStringLiteral("Silk dress"), QStringLiteral("Women")}));
 }
 
 TEST_F(RouterTest, BackReturnsToThePlaceOnThePageAlsoInAnotherSection)
 {
     Router router(services, nullptr, SidebarItem::Women);
-    router.setScrollPosition(0, 100);
+    router.setScrollPosition(idAt(router, 0), 100);
     router.openCollection(QStringLiteral("new-in"));
-    EXPECT_EQ(router.scrollPosition(1), 0);
-    router.setScrollPosition(1, 2400);
-    router.openProduct({.handle = silk}, OpenMode::Page);
-    router.setScrollPosition(2, 50);
-    router.setScrollPosition(3, 7);
-    router.setScrollPosition(-1, 7);
-    EXPECT_EQ(router.scrollPosition(3), 0);
-    router.back();
-    EXPECT_EQ(router.scrollPosition(1), 2400);
-    router.forward();
-    EXPECT_EQ(router.scrollPosition(2), 0);
-    router.back();
-
+    const int newIn = idAt(router, 1);
+    EXPECT_EQ(router.scrollPosition(newIn), 0);
+    router.setScrollPosition(newIn, 2400);
     router.select(SidebarItem::Men);
-    EXPECT_EQ(router.scrollPosition(0), 0);
-    router.setScrollPosition(0, 30);
-    bool isPlaced = false;
-    QObject::connect(&router, &Router::reset, &router, [&] { isPlaced = router.scrollPosition(0) > 0; });
+    router.setScrollPosition(idAt(router, 0), 30);
     router.back();
-    EXPECT_TRUE(isPlaced); // before the pages are built again
-    EXPECT_EQ(router.scrollPosition(0), 100);
-    EXPECT_EQ(router.scrollPosition(1), 2400);
-    router.back();
+    EXPECT_EQ(idAt(router, 1), newIn);
+    EXPECT_EQ(router.scrollPosition(newIn), 2400);
+    EXPECT_EQ(router.scrollPosition(idAt(router, 0)), 100);
     router.forward();
-    router.forward();
-    EXPECT_EQ(shown(router), "men");
-    EXPECT_EQ(router.scrollPosition(0), 30);
-    router.back();
-    EXPECT_EQ(shown(router), "women: collection new-in");
-    EXPECT_EQ(router.scrollPosition(0), 100);
+    EXPECT_EQ(router.scrollPosition(idAt(router, 0)), 30);
+}
+
+TEST_F(RouterTest, OfALongHistoryThePagesAroundTheShownOneStayInMemory)
+{
+    Router router(services, nullptr, SidebarItem::Home);
+    for (int i = 0; i < 300; ++i) {
+        router.select(i % 2 == 0 ? SidebarItem::Women : SidebarItem::Men);
+        router.openProduct({.handle = QString::number(i)}, OpenMode::Page);
+    }
+    EXPECT_LE(router.navigationPath()->rowCount(), 25);
+    int back = 0;
+    while (router.canGoBack() && back < 1000) {
+        router.back();
+        ++back;
+    }
+    EXPECT_GE(back, 100);
+    EXPECT_LE(back, 200);
+    EXPECT_EQ(router.depth(), 0); // a section is forgotten as a whole
+}
+
+TEST_F(RouterTest, APieceOpensBesideThePageWhereThereIsRoom)
+{
+    struct Row {
+        OpenMode mode;
+        double width;
+        bool isMiraDocked;
+        bool isWanted;
+        bool isBeside;
+    };
+    for (const Row& row : {
+             Row{OpenMode::Automatic, 1160, false, true, true},
+             Row{OpenMode::Automatic, 1159, false, true, false},
+             Row{OpenMode::Automatic, 1160, true, true, false},
+             Row{OpenMode::Automatic, 1160, false, false, false},
+             Row{OpenMode::Docked, 300, false, false, true},
+             Row{OpenMode::Docked, 1160, true, true, false},
+             Row{OpenMode::Page, 1160, false, true, false},
+         }) {
+        WindowSession window(services, {});
+        window.setWindowWidth(row.width + WindowSession::sidebarWidth);
+        window.setMiraDocked(row.isMiraDocked);
+        settings.set(preferences::splitPreview, row.isWanted);
+        window.selected()->openProduct({.handle = silk}, row.mode);
+        EXPECT_EQ(window.selected()->preview().has_value(), row.isBeside);
+        EXPECT_EQ(window.selected()->depth(), row.isBeside ? 0 : 1);
+        EXPECT_EQ(window.isPreviewShown(), row.isBeside && row.width >= 1160);
+    }
+    settings.remove(preferences::splitPreview);
+
+    Router alone(services, nullptr, SidebarItem::Home);
+    alone.openProduct({.handle = silk}, OpenMode::Automatic);
+    ASSERT_TRUE(alone.preview());
+    alone.openProduct({.handle = QStringLiteral("linen")}, OpenMode::Page);
+    EXPECT_TRUE(alone.preview()); // another piece
+    alone.expandPreview();
+    EXPECT_FALSE(alone.preview());
+    EXPECT_EQ(shown(alone), "home: product linen > product silk");
+    alone.openProduct({.handle = silk}, OpenMode::Docked);
+    alone.openCollection(QStringLiteral("bags"));
+    EXPECT_FALSE(alone.preview());
+
+    for (const auto& [stored, width] : std::map<double, double>{{0, 480}, {300, 420}, {500, 500}, {1000, 640}}) {
+        settings.set(preferences::splitPreviewWidth, stored);
+        EXPECT_EQ(Router(services, nullptr, SidebarItem::Home).previewWidth(), width) << stored;
+    }
 }
 
 TEST_F(RouterTest, AReloadReachesThePagesThatAreShown)
@@ -345,10 +389,11 @@ TEST_F(RouterTest, ATabIsAValueThatCanBeShownAgain)
 {
     Router router(services, nullptr, SidebarItem::Women);
     router.openCollection(QStringLiteral("new-in"));
-    router.setPageTitle(1, QStringLiteral("New In"));
-    router.setScrollPosition(1, 240);
+    router.setPageTitle(idAt(router, 1), QStringLiteral("New In"));
+    router.setScrollPosition(idAt(router, 1), 240);
     router.openProduct({.handle = silk}, OpenMode::Page);
     router.back();
+    router.setPreview(ProductPreview{.handle = silk});
     router.setPinned(true);
     const TabState state = router.state();
     EXPECT_EQ(state.titles, QStringList({QString(), QStringLiteral("New In")}));
@@ -357,10 +402,8 @@ TEST_F(RouterTest, ATabIsAValueThatCanBeShownAgain)
     Router again(services, nullptr, SidebarItem::Home);
     again.openProduct({.handle = silk}, OpenMode::Page);
     again.select(SidebarItem::Men);
-    const Container container(again);
     again.restore(state);
     EXPECT_EQ(again.state(), state);
-    EXPECT_EQ(container.pages, 2);
     EXPECT_TRUE(again.isPinned());
     EXPECT_EQ(again.title(), QStringLiteral("New In"));
     EXPECT_FALSE(again.canGoForward());

@@ -43,7 +43,8 @@ TEST_F(WindowSessionTest, OfItsTabsTheMostRecentlyUsedComesNext)
 {
     struct Row {
         const char* steps; ///< + opens a tab, & one behind, 0 to 9 selects, xN closes, oN closes the others, rN opens
-                           ///< to the right of it, pN pins, > and < go to the next and the previous
+                           ///< to the right of it, pN pins or unpins, mNM moves N to M, z reopens the tab closed last,
+                           ///< tN tears N off, > and < go to the next and the previous
         const char* tabs;
         const char* recency;
         int closings; ///< how often the window was asked to close
@@ -67,17 +68,28 @@ TEST_F(WindowSessionTest, OfItsTabsTheMostRecentlyUsedComesNext)
 
              Row{"+ + 0 o1", "B", "b", 0},
              Row{"+ + o0", "A", "a", 0},
-             Row{"+ + + p0 p2 o1", "B", "b", 0}, // pinned ones too
+             Row{"+ + + p0 p2 o1", "C", "c", 0}, // pinned ones too
              Row{"+ p0 x0", "B", "b", 0},
 
              Row{"+ + 0 r0", "aDbc", "dacb", 0},
              Row{"+ + r2", "abcD", "dcba", 0},
+
+             Row{"+ + m02", "bCa", "cba", 0},
+             Row{"+ + m20 m09 m79", "abC", "cba", 0},
+             Row{"+ + p2 m01 m20", "Cba", "cba", 0}, // each among its own kind
+             Row{"+ + p2 p1 p0", "aCb", "cba", 0},
+             Row{"& x1 z", "aC", "ca", 0},
+             Row{"z", "A", "a", 0},
+             Row{"+ + t2 z", "aB", "ba", 0}, // what was torn off is not closed
+             Row{"t0", "A", "a", 0},
 
              Row{"+ + >", "Abc", "acb", 0},
              Row{"+ + 0 > >", "abC", "cba", 0},
              Row{"+ + 0 <", "abC", "cab", 0},
              Row{"> < >", "A", "a", 0},
          }) {
+        while (!closedTabs.isEmpty())
+            static_cast<void>(closedTabs.take());
         WindowSession session(services, {});
         static_cast<void>(letter(session.selectedID()));
         QAbstractItemModelTester tester(session.tabs());
@@ -104,7 +116,16 @@ TEST_F(WindowSessionTest, OfItsTabsTheMostRecentlyUsedComesNext)
                 session.newTabToTheRight(index);
                 break;
             case u'p':
-                session.tabs()->at(index)->setPinned(true);
+                session.setTabPinned(index, !session.tabs()->at(index)->isPinned());
+                break;
+            case u'm':
+                session.moveTab(index / 10, index % 10);
+                break;
+            case u'z':
+                session.reopenTab();
+                break;
+            case u't':
+                session.tearOffTab(index);
                 break;
             case u'>':
                 session.selectNextTab();

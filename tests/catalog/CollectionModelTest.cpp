@@ -251,6 +251,63 @@ TEST_F(CollectionModelTest, AListIsNotContinuedInAnOrderItDoesNotHave)
     EXPECT_EQ(lastVariables().value(QStringLiteral("sortKey")), QStringLiteral("PRICE"));
 }
 
+TEST_F(CollectionModelTest, FiltersNarrowFromTheFirstPageAndTheLastChoiceWins)
+{
+    const auto offering = [](const char* letters, const char* cursor = nullptr) {
+        return changed(page(letters, cursor), QStringLiteral("collection.products.filters"),
+                       json(R"([{"id": "f", "label": "In stock", "type": "BOOLEAN",
+                           "values": [{"id": "yes", "label": "Yes", "count": 2, "input": "{\"available\":true}"}]}])"));
+    };
+    const QString f = QStringLiteral("f");
+    const QString yes = QStringLiteral("yes");
+    answer(products, offering("abc", "c1"));
+    answer(counting, counted(4));
+    model->load();
+    settleAll(2);
+
+    answer(products, envelope(offering("a")).pauseAfter(0));
+    model->toggle(f, yes);
+    server.waitForRequests(3);
+    EXPECT_EQ(bytes(lastVariables().value(QStringLiteral("filters"))), R"([{"available":true}])");
+    EXPECT_EQ(lastVariables().value(QStringLiteral("after")), QJsonValue());
+    EXPECT_EQ(shown(), "abc");
+    model->loadMore();
+    EXPECT_FALSE(model->isLoadingMore());
+    answer(products, offering("ab", "c2"));
+    answer(counting, counted(3));
+    model->setPrice(100, {});
+    settleAll(5);
+    server.proceed(); // the answer to the choice before
+    settleAll(5);
+    EXPECT_EQ(shown(), "ab");
+    EXPECT_EQ(model->totalCount(), 3);
+    EXPECT_EQ(bytes(lastVariables().value(QStringLiteral("filters"))), R"([{"available":true},{"price":{"min":100}}])");
+
+    // One piece has gone since: whoever saw the end has counted.
+    answer(products, page(""));
+    model->loadMore();
+    settle(6);
+    EXPECT_EQ(model->totalCount(), 2);
+
+    // Nothing is left under these filters, and taking them back asks for what was there before.
+    answer(products, page(""));
+    model->setPrice(900, {});
+    settle(7);
+    EXPECT_EQ(model->phase(), Phase::Empty);
+    EXPECT_EQ(model->filters()->chips().size(), 2);
+    answer("RateSample US", Answer::body("", 404));
+    answer("RateSample FR", Answer::body("", 404));
+    answer(products, page("a"));
+    ASSERT_TRUE(market.setCountry(QStringLiteral("FR"))); // where the bound means another amount
+    settleAll(10);
+    EXPECT_EQ(model->selection().priceMin, std::nullopt);
+    answer(products, page("abc"));
+    model->clearFilters();
+    settleAll(11);
+    EXPECT_EQ(bytes(lastVariables().value(QStringLiteral("filters"))), "[]");
+    EXPECT_EQ(shown(), "abc");
+}
+
 TEST_F(CollectionModelTest, AnotherMarketLoadsAnewWhateverThereWasBefore)
 {
     market.setLanguage(AppLanguage::French); // not begun yet: nothing to load anew

@@ -1,5 +1,6 @@
 #include "catalog/MarketStore.h"
 
+#include "catalog/MarketChoicesModel.h"
 #include "support/ShopFixture.h"
 
 #include <QFile>
@@ -45,6 +46,13 @@ protected:
         folder.waitUntilWritten();
         QFile reading(home.path() + QLatin1Char('/') + QLatin1String(file));
         return reading.open(QIODevice::ReadOnly) ? reading.readAll() : QByteArray("none");
+    }
+    static std::vector<std::string> titles(const MarketChoicesModel& picker)
+    {
+        std::vector<std::string> titles;
+        for (int i = 0; i < picker.count(); ++i)
+            titles.push_back(picker.data(picker.index(i), MarketChoicesModel::TitleRole).toString().toStdString());
+        return titles;
     }
     void answerRate(const QString& country, const char* amount, const char* currency)
     {
@@ -116,8 +124,7 @@ TEST_F(MarketStoreTest, CountriesAreShownFromTheSnapshotUntilTheStoreAnswers)
     put("lst_market_rate_v1.json", fresh);
     const auto store = make();
     const auto told = emissions(*store, &MarketStore::countriesChanged);
-    EXPECT_EQ(store->countryName(), germany);
-    EXPECT_EQ(store->currency(), QString());
+    EXPECT_EQ(store->countryName(), QStringLiteral("Germany")); // known without the list
     answer("Countries", json(countries));
     store->load();
     EXPECT_EQ(store->countries().size(), 1U);
@@ -130,7 +137,7 @@ TEST_F(MarketStoreTest, CountriesAreShownFromTheSnapshotUntilTheStoreAnswers)
     EXPECT_EQ(stored("snap-countries.json"),
               R"({"savedAt":"2025-03-09T08:07:06.000Z","value":[{"currency":"EUR","isoCode":"DE","name":"Germany"},)"
               R"({"currency":"JPY","isoCode":"JP","name":"Japan"}]})");
-    EXPECT_EQ(preferences.value(preferences::marketCurrency), QStringLiteral("EUR"));
+    EXPECT_EQ(store->currency(), QString()); // no price has come in it
 
     answer("Countries", Answer::body("", 404));
     store->refreshCountries();
@@ -142,7 +149,17 @@ TEST_F(MarketStoreTest, CountriesAreShownFromTheSnapshotUntilTheStoreAnswers)
     settle(3);
     EXPECT_EQ(store->countries().size(), 2U); // and so does a list that cannot be read
     EXPECT_EQ(stored("snap-countries.json"), kept);
-    EXPECT_EQ(make()->currency(), QStringLiteral("EUR")); // the next start knows it before it knows the list
+    EXPECT_EQ(store->countriesFailure(), APIError(APIError::InvalidResponse{}));
+    put("lst_market_rate_v1.json", fresh);
+    answer("Countries", json(R"({"localization": {"availableCountries": [
+        {"isoCode": "FR", "name": "France", "currency": {"isoCode": "EUR"}}]}})"));
+    store->refreshCountries();
+    settle(4);
+    EXPECT_FALSE(store->countriesFailure());
+    EXPECT_EQ(store->country(), germany); // one that the shop no longer sells to is still where the shopper is
+    MarketChoicesModel picker(MarketChoicesModel::Countries, *store);
+    EXPECT_THAT(titles(picker), ElementsAre("France", "Germany"));
+    EXPECT_EQ(picker.currentRow(), 1);
 }
 
 TEST_F(MarketStoreTest, AnotherCountryIsAnotherMarketForEverythingThatFollows)
@@ -157,15 +174,15 @@ TEST_F(MarketStoreTest, AnotherCountryIsAnotherMarketForEverythingThatFollows)
     int revisions = 0;
     QObject::connect(store.get(), &MarketStore::revisionChanged, store.get(), [&] {
         ++revisions;
-        EXPECT_EQ(client.country(), japan); // whoever is told asks in the new market
-        EXPECT_EQ(preferences.value(preferences::marketCurrency), QStringLiteral("JPY"));
+        EXPECT_EQ(client.country(), japan);                                   // whoever is told asks in the new market
+        EXPECT_EQ(preferences.value(preferences::marketCurrency), QString()); // not known, and not the former one
     });
     const auto countriesTold = emissions(*store, &MarketStore::countriesChanged);
     answerRate(japan, "30000", "JPY");
     EXPECT_TRUE(store->setCountry(QStringLiteral("jp")));
     EXPECT_EQ(store->country(), japan);
     EXPECT_EQ(store->countryName(), QStringLiteral("Japan"));
-    EXPECT_EQ(store->currency(), QStringLiteral("JPY"));
+    EXPECT_EQ(store->currency(), QString());
     EXPECT_EQ(store->revision(), 1);
     EXPECT_EQ(revisions, 1);
     EXPECT_EQ(*countriesTold, 1);
@@ -173,12 +190,23 @@ TEST_F(MarketStoreTest, AnotherCountryIsAnotherMarketForEverythingThatFollows)
     settle(5);
     EXPECT_EQ(store->convertUSDollars(99), (ConvertedAmount{QStringLiteral("14850.00"), QStringLiteral("JPY")}));
     EXPECT_EQ(preferences.value(preferences::marketCountry), japan);
+    EXPECT_EQ(preferences.value(preferences::marketCurrency), QStringLiteral("JPY"));
+
+    // The list says yen; what the store answers in counts, and a late answer for another market does not.
+    answer("ProductsByIDs", json(R"({"nodes": []})"));
+    QJsonValue card = cardJson(QStringLiteral("silk"));
+    answer("ProductsByIDs", QJsonValue(QJsonObject{{QStringLiteral("nodes"), QJsonArray{card}}}));
+    EXPECT_TRUE(run(api.productsByIDs({QStringLiteral("1")}, {})));
+    EXPECT_EQ(store->currency(), QStringLiteral("JPY"));
+    EXPECT_TRUE(run(api.productsByIDs({QStringLiteral("1")}, {})));
+    EXPECT_EQ(store->currency(), QStringLiteral("USD"));
+    preferences.set(preferences::marketCurrency, QStringLiteral("JPY"));
 
     EXPECT_TRUE(store->setCountry(japan));
     for (const char* const none : {"", "XX", "PR", "Japan", "J"})
         EXPECT_FALSE(store->setCountry(QLatin1String(none))) << none;
     EXPECT_EQ(revisions, 1);
-    EXPECT_EQ(sent(), 5U);
+    EXPECT_EQ(sent(), 7U);
 
     // A choice outlives the process; what is no country does not count.
     EXPECT_EQ(make(germany)->country(), japan);
@@ -231,6 +259,47 @@ TEST_F(MarketStoreTest, AnotherLanguageNamesTheCountriesAnewAndTheLatestWins)
     store->setLanguage(AppLanguage::French);
     EXPECT_EQ(store->revision(), 1);
     EXPECT_EQ(sent(), 2U);
+    EXPECT_EQ(make()->context().language, AppLanguage::French); // a choice outlives the process
+    preferences.set(preferences::language, QStringLiteral("tlh"));
+    EXPECT_EQ(make()->context().language, AppLanguage::English);
+}
+
+TEST_F(MarketStoreTest, ThePickerFindsByNameCodeAndCurrencyWithoutCaseAndAccents)
+{
+    put("snap-countries.json", R"({"savedAt":"2025-03-01T00:00:00Z","value":[
+        {"isoCode":"CI","name":"Côte d’Ivoire","currency":"XOF"},{"isoCode":"DE","name":"Germany","currency":"EUR"},
+        {"isoCode":"DK","name":"Denmark","currency":"DKK"},{"isoCode":"SE","name":"Sweden","currency":"SEK"},
+        {"isoCode":"AX","name":"Åland Islands","currency":"EUR"}]})");
+    put("lst_market_rate_v1.json", fresh);
+    answer("Countries", Answer::body("", 404));
+    const auto store = make();
+    store->load();
+    settle(1);
+    MarketChoicesModel picker(MarketChoicesModel::Countries, *store);
+    struct Row {
+        const char* typed;
+        std::vector<std::string> found;
+    };
+    for (const Row& row : std::vector<Row>{
+             {"de", {"Denmark", "Germany", "Sweden"}}, // a name, a code, inside a name
+             {"COTE D'I", {"Côte d’Ivoire"}},
+             {"aland", {"Åland Islands"}},
+             {"eur", {"Åland Islands", "Germany"}},
+             {"islands", {"Åland Islands"}},
+             {"xyz", {}},
+         }) {
+        picker.setFilter(QString::fromUtf8(row.typed));
+        EXPECT_EQ(titles(picker), row.found) << row.typed;
+    }
+    picker.setFilter(QStringLiteral("dkk"));
+    answerRate(QStringLiteral("DK"), "1400.0", "DKK");
+    picker.choose(0);
+    settle(3);
+    EXPECT_EQ(store->country(), QStringLiteral("DK"));
+
+    MarketChoicesModel languages(MarketChoicesModel::Languages, *store);
+    languages.setFilter(QStringLiteral("german"));
+    EXPECT_THAT(titles(languages), ElementsAre("Deutsch"));
 }
 
 TEST_F(MarketStoreTest, AStoreThatGoesWhileItWorksTakesItsRequestsWithIt)

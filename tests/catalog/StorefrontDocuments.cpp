@@ -1,4 +1,5 @@
 #include "catalog/CollectionPage.h"
+#include "catalog/SearchPage.h"
 #include "catalog/StorefrontLanguage.h"
 #include "catalog/StorefrontQueries.h"
 
@@ -45,6 +46,14 @@ QJsonArray documents()
     add("Products", queries::products(),
         {{QStringLiteral("first"), 250}, {QStringLiteral("sortKey"), QStringLiteral("CREATED_AT")}});
     add("Suggest", queries::suggest(), with("q", QStringLiteral("silk")));
+    for (const SearchOrder& order : searchOrders) {
+        add("Search", queries::search(),
+            {{QStringLiteral("query"), QStringLiteral("silk")},
+             {QStringLiteral("first"), 24},
+             {QStringLiteral("filters"), QJsonArray{QJsonObject{{QStringLiteral("available"), true}}}},
+             {QStringLiteral("sortKey"), QLatin1String(order.sortKey)},
+             {QStringLiteral("reverse"), order.reverse}});
+    }
     add("SkuImage", queries::skuImage(), with("handle", QStringLiteral("a")));
     for (const CollectionSortOrder& order : collectionSortOrders) {
         add("CollectionProducts", queries::collectionProducts(),

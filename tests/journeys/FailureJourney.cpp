@@ -147,6 +147,9 @@ TEST_F(FailureJourney, APageThatCannotComeSaysWhyAndComesWithAnotherTry)
         window.press(QStringLiteral("Return"));
         window.awaitPage(QString::fromLatin1(page.title));
         window.awaitGone(QStringLiteral("error"));
+        // The button that had the keyboard is gone.
+        if (operation == QLatin1String("CollectionProducts"))
+            waitUntil([&] { return window.focusName().startsWith(QLatin1String("card.")); }, "a piece has the focus");
     }
 }
 

@@ -76,6 +76,8 @@ TEST_F(KeyboardJourney, EveryStopOfTheTabKeyShowsAndNamesItself)
     start();
     window.awaitPage(QStringLiteral("Explore"));
     window.await(QStringLiteral("tile.dresses"));
+    window.press(QStringLiteral("Tab"));
+    EXPECT_NE(window.focusName(), QStringLiteral("sidebarToggle")) << "not from the page on, but from the beginning";
     expectGoodStops();
     follow(QStringLiteral("https://www.loomstreet.example/collections/dresses"));
     window.awaitPage(QStringLiteral("Dresses"));
@@ -113,6 +115,13 @@ TEST_F(KeyboardJourney, TheShopIsBrowsedWithoutAPointer)
     EXPECT_NE(reached, first);
     EXPECT_EQ(faultOfFocus(), QString());
     const QString piece = window.texts(window.await(reached)).at(1);
+
+    // The piece beside the grid, and from there its page.
+    window.press(QStringLiteral("Return"));
+    window.awaitText(piece, window.await(QStringLiteral("preview")));
+    EXPECT_EQ(window.focusName(), reached);
+    window.tabTo(QStringLiteral("previewFull"));
+    EXPECT_EQ(faultOfFocus(), QString());
     window.press(QStringLiteral("Return"));
     window.awaitPage(piece);
 
@@ -123,23 +132,25 @@ TEST_F(KeyboardJourney, TheShopIsBrowsedWithoutAPointer)
     window.press(QStringLiteral("Return"));
     const QQuickItem* const lightbox = window.await(QStringLiteral("lightbox"));
     QSet<QString> stops;
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 8; ++i) {
         window.press(QStringLiteral("Tab"));
         stops.insert(window.focusName());
         EXPECT_EQ(faultOfFocus(), QString());
         EXPECT_TRUE(lightbox->isAncestorOf(window.window()->activeFocusItem()));
     }
-    EXPECT_EQ(stops, (QSet<QString>{QStringLiteral("previous"), QStringLiteral("next"), QStringLiteral("close")}));
+    EXPECT_EQ(stops, (QSet<QString>{QStringLiteral("stage"), QStringLiteral("play"), QStringLiteral("zoomIn"),
+                                    QStringLiteral("close"), QStringLiteral("previous"), QStringLiteral("next")}));
     window.press(QStringLiteral("Esc"));
     window.awaitGone(QStringLiteral("lightbox"));
     EXPECT_EQ(window.focusName(), QStringLiteral("gallery"));
 
-    // Further on in the page, and back to the card one came from.
+    // Further on in the page, and back to what of the grid had the keyboard last.
     window.await(QStringLiteral("section0"));
     window.tabTo(QStringLiteral("header"));
     window.press(QStringLiteral("Alt+Left"));
     window.awaitPage(QStringLiteral("Dresses"));
-    window.awaitFocus(reached);
+    window.awaitFocus(QStringLiteral("openFull"));
+    EXPECT_TRUE(window.await(reached)->isAncestorOf(window.window()->activeFocusItem()));
     EXPECT_EQ(faultOfFocus(), QString());
 }
 
@@ -165,6 +176,9 @@ TEST_F(KeyboardJourney, CommandsHaveTheirKeys)
     window.press(QStringLiteral("Ctrl+K"));
     EXPECT_EQ(window.focusName(), QStringLiteral("input"));
     window.type(QStringLiteral("wool"));
+    window.await(QStringLiteral("query0"));
+    window.press(QStringLiteral("Esc"));
+    EXPECT_EQ(window.focusName(), QStringLiteral("input"));
     window.press(QStringLiteral("Esc"));
     EXPECT_TRUE(window.focusName().startsWith(QStringLiteral("card."))) << window.focusName().toStdString();
 

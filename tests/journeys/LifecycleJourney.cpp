@@ -123,6 +123,18 @@ TEST_F(LifecycleJourney, ClosingTheLastWindowDoesNotQuit)
     EXPECT_EQ(quit(first), 0);
 }
 
+TEST_F(LifecycleJourney, StartedByTheDesktopItWaitsToHearWhatForAndTakesNoLinkForAnOption)
+{
+    Start service({QStringLiteral("--service")});
+    waitUntil([] { return windows().size() == 1; }, "a window is there, asked for or not");
+    Start action({QStringLiteral("--action"), QStringLiteral("bag"), QStringLiteral("--"), QStringLiteral("--help"),
+                  QStringLiteral("/collections/bags"), QStringLiteral("-platformpluginpath")});
+    EXPECT_EQ(action.awaitEnd(), 0);
+    awaitWindow(QStringLiteral("Bags – LOOMSTREET"));
+    EXPECT_TRUE(service.isRunning());
+    EXPECT_EQ(quit(service), 0);
+}
+
 TEST_F(LifecycleJourney, ABuildThatBelongsToNoStoreSaysSo)
 {
     FakeAppearance appearance;

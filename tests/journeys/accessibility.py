@@ -31,7 +31,7 @@ HOLDERS = {
     pyatspi.ROLE_SCROLL_PANE,
 }
 NAMELESS_ROLES = {pyatspi.ROLE_UNKNOWN, pyatspi.ROLE_INVALID, pyatspi.ROLE_FILLER}
-PRESSES = {"Press", "Toggle", "ShowMenu"}
+PRESSES = {"Press", "Toggle", "ShowMenu", "Increase"}
 
 
 def wait_for(find, what):
@@ -151,6 +151,10 @@ def shop(shopper):
 
     title = card.name.split(", ")[1]
     shopper.press(card.name, pieces)
+    beside = shopper.await_item(pyatspi.ROLE_PANEL, "Side panel")
+    shopper.await_item(pyatspi.ROLE_RADIO_BUTTON, below=beside)
+    shopper.look("piece beside the page", beside)
+    shopper.press("Open full page", beside)
     shopper.await_page(title)
     shopper.await_item(pyatspi.ROLE_RADIO_BUTTON)
     shopper.look("piece")

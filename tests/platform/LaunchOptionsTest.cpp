@@ -1,6 +1,7 @@
 #include "platform/LaunchOptions.h"
 
 #include "Session.h"
+#include "platform/WindowActivation.h"
 
 #include "support/NetworkFixture.h"
 
@@ -57,6 +58,19 @@ TEST(LaunchOptionsTest, OptionsAreForWhoeverStartsTheProgramAndLinksAreOnlyEverL
         readLaunchOptions(texts({"loomstreet", "--start-report", "start.json", "--event-loop-report", "turns.json"}));
     EXPECT_EQ(reports.startReportFile, QStringLiteral("start.json"));
     EXPECT_EQ(reports.eventLoopReportFile, QStringLiteral("turns.json"));
+}
+
+TEST(LaunchOptionsTest, WhatFollowsTheDashesIsKeptFromTheLibrariesToo)
+{
+    const std::array given{"loomstreet", "--action", "bag", "--", "-platformpluginpath", "--"};
+    EXPECT_EQ(countOfOptions(static_cast<int>(given.size()), given.data()), 3);
+    EXPECT_EQ(countOfOptions(2, given.data()), 2);
+    EXPECT_EQ(readLaunchOptions(texts({"loomstreet", "--action", "bag", "--", "--service"})).action,
+              QStringLiteral("bag"));
+    EXPECT_FALSE(readLaunchOptions(texts({"loomstreet", "--", "--service"})).isService);
+    EXPECT_EQ(WindowActivation::timeOf(QStringLiteral("a_TIME1-host_TIME4294967295")), 4294967295U);
+    for (const char* const id : {"", "host-77", "host_TIME", "host_TIME-1", "host_TIME4294967296", "host_TIME1x"})
+        EXPECT_EQ(WindowActivation::timeOf(QLatin1String(id)), 0U) << id;
 }
 
 TEST(LaunchOptionsTest, TheAuthorityMayBeNamedByTheEnvironment)

@@ -68,14 +68,24 @@ int runUntilTold(const std::function<void(const QStringList& words)>& obey = {})
     return QCoreApplication::exec();
 }
 
-/// instance ID [link…]
+/// instance ID [link…]; the environment says which launch and which action it is
 int runInstance(const QStringList& arguments)
 {
     SingleInstance instance(arguments.value(0));
-    QObject::connect(&instance, &SingleInstance::activated, &instance, [] { print(QStringLiteral("activated")); });
-    QObject::connect(&instance, &SingleInstance::linksOpened, &instance,
-                     [](const QStringList& links) { print(QStringLiteral("opened ") + asJson(links)); });
-    if (instance.claim(arguments.mid(1)) == SingleInstance::Role::Second) {
+    QObject::connect(&instance, &SingleInstance::activated, &instance, [](const Activation& activation) {
+        QStringList words;
+        for (const QString& word : {activation.action, activation.startupId, activation.activationToken}) {
+            if (!word.isEmpty())
+                words.append(word);
+        }
+        words.prepend(activation.links.isEmpty() ? QStringLiteral("activated")
+                                                 : QStringLiteral("opened ") + asJson(activation.links));
+        print(words.join(QLatin1Char(' ')));
+    });
+    Activation start = readLaunch();
+    start.links = arguments.mid(1);
+    start.action = qEnvironmentVariable("LOOMSTREET_ACTION");
+    if (instance.claim(start) == SingleInstance::Role::Second) {
         print(QStringLiteral("second"));
         return 0;
     }

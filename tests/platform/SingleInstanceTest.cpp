@@ -53,6 +53,19 @@ TEST_P(SingleInstanceTest, AnotherStartReachesTheOneThatRunsAndEnds)
     EXPECT_EQ(running->line(), QStringLiteral(R"(opened [""])"));
 }
 
+TEST_P(SingleInstanceTest, AnActionAndTheLaunchItBelongsToArriveWithIt)
+{
+    const auto running = startApplication();
+    EXPECT_EQ(running->line(), first);
+    session.environment.insert(QStringLiteral("DESKTOP_STARTUP_ID"), QStringLiteral("launcher-1_TIME77"));
+    session.environment.insert(QStringLiteral("XDG_ACTIVATION_TOKEN"), QStringLiteral("token-1"));
+    EXPECT_EQ(startApplication({QStringLiteral("/cart")})->line(), second);
+    EXPECT_EQ(running->line(), QStringLiteral(R"(opened ["/cart"] launcher-1_TIME77 token-1)"));
+    session.environment.insert(QStringLiteral("LOOMSTREET_ACTION"), QStringLiteral("bag"));
+    EXPECT_EQ(startApplication()->line(), second);
+    EXPECT_EQ(running->line(), QStringLiteral("activated bag launcher-1_TIME77 token-1"));
+}
+
 TEST_P(SingleInstanceTest, StartsThatComeTogetherAreAllHeard)
 {
     const auto running = startApplication();
@@ -96,13 +109,13 @@ TEST(SingleInstanceOnABusTest, TheDesktopActivatesItAndOpensLinksInIt)
     };
     const QVariantMap data{{QStringLiteral("desktop-startup-id"), QStringLiteral("1")}};
     EXPECT_EQ(call(QStringLiteral("Activate"), {data}), QDBusMessage::ReplyMessage);
-    EXPECT_EQ(running->line(), activated);
+    EXPECT_EQ(running->line(), activated + QStringLiteral(" 1"));
     EXPECT_EQ(call(QStringLiteral("Open"), {QStringList(QStringLiteral("loomstreet://cart")), data}),
               QDBusMessage::ReplyMessage);
-    EXPECT_EQ(running->line(), QStringLiteral(R"(opened ["loomstreet://cart"])"));
+    EXPECT_EQ(running->line(), QStringLiteral(R"(opened ["loomstreet://cart"] 1)"));
     EXPECT_EQ(call(QStringLiteral("ActivateAction"), {QStringLiteral("new-window"), QVariantList(), data}),
               QDBusMessage::ReplyMessage);
-    EXPECT_EQ(running->line(), activated);
+    EXPECT_EQ(running->line(), activated + QStringLiteral(" new-window 1"));
     EXPECT_EQ(call(QStringLiteral("Quit"), {}), QDBusMessage::ErrorMessage);
 }
 
@@ -123,7 +136,7 @@ TEST(SingleInstanceWithoutABusTest, WhatIsNoRequestOnlyActivates)
                   (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
               QFile::Permissions());
     for (const QByteArray& garbage :
-         {QByteArray(), QByteArray("[\"a\""), QByteArray("{\"a\":1}"), QByteArray(200'000, '[')}) {
+         {QByteArray(), QByteArray("[\"a\""), QByteArray("{\"a\":1}"), QByteArray(2'000'000, '[')}) {
         QLocalSocket socket;
         socket.connectToServer(socketPath);
         ASSERT_TRUE(socket.waitForConnected());

@@ -20,7 +20,7 @@ Pressable {
                               : note === "" ? text : text + ", " + note
 
     contentItem: Item {
-        implicitWidth: words.implicitWidth + (cross.visible ? control.spacing - 2 + cross.width : 0)
+        implicitWidth: words.implicitWidth + (control.removable ? control.spacing - 2 + cross.width : 0)
         implicitHeight: words.implicitHeight
 
         LabelRow {
@@ -28,7 +28,7 @@ Pressable {
 
             anchors.verticalCenter: parent.verticalCenter
             anchors.left: parent.left
-            width: Math.min(implicitWidth, parent.width - (cross.visible ? control.spacing - 2 + cross.width : 0))
+            width: Math.min(implicitWidth, parent.width - (control.removable ? control.spacing - 2 + cross.width : 0))
             text: control.text
             note: control.note
             iconName: control.iconName

@@ -117,6 +117,8 @@ Item {
             objectName: "save"
             anchors { right: parent.right; top: parent.top; margins: Theme.space1 }
             visible: card.canSave
+            // A stop for the Tab key only where its card is one.
+            focusPolicy: card.activeFocusOnTab ? Qt.StrongFocus : Qt.ClickFocus
             saved: card.saved
             onClicked: card.saveToggled()
         }

@@ -15,8 +15,13 @@ FocusScope {
 
     readonly property bool atRest: !input.activeFocus && input.length === 0
 
+    // What assistive tools say of it, as the row below it that Enter would take.
+    property string hint
+
     signal accepted()
     signal edited(string text)
+    // A key goes here before the field has it.
+    signal keyPressed(var event)
 
     implicitWidth: 560
     implicitHeight: Math.max(36, input.type.line + Theme.space1)
@@ -31,6 +36,7 @@ FocusScope {
         endPadding: end.width + Theme.space2
         type: Theme.type.small
         focus: true
+        Keys.onPressed: event => field.keyPressed(event)
         onAccepted: field.accepted()
         onTextEdited: field.edited(text)
         placeholderTextColor: rest.visible ? "transparent" : Theme.placeholder
@@ -48,7 +54,7 @@ FocusScope {
         }
         Accessible.role: Accessible.EditableText
         Accessible.name: placeholderText !== "" ? placeholderText : qsTranslate("Loomstreet", "Search")
-        Accessible.description: field.shortcut
+        Accessible.description: field.hint !== "" ? field.hint : field.shortcut
     }
     Icon {
         anchors.left: parent.left

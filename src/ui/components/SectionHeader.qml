@@ -13,6 +13,8 @@ Item {
     property bool paged: false
     property bool hasPrevious: false
     property bool hasNext: false
+    // What the title takes when it stands on one line.
+    readonly property real titleWidth: title.implicitWidth + (note.text === "" ? 0 : note.implicitWidth + Theme.space1_5)
 
     signal activated()
     signal previous()

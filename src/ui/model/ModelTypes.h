@@ -2,6 +2,7 @@
 
 #include "app/AppModel.h"
 #include "app/SystemAppearance.h"
+#include "catalog/FilterValuesModel.h"
 
 #include <QtQml/qqmlregistration.h>
 
@@ -40,6 +41,13 @@ struct AppSettingsForQml {
     Q_GADGET
     QML_FOREIGN(loom::AppSettings)
     QML_NAMED_ELEMENT(AppSettings)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct BrandsModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::BrandsModel)
+    QML_NAMED_ELEMENT(BrandsModel)
     QML_UNCREATABLE("made by the application model")
 };
 
@@ -85,11 +93,73 @@ struct CollectionTilesModelForQml {
     QML_UNCREATABLE("made by the application model")
 };
 
+struct CompareModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::CompareModel)
+    QML_NAMED_ELEMENT(CompareModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct FilterModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::FilterModel)
+    QML_NAMED_ELEMENT(FilterModel)
+    QML_UNCREATABLE("made by the model of a page")
+};
+
+struct FilterValuesModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::FilterValuesModel)
+    QML_NAMED_ELEMENT(FilterValuesModel)
+    QML_UNCREATABLE("made by the model of a page")
+};
+
+struct MarketChoicesModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::MarketChoicesModel)
+    QML_NAMED_ELEMENT(MarketChoicesModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct KeptPiecesForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::KeptPieces)
+    QML_NAMED_ELEMENT(KeptPieces)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct KeptPiecesModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::KeptPiecesModel)
+    QML_NAMED_ELEMENT(KeptPiecesModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
 struct MarketStoreForQml {
     Q_GADGET
     QML_FOREIGN(loom::MarketStore)
     QML_NAMED_ELEMENT(MarketStore)
     QML_UNCREATABLE("made by the application model")
+};
+
+struct NavigationPathForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::NavigationPath)
+    QML_NAMED_ELEMENT(NavigationPath)
+    QML_UNCREATABLE("made by the router")
+};
+
+namespace OpenModeForQml
+{
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(loom::OpenModes)
+QML_NAMED_ELEMENT(OpenModes)
+} // namespace OpenModeForQml
+
+struct ProductPreviewForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::ProductPreview)
+    QML_VALUE_TYPE(productPreview)
 };
 
 namespace PageKindForQml
@@ -105,11 +175,32 @@ struct PageEntryForQml {
     QML_VALUE_TYPE(pageEntry)
 };
 
+struct PieceListModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::PieceListModel)
+    QML_NAMED_ELEMENT(PieceListModel)
+    QML_UNCREATABLE("made by the model of a page")
+};
+
+struct PriceDropsModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::PriceDropsModel)
+    QML_NAMED_ELEMENT(PriceDropsModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
 struct ProductListModelForQml {
     Q_GADGET
     QML_FOREIGN(loom::ProductListModel)
     QML_NAMED_ELEMENT(ProductListModel)
     QML_UNCREATABLE("made by the model of a page")
+};
+
+struct ProductListingForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::ProductListing)
+    QML_NAMED_ELEMENT(ProductListing)
+    QML_UNCREATABLE("made by the application model")
 };
 
 struct ProductModelForQml {
@@ -119,11 +210,39 @@ struct ProductModelForQml {
     QML_UNCREATABLE("made by the application model")
 };
 
+struct RecentlyViewedStoreForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::RecentlyViewedStore)
+    QML_NAMED_ELEMENT(RecentlyViewedStore)
+    QML_UNCREATABLE("made by the application model")
+};
+
 struct RouterForQml {
     Q_GADGET
     QML_FOREIGN(loom::Router)
     QML_NAMED_ELEMENT(Router)
     QML_UNCREATABLE("made by a window session")
+};
+
+struct SearchModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::SearchModel)
+    QML_NAMED_ELEMENT(SearchModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct SuggestionSlotsForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::SuggestionSlots)
+    QML_NAMED_ELEMENT(SuggestionSlots)
+    QML_UNCREATABLE("made by the suggestions")
+};
+
+struct SuggestionsModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::SuggestionsModel)
+    QML_NAMED_ELEMENT(SuggestionsModel)
+    QML_UNCREATABLE("made by the application model")
 };
 
 struct SystemAppearanceForQml {
@@ -138,6 +257,13 @@ struct TabsModelForQml {
     QML_FOREIGN(loom::TabsModel)
     QML_NAMED_ELEMENT(TabsModel)
     QML_UNCREATABLE("made by a window session")
+};
+
+struct WishlistStoreForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::WishlistStore)
+    QML_NAMED_ELEMENT(WishlistStore)
+    QML_UNCREATABLE("made by the application model")
 };
 
 struct WindowSessionForQml {

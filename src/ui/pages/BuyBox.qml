@@ -10,8 +10,11 @@ Column {
 
     property AppModel app
     property ProductModel product
+    // The way to buy the piece stands elsewhere.
+    property bool buysElsewhere: false
 
     signal added()
+    signal compareAsked()
 
     readonly property var reviews: product?.reviews ?? ({})
     readonly property var service: product?.service ?? ({})
@@ -97,9 +100,22 @@ Column {
 
     BuyButtons {
         width: parent.width
+        visible: !box.buysElsewhere
         app: box.app
-        product: box.product
+        product: box.buysElsewhere ? null : box.product
         onAdded: box.added()
+    }
+    PushButton {
+        id: compare
+
+        objectName: "compareProduct"
+        anchors { left: parent.left; leftMargin: -compare.leftPadding } // its icon stands below the others
+        size: "small"
+        kind: "quiet"
+        iconName: "square.grid.2x2"
+        text: qsTranslate("Loomstreet", "Compare")
+        Accessible.description: qsTranslate("Loomstreet", "Beside pieces you saved or viewed")
+        onClicked: box.compareAsked()
     }
     Column {
         width: parent.width

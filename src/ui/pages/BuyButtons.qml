@@ -10,7 +10,10 @@ Column {
     property AppModel app
     property ProductModel product
 
-    readonly property BuyModel buying: app && product ? app.makeBuying(buttons, product) : null
+    // Only into the cart.
+    property bool brief: false
+
+    readonly property BuyModel buying: app && product ? app.makeBuying(product, product) : null
     readonly property bool isPaying: buying?.isBuying || (paid && app.checkout.isStarting && !app.checkout.isStartingCart)
     property bool paid: false
 
@@ -24,22 +27,49 @@ Column {
         function onCheckoutWanted(): void { buttons.paid = true }
     }
 
-    PushButton {
-        objectName: "addToCart"
+    Item {
         width: parent.width
-        kind: "primary"
-        size: "primary"
-        enabled: buttons.buying?.canBuy ?? false
-        busy: buttons.buying?.isAdding ?? false
-        iconName: buttons.buying?.wasAdded ? "checkmark" : ""
-        text: buttons.buying?.wasAdded ? qsTranslate("Loomstreet", "Added")
-            : buttons.product?.isSoldOut ? qsTranslate("Loomstreet", "Sold out")
-                                         : qsTranslate("Loomstreet", "Add to Cart")
-        onClicked: buttons.buying.add()
+        height: add.height
+
+        PushButton {
+            id: add
+
+            objectName: "addToCart"
+            anchors.left: parent.left
+            width: parent.width - heart.width - Theme.space1
+            kind: "primary"
+            size: "primary"
+            enabled: buttons.buying?.canBuy ?? false
+            busy: buttons.buying?.isAdding ?? false
+            iconName: buttons.buying?.wasAdded ? "checkmark" : ""
+            text: buttons.buying?.wasAdded ? qsTranslate("Loomstreet", "Added")
+                : buttons.product?.isSoldOut ? qsTranslate("Loomstreet", "Sold out")
+                                             : qsTranslate("Loomstreet", "Add to Cart")
+            onClicked: buttons.buying.add()
+        }
+        IconButton {
+            id: heart
+
+            readonly property bool saved: buttons.app.wishlist.revision >= 0 && buttons.app.wishlist.contains(buttons.product?.handle ?? "")
+
+            objectName: "saveProduct"
+            anchors.right: parent.right
+            kind: "outlined"
+            extent: add.height
+            iconName: saved ? "heart.fill" : "heart"
+            color: saved ? Theme.accent : Theme.ink
+            enabled: buttons.product?.title !== ""
+            text: saved ? qsTranslate("Loomstreet", "Remove from wishlist") : qsTranslate("Loomstreet", "Save to wishlist")
+            onClicked: buttons.app.wishlist.toggle(buttons.product.item)
+
+            Accessible.checkable: true
+            Accessible.checked: saved
+        }
     }
     PushButton {
         objectName: "buyNow"
         width: parent.width
+        visible: !buttons.brief
         size: "primary"
         enabled: buttons.buying?.canBuy ?? false
         busy: buttons.isPaying

@@ -11,9 +11,12 @@ Item {
     property int padding: Theme.layoutPagePaddingRegular
     property string title
     property bool narrow: false
+    // Below a head that is there already.
+    property bool headless: false
 
     readonly property int room: width - 2 * padding
     readonly property int columns: Math.max(1, Math.floor((room + Theme.cardGapX) / (Theme.cardMinimumWidth + Theme.cardGapX)))
+    readonly property int natural: cards.y + cards.height
     readonly property real cardWidth: Math.floor((room + Theme.cardGapX) / columns) - Theme.cardGapX
 
     clip: true
@@ -32,8 +35,8 @@ Item {
     onShownChanged: if (!shown) late.elapsed = false
 
     TextLabel {
-        anchors { left: parent.left; leftMargin: skeleton.padding; top: parent.top; topMargin: Theme.space3 }
-        visible: text !== ""
+        anchors { left: parent.left; leftMargin: skeleton.padding; top: parent.top; topMargin: Theme.space2 }
+        visible: text !== "" && !skeleton.headless
         text: skeleton.title
         type: skeleton.narrow ? Theme.type.heading : Theme.type.title
     }
@@ -41,16 +44,22 @@ Item {
         anchors { left: parent.left; leftMargin: skeleton.padding; top: parent.top; topMargin: Theme.space3 }
         width: 240
         height: 40
-        visible: skeleton.title === ""
+        visible: skeleton.title === "" && !skeleton.headless
     }
     Grid {
-        anchors { left: parent.left; leftMargin: skeleton.padding; top: parent.top; topMargin: Theme.space6 + Theme.type.title.line }
+        id: cards
+
+        // As tall as the head that comes in its place.
+        readonly property int headHeight: 2 * Theme.space2 + Theme.space1_5 + Theme.targetMinimum
+            + (skeleton.narrow ? Theme.type.heading.line : Theme.type.title.line)
+
+        anchors { left: parent.left; leftMargin: skeleton.padding; top: parent.top; topMargin: skeleton.headless ? 0 : headHeight }
         columns: skeleton.columns
         columnSpacing: Theme.cardGapX
         rowSpacing: Theme.cardGapY
 
         Repeater {
-            model: skeleton.visible ? skeleton.columns * 3 : 0
+            model: skeleton.visible || skeleton.headless ? skeleton.columns * (skeleton.headless ? 2 : 3) : 0
 
             CardSkeleton { width: skeleton.cardWidth }
         }

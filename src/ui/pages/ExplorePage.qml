@@ -11,6 +11,8 @@ PageBase {
     readonly property CollectionTilesModel collections: context.model
     property CollectionModel newIn: null
     property CollectionModel finalSale: null
+    // Of the department the shopper browses.
+    property CollectionModel department: null
 
     readonly property bool hasContent: news.count > 0 || sale.count > 0 || (collections ? collections.count > 0 : false)
     readonly property bool loading: !newIn || !finalSale || !collections
@@ -33,6 +35,7 @@ PageBase {
         collections.reload()
         newIn.reload()
         finalSale.reload()
+        department.reload()
     }
     function begin(): void {
         if (!shown)
@@ -41,15 +44,12 @@ PageBase {
             newIn = app.makeRail(page, "new-in")
             finalSale = app.makeRail(page, "final-sale")
         }
+        if (department?.handle !== app.market.department)
+            department = app.makeRail(page, app.market.department)
         newIn.load()
         finalSale.load()
+        department.load()
         collections.load()
-    }
-    function openPiece(handle: string, item: var, modifiers: int): void {
-        if (modifiers & Qt.ControlModifier)
-            router.openProductInNewTab(handle, item)
-        else
-            router.openProductCard(handle, item)
     }
 
     onShownChanged: begin()
@@ -92,7 +92,9 @@ PageBase {
                 title: qsTranslate("Loomstreet", "New In")
                 note: qsTranslate("Loomstreet", "The latest pieces")
                 collection: page.newIn
-                onOpened: (handle, item, modifiers) => page.openPiece(handle, item, modifiers)
+                onOpened: (handle, item, mode) => page.router.openPiece(handle, item, mode)
+                previewed: page.previewed
+                wishlist: page.app.wishlist
                 onAllAsked: page.router.selectItem(1)
             }
             Column {
@@ -114,6 +116,17 @@ PageBase {
                 }
             }
             ProductRail {
+                objectName: "department"
+                width: parent.width
+                title: page.app.market.department === "men" ? qsTranslate("Loomstreet", "Men") : qsTranslate("Loomstreet", "Women")
+                note: qsTranslate("Loomstreet", "The department you browse")
+                collection: page.department
+                onOpened: (handle, item, mode) => page.router.openPiece(handle, item, mode)
+                previewed: page.previewed
+                wishlist: page.app.wishlist
+                onAllAsked: page.router.selectItem(page.app.market.department === "men" ? 3 : 2)
+            }
+            ProductRail {
                 id: sale
 
                 objectName: "finalSale"
@@ -121,7 +134,9 @@ PageBase {
                 title: qsTranslate("Loomstreet", "Final Sale")
                 note: qsTranslate("Loomstreet", "Last pieces, reduced")
                 collection: page.finalSale
-                onOpened: (handle, item, modifiers) => page.openPiece(handle, item, modifiers)
+                onOpened: (handle, item, mode) => page.router.openPiece(handle, item, mode)
+                previewed: page.previewed
+                wishlist: page.app.wishlist
                 onAllAsked: page.router.selectItem(7)
             }
         }

@@ -20,10 +20,12 @@ FocusScope {
     // The first pictures of the page have been decoded.
     property bool settled: false
 
-    readonly property int measuredWidth: session.windowWidth - Theme.layoutSidebarRegular
-    readonly property bool narrow: measuredWidth < Theme.breakpointNarrow
+    readonly property bool narrow: session.contentWidth < Theme.breakpointNarrow
+    // The piece that is shown beside the page.
+    readonly property string previewed: shown && session.isPreviewShown ? router.preview.handle : ""
     readonly property int padding: {
-        const least = narrow ? Theme.layoutPagePaddingNarrow : Theme.layoutPagePaddingRegular
+        const least = narrow ? Theme.layoutPagePaddingNarrow
+                             : session.isPreviewShown ? Theme.layoutPagePaddingBesidePane : Theme.layoutPagePaddingRegular
         return Math.max(least, Math.floor((width - Theme.layoutMaximumPage) / 2))
     }
 
@@ -34,8 +36,18 @@ FocusScope {
     // In place: the models of pages show what they have until something newer has arrived.
     function refresh(): void { reload() }
 
-    onTitleChanged: router?.setPageTitle(context.depth, title) // the router may go first
-    Component.onCompleted: if (title !== "") router.setPageTitle(context.depth, title)
+    // Where a page has the focus and nothing in it that is a stop for the Tab key, the key goes on from there, not from
+    // the beginning of the window.
+    function goOn(event: var, forwards: bool): void {
+        event.accepted = (event.modifiers & (Qt.ControlModifier | Qt.AltModifier)) === 0 && Window.activeFocusItem !== null
+        if (event.accepted)
+            Window.activeFocusItem.nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+    }
+
+    Keys.onTabPressed: event => goOn(event, true)
+    Keys.onBacktabPressed: event => goOn(event, false)
+    onTitleChanged: router?.setPageTitle(context.pageID, title) // the router may go first
+    Component.onCompleted: if (title !== "") router.setPageTitle(context.pageID, title)
 
     AwaitedPlace {
         id: place

@@ -6,8 +6,8 @@ QtObject {
     required property AppModel app
     required property WindowSession session
     required property Router router
-    // The place in the tab's stack, 0 for the root of the section.
-    required property int depth
+    // By which the router knows the page.
+    required property int pageID
     // What the router says of the page.
     required property var entry
     // What the page is of; the host keeps it while the page itself comes and goes.

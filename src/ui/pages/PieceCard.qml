@@ -1,4 +1,7 @@
+import QtQuick
 import Loomstreet.Components
+import Loomstreet.Model
+import Loomstreet.Theme
 
 // A card bound to a row of a list of products.
 ProductCard {
@@ -17,11 +20,50 @@ ProductCard {
     required soldOut
     required reason
 
-    signal opened(string handle, var item, int modifiers)
+    // Where its heart keeps it; without one there is no heart.
+    property WishlistStore wishlist: null
+    // Pieces are being chosen: a press chooses this one or not.
+    property bool picking: false
+    property bool picked: false
+    // It can be taken out of its list.
+    property bool removable: false
+
+    signal opened(string handle, var item, int mode)
+    signal pickToggled(string handle)
+    signal removeAsked(string handle)
 
     objectName: "card." + handle
     activeFocusOnTab: false // one card of a list is a stop, and the arrows move on from it
     dotPictures: colourPictures
-    onActivated: modifiers => card.opened(card.handle, card.item, modifiers)
-    onOpenFull: card.opened(card.handle, card.item, 0)
+    canSave: wishlist !== null && !picking
+    // Asked anew whenever the list changes.
+    saved: wishlist !== null && wishlist.revision >= 0 && wishlist.contains(handle)
+    onSaveToggled: wishlist.toggle(item)
+    onActivated: modifiers => {
+        if (picking) {
+            card.pickToggled(card.handle)
+            return
+        }
+        const inTab = (modifiers & Qt.ControlModifier) !== 0
+        card.opened(card.handle, card.item, inTab ? OpenModes.NewTab : OpenModes.Automatic)
+    }
+    onOpenFull: card.opened(card.handle, card.item, OpenModes.Page)
+
+    Accessible.checkable: picking
+    Accessible.checked: picked
+
+    // Made when the first is chosen: most cards never need it.
+    Loader {
+        anchors { right: parent.right; top: parent.top; margins: Theme.space1 }
+        active: card.picking
+        source: "PickMark.qml"
+        onLoaded: item.picked = Qt.binding(() => card.picked)
+    }
+    Loader {
+        anchors { right: parent.right; top: parent.top; rightMargin: Theme.space1; topMargin: 2 * Theme.space1 + Theme.targetIcon }
+        active: card.removable && !card.picking && card.lively
+        sourceComponent: RemoveButton {
+            onClicked: card.removeAsked(card.handle) // qmllint disable unqualified
+        }
+    }
 }

@@ -8,8 +8,17 @@ import Loomstreet.Theme
 GridView {
     id: grid
 
-    property ProductListModel products
+    property var products // a model with the roles of a PieceCard
     property int padding: Theme.layoutPagePaddingRegular
+    // Where the hearts of its cards keep them.
+    property WishlistStore wishlist: null
+    // Pieces are being chosen, these by now.
+    property bool picking: false
+    property var picked: []
+    // Cards can be taken out.
+    property bool removable: false
+    // The piece that is shown beside the grid.
+    property string previewed
 
     readonly property int room: width - 2 * padding
     readonly property int columns: Math.max(1, Math.floor((room + Theme.cardGapX) / (Theme.cardMinimumWidth + Theme.cardGapX)))
@@ -19,18 +28,21 @@ GridView {
     readonly property int firstCards: 8
     readonly property bool settled: count > 0 && decoded >= Math.min(count, firstCards)
 
-    signal opened(string handle, var item, int modifiers)
+    signal opened(string handle, var item, int mode)
     signal nearEnd()
+    signal pickToggled(string handle)
+    signal removeAsked(string handle)
 
     function noteNearEnd(): void {
-        if (count > 0 && contentHeight - contentY - height < 2 * height)
+        // Two rows before the end is seen.
+        if (count > 0 && originY + contentHeight - contentY - height < 2 * cellHeight)
             nearEnd()
     }
 
     model: products
     leftMargin: padding
     rightMargin: padding - Theme.cardGapX
-    cellWidth: cardWidth + Theme.cardGapX
+    cellWidth: cardWidth + Theme.cardGapX + nudge
     cellHeight: measure.implicitHeight + Theme.cardGapY
     cacheBuffer: cellHeight
     reuseItems: true
@@ -53,7 +65,29 @@ GridView {
     bottomMargin: foot?.height ?? 0
     // At the top it stays at the top while the head grows.
     onTopMarginChanged: if (contentY <= originY) contentY = originY - topMargin
+    // The view lays out anew for other cells, and not for other margins.
+    property real nudge: 0
+    onLeftMarginChanged: settling.restart()
+    onWidthChanged: settling.restart()
 
+    function settle(): void {
+        nudge = 0.01
+        nudge = 0
+        if (!LayoutMirroring.enabled)
+            contentX = originX - leftMargin
+    }
+
+    Timer {
+        id: settling
+
+        interval: 0
+        onTriggered: grid.settle()
+    }
+    GridAnchor {
+        parent: grid
+        grid: grid
+        columns: grid.columns
+    }
     Binding {
         when: grid.head !== null
         target: grid.head
@@ -108,11 +142,22 @@ GridView {
         id: card
 
         width: grid.cardWidth
+        previewed: handle === grid.previewed
+        wishlist: grid.wishlist
+        picking: grid.picking
+        picked: grid.picking && grid.picked.indexOf(handle) >= 0
+        removable: grid.removable
         focus: GridView.isCurrentItem
         activeFocusOnTab: GridView.isCurrentItem
-        onOpened: (handle, item, modifiers) => {
+        onPickToggled: handle => {
             grid.currentIndex = card.index
-            grid.opened(handle, item, modifiers)
+            grid.pickToggled(handle)
+        }
+        onRemoveAsked: handle => grid.removeAsked(handle)
+        Keys.onDeletePressed: if (removable) grid.removeAsked(handle)
+        onOpened: (handle, item, mode) => {
+            grid.currentIndex = card.index
+            grid.opened(handle, item, mode)
         }
         onPictureSettledChanged: noteSettled()
         Component.onCompleted: noteSettled()

@@ -140,6 +140,7 @@ PageBase {
         app: page.app
         product: page.product
         onAdded: page.session.isCartOpen = true
+        onCompareAsked: page.router.openCompare([page.product.handle])
     }
     Hairline {
         anchors { left: buy.left; top: buy.top; bottom: parent.bottom; topMargin: Theme.space2 }

@@ -20,7 +20,12 @@ Column {
     readonly property int count: collection ? collection.products.count : 0
     readonly property bool settled: count > 0 && decoded >= Math.min(count, perView)
 
-    signal opened(string handle, var item, int modifiers)
+    // Where the hearts of its cards keep them.
+    property WishlistStore wishlist: null
+    // The piece that is shown beside the page.
+    property string previewed
+
+    signal opened(string handle, var item, int mode)
     signal allAsked()
 
     // Brings the card with this number to the start, as far as there are cards behind it.
@@ -86,14 +91,16 @@ Column {
 
             delegate: PieceCard {
                 width: rail.cardWidth
+                wishlist: rail.wishlist
+                previewed: handle === rail.previewed
                 focus: index === cards.focused
                 activeFocusOnTab: index === cards.focused
                 // Beyond the rail's edges a card is out of sight, not cut.
                 opacity: index >= row.currentIndex && index < row.currentIndex + rail.perView ? 1 : 0
                 visible: opacity > 0
-                onOpened: (handle, item, modifiers) => {
+                onOpened: (handle, item, mode) => {
                     cards.focused = index
-                    rail.opened(handle, item, modifiers)
+                    rail.opened(handle, item, mode)
                 }
                 onPictureSettledChanged: if (pictureSettled) ++rail.decoded
                 Component.onCompleted: if (pictureSettled) ++rail.decoded

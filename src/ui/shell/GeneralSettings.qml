@@ -11,6 +11,33 @@ SettingsPage {
 
     title: qsTranslate("Loomstreet", "General")
 
+    Column {
+        width: page.width
+
+        SettingsPick {
+            objectName: "country"
+            width: page.width
+            app: page.app
+            text: qsTranslate("Loomstreet", "Country and currency")
+            value: page.app.market.currency === "" ? page.app.market.countryName : page.app.market.countryName + " · " + page.app.market.currency
+        }
+        SettingsPick {
+            objectName: "language"
+            width: page.width
+            app: page.app
+            picksLanguage: true
+            text: qsTranslate("Loomstreet", "Language of the shop")
+            value: page.app.market.languageName
+        }
+        SwitchRow {
+            objectName: "splitPreview"
+            width: page.width
+            text: qsTranslate("Loomstreet", "Open pieces beside the grid")
+            note: qsTranslate("Loomstreet", "In wide windows a piece is shown next to where it was found")
+            checked: page.app.settings.splitPreview
+            onToggled: page.app.settings.splitPreview = checked
+        }
+    }
     SettingsChoice {
         width: page.width
         title: qsTranslate("Loomstreet", "Sizes in")

@@ -15,7 +15,7 @@ Window {
     readonly property bool ownFrame: app.settings.windowFrame === "own"
     readonly property AppCommands commands: app.makeCommands(window, session)
     readonly property bool fullScreen: session.isWindowFullScreen
-    readonly property bool narrow: width - Theme.layoutSidebarRegular < Theme.breakpointNarrow
+    readonly property bool narrow: session.contentWidth < Theme.breakpointNarrow
     // The window has been on the screen.
     property bool wasSeen: false
     // The page on top has what it needs to be looked at.
@@ -25,8 +25,9 @@ Window {
         color = Qt.binding(() => Theme.paper)
     }
 
-    width: Theme.breakpointDefaultWindow.width
-    height: Theme.breakpointDefaultWindow.height
+    // As large as it was, as far as the screen allows.
+    width: session.lastWidth > 0 ? Math.min(session.lastWidth, Screen.desktopAvailableWidth) : Theme.breakpointDefaultWindow.width
+    height: session.lastHeight > 0 ? Math.min(session.lastHeight, Screen.desktopAvailableHeight) : Theme.breakpointDefaultWindow.height
     minimumWidth: Theme.breakpointMinimumWindow.width
     minimumHeight: Theme.breakpointMinimumWindow.height
     flags: ownFrame ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
@@ -36,7 +37,16 @@ Window {
     LayoutMirroring.enabled: systemAppearance.isRightToLeft
     LayoutMirroring.childrenInherit: true
 
-    onWidthChanged: session.windowWidth = width
+    function keepSize(): void {
+        if (wasSeen && visibility === Window.Windowed)
+            session.keepSize(width, height)
+    }
+
+    onWidthChanged: {
+        session.windowWidth = width
+        keepSize()
+    }
+    onHeightChanged: keepSize()
     // The window manager has a say in it too. While a window is away it keeps what it was. The signal comes late and
     // what it carries may be over: what counts is how the window is now.
     onVisibilityChanged: () => {
@@ -44,6 +54,8 @@ Window {
             session.isWindowFullScreen = true
         else if (window.visibility === Window.Windowed || window.visibility === Window.Maximized)
             session.isWindowFullScreen = false
+        if (wasSeen && (window.visibility === Window.Windowed || window.visibility === Window.Maximized))
+            session.isWindowMaximized = window.visibility === Window.Maximized
     }
     onFullScreenChanged: {
         if (fullScreen !== (visibility === Window.FullScreen))
@@ -55,6 +67,8 @@ Window {
         session.window = window
         session.windowWidth = width
         pages.takeFocus()
+        if (session.isWindowMaximized)
+            visibility = Window.Maximized
     }
 
     Connections {
@@ -83,9 +97,19 @@ Window {
         id: content
 
         anchors.fill: parent
+        // A letter that nobody took, where nothing lies over the page, begins a search.
+        function takeKey(event: var): void {
+            const modifiers = event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)
+            if (modifiers !== 0 || event.text.length === 0 || event.text <= " " || event.text === "\x7f")
+                return
+            bar.takeKey(event.text)
+            event.accepted = true
+        }
+
         TabStrip {
             id: strip
 
+            Keys.onPressed: event => content.takeKey(event)
             anchors { left: parent.left; right: parent.right; top: parent.top }
             session: window.session
             window: window
@@ -101,6 +125,7 @@ Window {
         Sidebar {
             id: sidebar
 
+            Keys.onPressed: event => content.takeKey(event)
             anchors { left: parent.left; top: menuBar.bottom; bottom: parent.bottom }
             app: window.app
             session: window.session
@@ -109,10 +134,12 @@ Window {
         Rectangle {
             anchors { left: sidebar.right; right: parent.right; top: menuBar.bottom; bottom: parent.bottom }
             color: Theme.paper
+            Keys.onPressed: event => content.takeKey(event)
 
             TopBar {
                 id: bar
 
+                z: 1 // what it suggests lies over the page
                 anchors { left: parent.left; right: parent.right; top: parent.top }
                 app: window.app
                 session: window.session
@@ -123,10 +150,27 @@ Window {
             TabPages {
                 id: pages
 
-                anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom }
+                anchors { left: parent.left; right: preview.left; top: bar.bottom; bottom: parent.bottom }
                 app: window.app
                 session: window.session
                 begun: window.wasSeen
+            }
+            // The piece beside the page.
+            Loader {
+                id: preview
+
+                readonly property bool wanted: window.session.isPreviewShown
+
+                anchors { right: parent.right; top: bar.bottom; bottom: parent.bottom }
+                width: wanted ? window.session.selected.previewWidth : 0
+                visible: wanted
+                onWantedChanged: {
+                    if (wanted && status === Loader.Null)
+                        setSource("PreviewPane.qml", { app: window.app, session: window.session })
+                    else if (!wanted && activeFocus)
+                        pages.takeFocus()
+                }
+                Component.onCompleted: wantedChanged() // it may have been there when the window closed
             }
         }
         Hairline {
@@ -159,6 +203,41 @@ Window {
             anchors { left: parent.left; right: parent.right; top: strip.bottom; bottom: parent.bottom }
             onWantedChanged: showPanel()
             Component.onCompleted: showPanel() // it may have been asked for before the window was there
+        }
+        // So do the footprints.
+        Loader {
+            id: footprints
+
+            readonly property bool wanted: window.session.isHistoryOpen
+
+            function showPanel(): void {
+                if (wanted && status === Loader.Null)
+                    setSource("FootprintsPanel.qml", { app: window.app, session: window.session })
+            }
+
+            anchors { left: parent.left; right: parent.right; top: strip.bottom; bottom: parent.bottom }
+            onWantedChanged: showPanel()
+            Component.onCompleted: showPanel()
+        }
+        // Over panels, too, and in the window that is worked in.
+        Column {
+            anchors { left: sidebar.right; right: parent.right; top: strip.bottom; topMargin: Theme.space1_5 }
+            visible: window.active
+            spacing: Theme.space1
+            move: Transition {
+                NumberAnimation { property: "y"; duration: Theme.durationHover }
+            }
+
+            UndoToast {
+                anchors.horizontalCenter: parent.horizontalCenter
+                kept: window.app.wishlist
+                listName: qsTranslate("Loomstreet", "Wishlist")
+            }
+            UndoToast {
+                anchors.horizontalCenter: parent.horizontalCenter
+                kept: window.app.recentlyViewed
+                listName: qsTranslate("Loomstreet", "Recently viewed")
+            }
         }
         Loader {
             id: lightbox

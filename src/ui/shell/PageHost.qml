@@ -12,12 +12,13 @@ FocusScope {
     required property AppModel app
     required property WindowSession session
     required property Router router
+    required property int pageID
     required property int depth
+    required property var entry // what the router says of the page
     property bool isOnTop: false
     property bool tabSelected: false
     property bool near: true
 
-    readonly property var entry: router ? router.page(depth) : null // the router may go first
     readonly property bool shown: isOnTop && tabSelected
     readonly property PageBase page: loader.item as PageBase
     readonly property bool settled: page?.settled ?? false
@@ -41,8 +42,14 @@ FocusScope {
         switch (entry.kind) {
         case PageKind.Explore: return app.makeDepartment(host, "")
         case PageKind.Department: return app.makeDepartment(host, entry.handle)
+        case PageKind.Brands: return app.makeBrands(host)
         case PageKind.Collection: return app.makeCollection(host, entry.handle, entry.title)
+        case PageKind.Search: return app.makeSearch(host, entry.handle)
         case PageKind.Product: return app.makeProduct(host, entry.handle, entry.item)
+        case PageKind.Wishlist: return app.makeWishlist(host)
+        case PageKind.RecentlyViewed: return app.makeRecentlyViewed(host)
+        case PageKind.PriceDrops: return app.makePriceDrops(host)
+        case PageKind.Compare: return app.makeCompare(host, entry.handles)
         default: return null
         }
     }
@@ -53,6 +60,12 @@ FocusScope {
         case PageKind.Collection: return "CollectionPage"
         case PageKind.Product: return "ProductPage"
         case PageKind.Cart: return "CartPage"
+        case PageKind.Search: return "SearchPage"
+        case PageKind.Brands: return "BrandsPage"
+        case PageKind.Wishlist: return "WishlistPage"
+        case PageKind.RecentlyViewed: return "RecentlyViewedPage"
+        case PageKind.PriceDrops: return "PriceDropsPage"
+        case PageKind.Compare: return "ComparePage"
         case PageKind.StorePage: return "StorePage"
         default: return "UnknownPage"
         }
@@ -83,7 +96,7 @@ FocusScope {
         app: host.app
         session: host.session
         router: host.router
-        depth: host.depth
+        pageID: host.pageID
         entry: host.entry
         shown: host.shown
     }
@@ -103,7 +116,7 @@ FocusScope {
                 source = ""
         }
         onLoaded: {
-            const place = host.router.scrollPosition(host.depth)
+            const place = host.router.scrollPosition(host.pageID)
             if (place > 0)
                 host.page.scrollTo(place)
             if (host.shown && host.activeFocus)
@@ -112,7 +125,7 @@ FocusScope {
     }
     Connections {
         target: host.page
-        function onScrollYChanged(): void { host.router.setScrollPosition(host.depth, host.page.scrollY) }
+        function onScrollYChanged(): void { host.router.setScrollPosition(host.pageID, host.page.scrollY) }
     }
 
     Connections {

@@ -10,7 +10,9 @@ Pressable {
     required property Router router
     required property int index
     property WindowSession session
+    property ListView row
 
+    readonly property bool pinned: router?.isPinned ?? false
     readonly property bool selected: session.selectedIndex === index
     readonly property bool roomy: width >= 120
 
@@ -21,12 +23,25 @@ Pressable {
     topPadding: Theme.layoutTabStrip - 34
     onClicked: session.selectTab(index)
 
+    // While it is carried it lies over the others.
+    z: drag.active ? 1 : 0
+    opacity: drag.isTearing ? 0.6 : 1
+    transform: Translate { x: drag.offset }
+
     Keys.onDeletePressed: session.closeTab(index)
     Keys.onMenuPressed: menu.popup()
 
     Accessible.role: Accessible.PageTab
     Accessible.selected: selected
 
+    TabDrag {
+        id: drag
+
+        tab: tab
+        index: tab.index
+        session: tab.session
+        row: tab.row
+    }
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.MiddleButton | Qt.RightButton
@@ -47,6 +62,7 @@ Pressable {
             color: tab.selected ? Theme.ink : Theme.muted
         }
         TextLabel {
+            visible: !tab.pinned
             anchors { left: symbol.right; leftMargin: Theme.space1; right: close.left; rightMargin: Theme.spaceHalf; verticalCenter: parent.verticalCenter }
             text: tab.text
             type: Theme.type.label
@@ -58,7 +74,7 @@ Pressable {
 
             objectName: "close"
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-            visible: !(tab.router?.isPinned ?? false) && (tab.selected || tab.roomy)
+            visible: !tab.pinned && (tab.selected || tab.roomy)
             extent: 28
             iconName: "xmark"
             iconSize: 16
@@ -99,7 +115,7 @@ Pressable {
 
         function popup(): void {
             if (status === Loader.Null)
-                setSource("TabMenu.qml", { session: tab.session, index: Qt.binding(() => tab.index) })
+                setSource("TabMenu.qml", { session: tab.session, index: Qt.binding(() => tab.index), isPinned: Qt.binding(() => tab.pinned) })
             made.popup()
         }
     }

@@ -15,11 +15,12 @@ Item {
     property bool begun: false
     property bool entered: false
 
-    // The first page there is takes the focus that waits for it.
+    // The first page there is takes the focus that waits for it, unless a search has been begun meanwhile.
     onCurrentChanged: {
         if (current && !entered) {
             entered = true
-            takeFocus()
+            if (!(Window.activeFocusItem instanceof TextInput))
+                takeFocus()
         }
     }
 

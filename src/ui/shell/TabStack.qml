@@ -1,9 +1,8 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQml.Models
 import Loomstreet.Model
 
-// The pages of one tab, the section's root at the bottom. It follows what the router says and decides nothing.
+// The pages of one tab, as the router says; one of them is on top. Those that the shopper was on stay as they were.
 Item {
     id: stack
 
@@ -12,59 +11,42 @@ Item {
     required property Router router
     property bool selected: false
 
-    // Pages further below than this are put away, keeping their models and places.
-    readonly property int aliveDepth: 4
-    readonly property PageHost topPage: repeater.count > 0 ? repeater.itemAt(entries.count - 1) as PageHost : null
+    // Pages further away than this from the one on top are put away, keeping their models and places.
+    readonly property int aliveBehind: 3
+    readonly property int aliveAhead: 1
+    readonly property NavigationPath path: router?.navigationPath ?? null // the router may go first
+    readonly property PageHost topPage: path && repeater.count > path.top ? repeater.itemAt(path.top) as PageHost : null
     readonly property bool settled: topPage?.settled ?? false
 
     function takeFocus(): void {
         if (topPage)
             topPage.takeFocus()
     }
-    function rebuild(): void {
-        entries.clear()
-        for (let depth = 0; depth <= router.depth; ++depth)
-            entries.append({ depth: depth })
-    }
 
-    Component.onCompleted: rebuild()
     onSelectedChanged: if (selected) takeFocus()
-
-    ListModel { id: entries }
 
     Connections {
         target: stack.router
-        function onReset(): void {
-            stack.rebuild()
-            stack.takeFocus()
-        }
-        function onPushed(depth: int): void {
-            entries.append({ depth: depth })
-            stack.takeFocus()
-        }
-        function onPopped(depth: int): void {
-            entries.remove(depth + 1, entries.count - depth - 1)
-            stack.takeFocus()
-        }
-        function onReplaced(depth: int): void {
-            entries.remove(depth, 1)
-            entries.append({ depth: depth })
-            stack.takeFocus()
+        function onTopChanged(): void {
+            if (stack.selected)
+                stack.takeFocus()
         }
     }
     Repeater {
         id: repeater
 
-        model: entries
+        model: stack.path
 
         PageHost {
+            required property int index
+
             anchors.fill: parent
             app: stack.app
             session: stack.session
             router: stack.router
-            isOnTop: depth === entries.count - 1
+            isOnTop: index === stack.path?.top
             tabSelected: stack.selected
-            near: depth > entries.count - 1 - stack.aliveDepth
+            near: stack.path ? index >= stack.path.top - stack.aliveBehind && index <= stack.path.top + stack.aliveAhead : false
         }
     }
 }

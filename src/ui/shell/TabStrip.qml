@@ -16,9 +16,13 @@ Rectangle {
     readonly property int start: collapsed ? Theme.layoutSidebarRail : Theme.layoutSidebarRegular
     // What the tabs may take; behind them the strip can be taken hold of.
     readonly property int room: width - start - newTab.width - (buttons.visible ? buttons.width + Theme.space1 : 0) - Theme.space6
+    readonly property int pinnedWidth: 40
+    readonly property int pinnedCount: session.pinnedCount
     readonly property int tabWidth: {
-        return Math.max(96, Math.min(196, Math.floor(room / Math.max(1, session.tabs.count))))
+        const others = Math.max(1, session.tabs.count - pinnedCount)
+        return Math.max(96, Math.min(196, Math.floor((room - pinnedCount * pinnedWidth) / others)))
     }
+    readonly property int tabsWidth: pinnedCount * pinnedWidth + (session.tabs.count - pinnedCount) * tabWidth
 
     implicitHeight: Theme.layoutTabStrip
     color: Theme.frame
@@ -62,9 +66,9 @@ Rectangle {
             top: parent.top
             bottom: parent.bottom
         }
-        width: Math.min(strip.tabWidth * count, strip.room)
+        width: Math.min(strip.tabsWidth, strip.room)
         orientation: ListView.Horizontal
-        interactive: strip.tabWidth * count > width
+        interactive: strip.tabsWidth > width
         boundsBehavior: Flickable.StopAtBounds
         clip: interactive
         currentIndex: strip.session.selectedIndex
@@ -74,10 +78,15 @@ Rectangle {
         Accessible.role: Accessible.PageTabList
         Accessible.name: qsTranslate("Loomstreet", "Tabs")
 
+        moveDisplaced: Transition {
+            NumberAnimation { property: "x"; duration: Theme.durationTab }
+        }
+
         delegate: TabItem {
-            width: strip.tabWidth
+            width: pinned ? strip.pinnedWidth : strip.tabWidth
             height: row.height
             session: strip.session
+            row: row
         }
     }
     IconButton {

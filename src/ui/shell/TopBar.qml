@@ -16,29 +16,27 @@ Item {
 
     signal pageWanted()
 
-    // A link opens what it means; anything else is searched for.
-    function go(): void {
-        const text = search.text.trim()
-        search.text = ""
-        if (text === "")
-            return
-        const isLink = /^[a-z][a-z0-9+.-]*:\/\//i.test(text) || text.startsWith("/")
-        if (!isLink || !router.openLink(text))
-            router.openSearch(text)
-        bar.pageWanted()
-    }
+    // A key that was pressed where nothing takes text begins a search.
+    function takeKey(text: string): void { search.takeKey(text) }
 
     implicitHeight: Theme.layoutTopBar
 
+    // A window that is only coming forward would give the focus to its page afterwards.
+    readonly property bool windowActive: Window.active
+
+    function focusSearch(): void {
+        if (!session.pendingSearchFocus || !windowActive)
+            return
+        session.pendingSearchFocus = false
+        search.input.forceActiveFocus(Qt.ShortcutFocusReason)
+        search.input.selectAll()
+    }
+
+    onWindowActiveChanged: focusSearch()
+
     Connections {
         target: bar.session
-        function onPendingSearchFocusChanged(): void {
-            if (!bar.session.pendingSearchFocus)
-                return
-            bar.session.pendingSearchFocus = false
-            search.input.forceActiveFocus(Qt.ShortcutFocusReason)
-            search.input.selectAll()
-        }
+        function onPendingSearchFocusChanged(): void { bar.focusSearch() }
     }
     Row {
         id: buttons
@@ -46,21 +44,20 @@ Item {
         anchors { left: parent.left; leftMargin: bar.narrow ? Theme.space2 : Theme.space2 + 4; verticalCenter: parent.verticalCenter }
         spacing: Theme.spaceHalf
 
-        IconButton {
+        HistoryButton {
             objectName: "nav.back"
-            enabled: bar.router ? bar.router.canGoBack : false
+            router: bar.router
             iconName: "chevron.left"
             text: qsTranslate("Loomstreet", "Back")
             shortcut: "Alt Left"
-            onClicked: bar.router.back()
         }
-        IconButton {
+        HistoryButton {
             objectName: "nav.forward"
-            enabled: bar.router ? bar.router.canGoForward : false
+            router: bar.router
+            forward: true
             iconName: "chevron.right"
             text: qsTranslate("Loomstreet", "Forward")
             shortcut: "Alt Right"
-            onClicked: bar.router.forward()
         }
         IconButton {
             objectName: "reload"
@@ -71,19 +68,15 @@ Item {
             onClicked: bar.router.reload()
         }
     }
-    SearchField {
+    SearchBar {
         id: search
 
-        objectName: "search"
         anchors { left: buttons.right; leftMargin: Theme.space3; verticalCenter: parent.verticalCenter }
         width: Math.min(560, bar.width - buttons.width - buttons.anchors.leftMargin - end.width - end.anchors.rightMargin - Theme.space3 - Theme.space2)
-        placeholderText: qsTranslate("Loomstreet", "Search, or paste a link")
+        app: bar.app
+        session: bar.session
         shortcut: bar.narrow ? "" : "Ctrl K"
-        onAccepted: bar.go()
-        Keys.onEscapePressed: {
-            text = ""
-            bar.pageWanted()
-        }
+        onFinished: bar.pageWanted()
 
         resting: Breadcrumb {
             anchors.left: parent.left
@@ -97,24 +90,20 @@ Item {
         anchors { right: parent.right; rightMargin: Theme.space2; verticalCenter: parent.verticalCenter }
         spacing: Theme.space1
 
-        Row {
+        MarketButton {
             anchors.verticalCenter: parent.verticalCenter
-            spacing: Theme.space1
-
-            Icon {
-                anchors.verticalCenter: parent.verticalCenter
-                name: "globe"
-                color: Theme.muted
-            }
-            TextLabel {
-                objectName: "market"
-                anchors.verticalCenter: parent.verticalCenter
-                text: {
-                    const parts = [bar.narrow ? "" : bar.app.market.countryName, bar.app.market.currency]
-                    return parts.filter(part => part !== "").join(" · ")
-                }
-                type: Theme.type.label
-            }
+            app: bar.app
+            narrow: bar.narrow
+        }
+        IconButton {
+            objectName: "footprints"
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !bar.narrow
+            iconName: "footprints"
+            on: bar.session.isHistoryOpen
+            text: qsTranslate("Loomstreet", "Footprints")
+            shortcut: "Ctrl H"
+            onClicked: bar.session.isHistoryOpen = !bar.session.isHistoryOpen
         }
         IconButton {
             objectName: "bag"
@@ -158,5 +147,52 @@ Item {
     }
     Hairline {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+    }    // Below the bar the page steps back while there are suggestions, and a press on it closes them.
+    MouseArea {
+        anchors { left: parent.left; right: parent.right; top: parent.bottom }
+        height: (bar.parent?.height ?? 0) - bar.height
+        visible: search.suggesting
+        acceptedButtons: Qt.AllButtons
+        hoverEnabled: true
+        onPressed: {
+            search.dismissed = true
+            bar.pageWanted()
+        }
+        onWheel: wheel => { wheel.accepted = true }
+
+        Rectangle {
+            anchors.fill: parent
+            color: Theme.scrim
+            opacity: Theme.alphaScrimPanel
+        }
+    }
+    Loader {
+        id: suggestions
+
+        readonly property bool wanted: search.suggesting
+        readonly property var made: item
+        readonly property bool wide: (made?.wantedWidth ?? 0) > 600
+
+        anchors { left: bar.narrow && wide ? parent.left : search.left; leftMargin: bar.narrow && wide ? Theme.space2 : 0; top: search.bottom; topMargin: 6 }
+        width: {
+            const before = bar.narrow && wide ? Theme.space2 : search.anchors.leftMargin + buttons.width + buttons.anchors.leftMargin
+            return Math.min(Math.max(made?.wantedWidth ?? 760, wide ? 0 : search.width), bar.width - before - Theme.space2)
+        }
+        visible: wanted
+        onWantedChanged: {
+            if (wanted && status === Loader.Null)
+                setSource("SuggestionPanel.qml", { suggestions: search.suggestions })
+        }
+
+        Binding {
+            target: suggestions.item
+            property: "availableHeight"
+            value: (bar.parent?.height ?? 0) - bar.height
+        }
+        Connections {
+            target: suggestions.item
+            function onOpened(section: int, key: string, text: string, inNewTab: bool): void { search.open(section, key, text, inNewTab) }
+            function onSearchByImageAsked(): void { search.searchByImage() }
+        }
     }
 }

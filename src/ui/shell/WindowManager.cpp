@@ -4,6 +4,7 @@
 #include "app/SystemAppearance.h"
 #include "base/Log.h"
 
+#include <QCoreApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
@@ -32,15 +33,6 @@ QQuickWindow* createWindow(QQmlEngine& engine, const QString& type, const QVaria
     return window;
 }
 
-void bringForward(QWindow* window)
-{
-    // Out of the dock, but maximised or on the full screen if it was.
-    window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
-    window->setVisible(true);
-    window->raise();
-    window->requestActivate();
-}
-
 void applyStyle(QQuickWindow* window)
 {
     if (window)
@@ -62,6 +54,9 @@ WindowManager::~WindowManager()
     delete m_settings;
     qDeleteAll(m_checkouts);
     qDeleteAll(m_windows);
+    // The pages that lists let go of are to be deleted later, and this is the last moment at which what they show is
+    // still there.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 QQuickWindow* WindowManager::create(const QString& type, QVariantMap properties)
@@ -90,8 +85,20 @@ void WindowManager::show(WindowSession& session)
         window, &QQuickWindow::frameSwapped, window, [window] { window->setProperty("wasSeen", true); },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     // The window goes before its session does: its pages hold on to the session's tabs.
-    connect(&session, &QObject::destroyed, window, [this, key = &session] { delete m_windows.take(key); });
+    connect(&session, &WindowSession::ending, window, [this, key = &session] { delete m_windows.take(key); });
     bringForward(window);
+}
+
+void WindowManager::bringForward(QWindow* window) const
+{
+    // Out of the dock, but maximised or on the full screen if it was.
+    window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
+    window->setVisible(true);
+    window->raise();
+    if (m_activate)
+        m_activate(*window);
+    else
+        window->requestActivate();
 }
 
 void WindowManager::raise(WindowSession& session)

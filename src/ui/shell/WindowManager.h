@@ -6,11 +6,13 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
 class QQmlComponent;
 class QQmlEngine;
 class QQuickWindow;
+class QWindow;
 
 namespace loom
 {
@@ -34,6 +36,9 @@ public:
     [[nodiscard]] bool hasVisibleWindow() const override;
     void applyWindowStyle() override;
 
+    /// How windows ask to come to the front, where the desktop wants to know more than that they do.
+    void setActivate(std::function<void(QWindow& window)> activate) { m_activate = std::move(activate); }
+
     /// The window of a session; null when it has none.
     [[nodiscard]] QQuickWindow* windowOf(const WindowSession& session) const;
 
@@ -47,10 +52,12 @@ public:
 
 private:
     [[nodiscard]] QQuickWindow* create(const QString& type, QVariantMap properties);
+    void bringForward(QWindow* window) const;
 
     QQmlEngine& m_engine;
     AppModel& m_model;
     SystemAppearance& m_appearance;
+    std::function<void(QWindow& window)> m_activate;
     QHash<const WindowSession*, QPointer<QQuickWindow>> m_windows;
     QHash<const CheckoutModel*, QPointer<QQuickWindow>> m_checkouts;
     QPointer<QQuickWindow> m_settings;

@@ -78,6 +78,11 @@ void Sandbox::setStock(const QString& variantID, int stock)
     tell(QStringLiteral("/stock"), {{QStringLiteral("variant"), variantID}, {QStringLiteral("stock"), stock}});
 }
 
+void Sandbox::setPrice(const QString& handle, double price)
+{
+    tell(QStringLiteral("/price"), {{QStringLiteral("piece"), handle}, {QStringLiteral("price"), price}});
+}
+
 QJsonArray Sandbox::orders()
 {
     return ask("GET", QStringLiteral("/orders")).array();
@@ -86,6 +91,11 @@ QJsonArray Sandbox::orders()
 QJsonArray Sandbox::carts()
 {
     return ask("GET", QStringLiteral("/carts")).array();
+}
+
+QJsonArray Sandbox::wishlists()
+{
+    return ask("GET", QStringLiteral("/wishlist")).array();
 }
 
 QJsonArray Sandbox::requests()

@@ -43,8 +43,12 @@ public:
     /// Every cart is paid for, somewhere else.
     void completeCarts();
     void setStock(const QString& variantID, int stock);
+    /// What a piece costs from now on, in US dollars.
+    void setPrice(const QString& handle, double price);
     [[nodiscard]] QJsonArray orders();
     [[nodiscard]] QJsonArray carts();
+    /// The summaries of the wishlist that it was told, oldest first.
+    [[nodiscard]] QJsonArray wishlists();
 
     /// What was asked since the last reset, oldest first.
     [[nodiscard]] QJsonArray requests();

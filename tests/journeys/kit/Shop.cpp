@@ -41,13 +41,14 @@ WindowDriver awaitWindow(const QString& name, const std::string& what)
 } // namespace
 
 Shop::Shop(const Sandbox& sandbox, const Circumstances& circumstances)
-    : m_pictures(m_folder.filePath(QStringLiteral("pictures")))
+    : m_dataFolder((circumstances.folder.isEmpty() ? m_folder.path() : circumstances.folder) + QStringLiteral("/data"))
+    , m_pictures(m_folder.filePath(QStringLiteral("pictures")))
     , m_model(sandbox.config(),
               {.clock = circumstances.clock ? *circumstances.clock : m_systemClock,
                .random = m_random,
                .network = m_network,
                .features = m_features,
-               .dataFolder = m_folder.filePath(QStringLiteral("data")),
+               .dataFolder = m_dataFolder,
                .locale = {.language = QStringLiteral("en"), .script = {}, .region = circumstances.region},
                .openExternally = [this](const QUrl& url) { m_openedInBrowser.append(url); },
                .heldKeys =
@@ -74,6 +75,15 @@ WindowDriver Shop::openWindow(const std::optional<QString>& link)
     QQuickWindow* const window = m_windows.windowOf(m_model.openWindow({.link = link}));
     if (!window)
         throw std::runtime_error("no window was made");
+    awaitWindow(*window);
+    return WindowDriver(window);
+}
+
+WindowDriver Shop::restoreWindows()
+{
+    if (!m_model.restoreWindows())
+        throw std::runtime_error("no window was open");
+    QQuickWindow* const window = m_windows.windowOf(*m_model.keySession());
     awaitWindow(*window);
     return WindowDriver(window);
 }

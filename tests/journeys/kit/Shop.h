@@ -47,6 +47,7 @@ private:
 struct Circumstances {
     Clock* clock = nullptr; ///< the system's, unless a test moves one
     QString region = QStringLiteral("US");
+    QString folder; ///< where its files are, to come back to them; else in one of its own
 };
 
 /// The application in this process, put together as its own main() does, on a sandbox store and with files of its
@@ -59,6 +60,8 @@ public:
 
     /// Opens a window, with the page of a link, and waits until it has the keyboard.
     WindowDriver openWindow(const std::optional<QString>& link = {});
+    /// Opens the windows that were open last, and waits until the one in front has the keyboard.
+    WindowDriver restoreWindows();
     /// The window of the settings, once it can be seen.
     WindowDriver settingsWindow();
     /// The window of the checkout, once it can be seen.
@@ -81,6 +84,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    QString m_dataFolder;
     SystemClock m_systemClock;
     FakeRandom m_random;
     FakeNetworkStatus m_network;

@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QtTest>
+#include <private/qquickitem_p.h>
 #include <qpa/qwindowsysteminterface.h>
 
 #include <memory>
@@ -31,6 +32,14 @@ bool walk(const QQuickItem& item, const std::function<bool(QQuickItem&)>& look)
             return true;
     }
     return false;
+}
+
+/// A view keeps the rows that it has no use for now, where they were.
+bool isPutAway(const QQuickItem* item)
+{
+    while (item && !QQuickItemPrivate::get(item)->culled)
+        item = item->parentItem();
+    return item != nullptr;
 }
 
 /// "main" in "grid": what was looked for, in words.
@@ -80,6 +89,17 @@ QList<QQuickItem*> WindowDriver::findAll(const QString& namePrefix, const QQuick
         if (item.objectName().startsWith(namePrefix))
             found.append(&item);
         return false;
+    });
+    return found;
+}
+
+QList<QQuickItem*> WindowDriver::findInOrder(const QString& namePrefix, const QQuickItem* below) const
+{
+    QList<QQuickItem*> found = findAll(namePrefix, below);
+    found.removeIf(isPutAway);
+    std::ranges::sort(found, {}, [](const QQuickItem* item) {
+        const QPoint place = item->mapToScene({}).toPoint();
+        return std::pair(place.y(), place.x());
     });
     return found;
 }

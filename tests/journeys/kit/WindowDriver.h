@@ -27,7 +27,9 @@ public:
     [[nodiscard]] QQuickItem* find(const QString& name, const QQuickItem* below = nullptr) const;
     /// All items that can be seen whose object names begin so.
     [[nodiscard]] QList<QQuickItem*> findAll(const QString& namePrefix, const QQuickItem* below = nullptr) const;
-    /// The same, waited for.
+    /// Those of them that are on the screen, as one reads them: from top to bottom, and in a row from left to right.
+    [[nodiscard]] QList<QQuickItem*> findInOrder(const QString& namePrefix, const QQuickItem* below = nullptr) const;
+    /// The first of that object name, waited for.
     QQuickItem* await(const QString& name, const QQuickItem* below = nullptr) const;
     void awaitGone(const QString& name, const QQuickItem* below = nullptr) const;
 

@@ -241,7 +241,7 @@ TEST_F(PagesTest, ReviewsComeInTensAndNoneIsMadeTwice)
 
 TEST_F(PagesTest, TheOrderThatIsChosenAgainKeepsItsMark)
 {
-    show("CollectionHeader { property QtObject model; collection: model }", &collection);
+    show("SortButton { property QtObject model; listing: model }", &collection);
     QObject* menu = nullptr;
     for (QObject* const child : one("sort")->findChildren<QObject*>()) {
         if (child->inherits("QQuickMenu"))

@@ -152,10 +152,10 @@ TEST_F(WindowManagerTest, APageIsRefreshedInItsPlace)
     const auto times = [this] {
         return asked.filter(QStringLiteral("CollectionProducts new-in")).size();
     };
-    waitUntil([&] { return window.property("settled").toBool() && clock.sleepers() == 0; }, "the page is there");
+    waitUntil([&] { return window.property("settled").toBool() && clock.sleepers() <= 1; }, "the page is there");
     const qsizetype before = times();
     model->keySession()->selected()->softReload();
-    waitUntil([&] { return times() == before + 1 && clock.sleepers() == 0; }, "the page asks again");
+    waitUntil([&] { return times() == before + 1 && clock.sleepers() <= 1; }, "the page asks again");
 }
 
 } // namespace

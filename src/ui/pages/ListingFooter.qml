@@ -3,27 +3,29 @@ import Loomstreet.Components
 import Loomstreet.Model
 import Loomstreet.Theme
 
-// The end of a collection's list: more on its way, more that did not come, or no more.
+// The end of a list: more on its way, more that did not come, or no more.
 Item {
     id: footer
 
-    property CollectionModel collection
+    property ProductListing listing
+
+    signal focusFreed()
 
     implicitHeight: 80
 
     Spinner {
         anchors.centerIn: parent
-        visible: footer.collection?.isLoadingMore ?? false
+        visible: footer.listing?.isLoadingMore ?? false
         running: visible
     }
     Column {
         anchors.centerIn: parent
-        visible: footer.collection?.hasLoadMoreFailed ?? false
+        visible: footer.listing?.hasLoadMoreFailed ?? false
         spacing: Theme.space1
 
         TextLabel {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: footer.collection?.loadMoreErrorText ?? ""
+            text: footer.listing?.loadMoreErrorText ?? ""
             type: Theme.type.small
             color: Theme.muted
         }
@@ -32,14 +34,17 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             size: "small"
             text: qsTranslate("Loomstreet", "Try again")
-            onClicked: footer.collection.loadMore()
+            onClicked: {
+                footer.focusFreed()
+                footer.listing.loadMore()
+            }
         }
     }
     TextLabel {
         objectName: "end"
         anchors.centerIn: parent
-        visible: footer.collection ? !footer.collection.hasNextPage && !footer.collection.isLoadingMore : false
-        text: qsTranslate("Loomstreet", "You've seen all ") + (footer.collection ? footer.collection.products.count : "")
+        visible: footer.listing ? !footer.listing.hasNextPage && !footer.listing.isLoadingMore : false
+        text: qsTranslate("Loomstreet", "You've seen all ") + (footer.listing ? footer.listing.products.count : "")
         type: Theme.type.small
         figures: true
         color: Theme.muted
