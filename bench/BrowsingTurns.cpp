@@ -1,11 +1,5 @@
 #include "TimedJourney.h"
-#include "kit/Sandbox.h"
 #include "kit/Shop.h"
-#include "platform/LaunchOptions.h"
-#include "ui/shell/ApplicationSetup.h"
-#include "ui/theme/Fonts.h"
-
-#include <QGuiApplication>
 
 using namespace loom;
 
@@ -93,15 +87,5 @@ void browse(TimedJourney& journey, Shop& shop)
 
 int main(int argc, char** argv)
 {
-    prepareApplication(QStringLiteral("com.loomstreet.Loomstreet"));
-    const QGuiApplication application(argc, argv);
-    const Sandbox store;
-    if (!addCertificateAuthority(store.authorityFile()))
-        return 1;
-    registerFonts();
-    Shop shop(store);
-    TimedJourney journey;
-    browse(journey, shop);
-    journey.report();
-    return 0;
+    return runTimed(argc, argv, browse);
 }

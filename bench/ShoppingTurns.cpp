@@ -1,13 +1,7 @@
 #include "TimedJourney.h"
 #include "commerce/CartStore.h"
-#include "kit/Sandbox.h"
 #include "kit/Shop.h"
-#include "platform/LaunchOptions.h"
 #include "support/Running.h"
-#include "ui/shell/ApplicationSetup.h"
-#include "ui/theme/Fonts.h"
-
-#include <QGuiApplication>
 
 using namespace loom;
 
@@ -95,16 +89,8 @@ void changeFullBag(TimedJourney& journey, Shop& shop)
 
 int main(int argc, char** argv)
 {
-    prepareApplication(QStringLiteral("com.loomstreet.Loomstreet"));
-    const QGuiApplication application(argc, argv);
-    const Sandbox store;
-    if (!addCertificateAuthority(store.authorityFile()))
-        return 1;
-    registerFonts();
-    Shop shop(store);
-    TimedJourney journey;
-    buy(journey, shop);
-    changeFullBag(journey, shop);
-    journey.report();
-    return 0;
+    return runTimed(argc, argv, [](TimedJourney& journey, Shop& shop) {
+        buy(journey, shop);
+        changeFullBag(journey, shop);
+    });
 }

@@ -1,5 +1,13 @@
 #include "TimedJourney.h"
 
+#include "kit/Sandbox.h"
+#include "kit/Shop.h"
+#include "platform/LaunchOptions.h"
+#include "ui/shell/ApplicationSetup.h"
+#include "ui/theme/Fonts.h"
+
+#include <QGuiApplication>
+
 #undef signals // a name glib gives to a member
 #include <glib.h>
 
@@ -84,6 +92,21 @@ void TimedJourney::report() const
     for (std::size_t i = 0; i < std::min<std::size_t>(10, rows.size()); ++i)
         std::printf("  %6.1f ms, %6.1f ms of them computing: %s, %.0f ms in\n", rows[i].duration, rows[i].computed,
                     rows[i].step, rows[i].offset);
+}
+
+int runTimed(int argc, char** argv, const std::function<void(TimedJourney& journey, Shop& shop)>& drive)
+{
+    prepareApplication(QStringLiteral("com.loomstreet.Loomstreet"));
+    const QGuiApplication application(argc, argv);
+    const Sandbox store;
+    if (!addCertificateAuthority(store.authorityFile()))
+        return 1;
+    registerFonts();
+    Shop shop(store);
+    TimedJourney journey;
+    drive(journey, shop);
+    journey.report();
+    return 0;
 }
 
 } // namespace loom

@@ -6,10 +6,13 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 
+#include <functional>
 #include <vector>
 
 namespace loom
 {
+
+class Shop;
 
 /// How long this thread has computed, in nanoseconds.
 [[nodiscard]] qint64 computedTime();
@@ -80,5 +83,8 @@ private:
     std::vector<Step> m_steps;
     std::vector<Interval> m_looks;
 };
+
+/// The application on the store that the environment names, timed while `drive` works it. What main() returns.
+[[nodiscard]] int runTimed(int argc, char** argv, const std::function<void(TimedJourney& journey, Shop& shop)>& drive);
 
 } // namespace loom

@@ -64,10 +64,8 @@ void AppLifecycle::handleReopen()
 
 void AppLifecycle::openFirstWindow(const WindowSeed& seed)
 {
-    if (!m_model.restoreWindows())
+    if (!m_model.restoreWindows(seed.link))
         m_model.openWindow(seed);
-    else if (seed.link)
-        m_model.keySession()->openLink(*seed.link);
 }
 
 bool AppLifecycle::shouldTerminate()

@@ -141,20 +141,28 @@ QString AppModel::visitorID()
 
 WindowSession& AppModel::openWindow(const WindowSeed& seed)
 {
+    m_begun.clear();
     return show(std::make_unique<WindowSession>(m_services, seed));
 }
 
 WindowSession& AppModel::openSavedWindow(const WindowState& state)
 {
+    m_begun.clear();
     return show(WindowSession::restored(m_services, state));
 }
 
-bool AppModel::restoreWindows()
+bool AppModel::restoreWindows(const std::optional<QString>& link)
 {
     const std::vector<WindowState> windows = m_savedWindows.load();
+    m_begun.clear();
     // The one that was in front comes last, and so to the front.
-    for (const WindowState& window : windows)
-        openSavedWindow(window);
+    for (const WindowState& window : windows) {
+        auto session = WindowSession::restored(m_services, window);
+        // Before anything is asked for: what the link lies in front of need not be loaded.
+        if (link && &window == &windows.back())
+            session->openLink(*link);
+        show(std::move(session));
+    }
     return !windows.empty();
 }
 
@@ -184,7 +192,6 @@ WindowSession& AppModel::show(std::unique_ptr<WindowSession> opened)
 
 void AppModel::beginFirstPage(const WindowSession& session)
 {
-    m_begun.clear();
     const auto begin = [this](const QString& handle, auto* model) {
         m_begun.emplace_back(handle, std::unique_ptr<QObject>(model));
         model->load();

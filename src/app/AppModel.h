@@ -106,8 +106,8 @@ public:
     WindowSession& openWindow(const WindowSeed& seed);
     /// As it was saved; `state` has a tab at least.
     WindowSession& openSavedWindow(const WindowState& state);
-    /// Opens what was open last. False where there was nothing.
-    bool restoreWindows();
+    /// Opens what was open last, with a link in front of it, if there is one. False where there was nothing.
+    bool restoreWindows(const std::optional<QString>& link = {});
     /// What is open now is what the next start opens; nothing that closes from here on counts.
     void saveWindowsForNextStart() { m_savedWindows.saveAndEnd(); }
     /// The session's window is gone.

@@ -26,9 +26,12 @@ constexpr qsizetype longestMenu = 15;
 constexpr std::size_t livePagesBehind = 16;
 constexpr std::size_t livePagesAhead = 8;
 
+constexpr double leastPreviewWidth = 420;
+constexpr double greatestPreviewWidth = 640;
+
 double previewWidthFor(double stored)
 {
-    return stored > 0 ? std::clamp(stored, 420.0, 640.0) : 480.0;
+    return stored > 0 ? std::clamp(stored, leastPreviewWidth, greatestPreviewWidth) : 480.0;
 }
 
 std::optional<ProductListItem> cardIn(const QVariant& item)
@@ -218,7 +221,7 @@ void Router::openPreviewInNewTab()
 
 void Router::setPreviewWidth(double width)
 {
-    const double clamped = previewWidthFor(width);
+    const double clamped = std::clamp(width, leastPreviewWidth, greatestPreviewWidth);
     if (qFuzzyCompare(std::exchange(m_previewWidth, clamped), clamped))
         return;
     m_services.preferences.set(preferences::splitPreviewWidth, clamped);

@@ -25,10 +25,18 @@ std::unique_ptr<WindowSession> WindowSession::restored(const WindowServices& ser
 {
     auto session = std::make_unique<WindowSession>(
         services, WindowSeed{.link = {}, .section = state.tabs.front().section.selection});
+    const Router* selected = session->m_tabs.at(0);
     session->m_tabs.at(0)->restore(state.tabs.front());
-    for (std::size_t i = 1; i < state.tabs.size(); ++i)
-        session->openTab(state.tabs[i].section.selection, TabActivation::Background)->restore(state.tabs[i]);
-    session->selectTab(state.selectedIndex);
+    for (std::size_t i = 1; i < state.tabs.size(); ++i) {
+        const TabState& saved = state.tabs[i];
+        // Where they stand in the file is not for sure: pinned ones come first.
+        Router* const tab = session->insertTab(saved.isPinned ? session->pinnedCount() : session->m_tabs.count(),
+                                               saved.section.selection, TabActivation::Background);
+        tab->restore(saved);
+        if (static_cast<int>(i) == state.selectedIndex)
+            selected = tab;
+    }
+    session->select(selected->id());
     session->m_isSidebarCollapsed = state.isSidebarCollapsed;
     session->m_windowSize = state.size;
     session->m_isWindowMaximized = state.isMaximized;
@@ -71,8 +79,8 @@ Router* WindowSession::insertTab(int index, SidebarItem section, TabActivation a
 
 void WindowSession::watch(const Router& tab)
 {
-    for (const auto signal :
-         {&Router::isPinnedChanged, &Router::titleChanged, &Router::previewChanged, &Router::scrollPositionChanged})
+    for (const auto signal : {&Router::isPinnedChanged, &Router::stackChanged, &Router::titleChanged,
+                              &Router::previewChanged, &Router::scrollPositionChanged})
         connect(&tab, signal, this, &WindowSession::stateChanged);
     connect(&tab, &Router::previewChanged, this, &WindowSession::previewShownChanged);
 }
@@ -103,7 +111,7 @@ void WindowSession::newTab()
 void WindowSession::newTabToTheRight(int index)
 {
     if (m_tabs.at(index))
-        insertTab(index + 1, SidebarItem::Home, TabActivation::Activate);
+        insertTab(std::max(index + 1, pinnedCount()), SidebarItem::Home, TabActivation::Activate);
 }
 
 void WindowSession::selectTab(int index)

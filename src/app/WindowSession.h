@@ -70,7 +70,7 @@ public:
     /// Opens a link from outside: a page in a tab of its own; what is no page, such as the cart's panel, needs none.
     void openLink(const QString& link);
     Q_INVOKABLE void newTab();
-    /// Opens a tab directly to the right of the one with this number.
+    /// Opens a tab directly to the right of the one with this number, or of the pinned ones if that is one of them.
     Q_INVOKABLE void newTabToTheRight(int index);
     Q_INVOKABLE void selectTab(int index);
     /// The most recently used tab comes to the front. Closing the last one asks for the window to be closed.

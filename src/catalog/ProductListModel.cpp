@@ -121,6 +121,26 @@ QVariant ProductListModel::data(const QModelIndex& index, int role) const
         return {};
     const ProductListItem& item = m_items[static_cast<std::size_t>(index.row())];
     switch (role) {
+    case PriceRole:
+        return m_money.text(item.price);
+    case FormerPriceRole: {
+        const auto former = formerPrice(item.price, item.compareAtPrice);
+        return former ? m_money.text(*former) : QString();
+    }
+    case LabelRole:
+        return pictureLabel(item, m_clock.now());
+    case SoldOutRole:
+        return item.availableForSale == false;
+    case ReasonRole:
+        return item.recoReason.value_or(QString());
+    default:
+        return fact(item, role);
+    }
+}
+
+QVariant ProductListModel::fact(const ProductListItem& item, int role)
+{
+    switch (role) {
     case ItemRole:
         return QVariant::fromValue(item);
     case HandleRole:
@@ -129,28 +149,16 @@ QVariant ProductListModel::data(const QModelIndex& index, int role) const
         return item.title;
     case DesignerRole:
         return item.vendor;
-    case PriceRole:
-        return m_money.text(item.price);
-    case FormerPriceRole: {
-        const auto former = formerPrice(item.price, item.compareAtPrice);
-        return former ? m_money.text(*former) : QString();
-    }
     case PicturesRole:
         return cardPictures(item);
     case ColourPicturesRole:
         return colourPictures(item);
-    case LabelRole:
-        return pictureLabel(item, m_clock.now());
-    case SoldOutRole:
-        return item.availableForSale == false;
-    case ReasonRole:
-        return item.recoReason.value_or(QString());
     default:
         return {};
     }
 }
 
-QHash<int, QByteArray> ProductListModel::roleNames() const
+QHash<int, QByteArray> ProductListModel::names()
 {
     return {{ItemRole, "item"},         {HandleRole, "handle"},
             {TitleRole, "title"},       {DesignerRole, "designer"},

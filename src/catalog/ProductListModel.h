@@ -45,7 +45,12 @@ public:
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override { return names(); }
+
+    /// The names of the roles.
+    [[nodiscard]] static QHash<int, QByteArray> names();
+    /// What a role tells of a piece wherever it is shown; nothing for roles that depend on the market or the moment.
+    [[nodiscard]] static QVariant fact(const ProductListItem& item, int role);
 
 Q_SIGNALS:
     void countChanged();

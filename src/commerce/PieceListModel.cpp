@@ -2,7 +2,6 @@
 
 #include "base/Clock.h"
 #include "catalog/MoneyFormat.h"
-#include "catalog/ProductListModel.h"
 
 #include <QCoreApplication>
 
@@ -159,43 +158,28 @@ QVariant PieceListModel::data(const QModelIndex& index, int role) const
         return {};
     const PieceRow& row = m_rows[static_cast<std::size_t>(index.row())];
     switch (role) {
-    case ItemRole:
-        return QVariant::fromValue(row.item);
-    case HandleRole:
-        return row.item.handle;
-    case TitleRole:
-        return row.item.title;
-    case DesignerRole:
-        return row.item.vendor;
-    case PriceRole:
+    case ProductListModel::PriceRole:
         return text(row.price);
-    case FormerPriceRole:
+    case ProductListModel::FormerPriceRole:
         return text(row.former);
-    case PicturesRole:
-        return cardPictures(row.item);
-    case ColourPicturesRole:
-        return colourPictures(row.item);
-    case LabelRole:
+    case ProductListModel::LabelRole:
         return label(row);
-    case SoldOutRole:
+    case ProductListModel::SoldOutRole:
         return row.state == PieceRow::State::Current && row.item.availableForSale == false;
-    case ReasonRole:
+    case ProductListModel::ReasonRole:
         return reason(row);
     case UnavailableRole:
         return row.state == PieceRow::State::Unavailable;
     default:
-        return {};
+        return ProductListModel::fact(row.item, role);
     }
 }
 
 QHash<int, QByteArray> PieceListModel::roleNames() const
 {
-    return {{ItemRole, "item"},         {HandleRole, "handle"},
-            {TitleRole, "title"},       {DesignerRole, "designer"},
-            {PriceRole, "price"},       {FormerPriceRole, "formerPrice"},
-            {PicturesRole, "pictures"}, {ColourPicturesRole, "colourPictures"},
-            {LabelRole, "label"},       {SoldOutRole, "soldOut"},
-            {ReasonRole, "reason"},     {UnavailableRole, "unavailable"}};
+    QHash<int, QByteArray> names = ProductListModel::names();
+    names.insert(UnavailableRole, "unavailable");
+    return names;
 }
 
 } // namespace loom

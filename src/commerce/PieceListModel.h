@@ -1,14 +1,11 @@
 #pragma once
 
-#include "catalog/ProductListItem.h"
+#include "catalog/ProductListModel.h"
 
 #include <QAbstractListModel>
 
 namespace loom
 {
-
-class Clock;
-class MoneyFormat;
 
 /// A piece of a list as its card shows it.
 struct PieceRow {
@@ -34,20 +31,8 @@ class PieceListModel final : public QAbstractListModel
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
-    enum Role {
-        ItemRole = Qt::UserRole + 1,
-        HandleRole,
-        TitleRole,
-        DesignerRole,
-        PriceRole,
-        FormerPriceRole,
-        PicturesRole,
-        ColourPicturesRole,
-        LabelRole,
-        SoldOutRole,
-        ReasonRole,
-        UnavailableRole,
-    };
+    /// Beside those of a list of products.
+    enum Role { UnavailableRole = ProductListModel::ReasonRole + 1 };
     Q_ENUM(Role)
 
     PieceListModel(const MoneyFormat& money, const Clock& clock, QObject* parent = nullptr);

@@ -73,6 +73,7 @@ TEST_F(WindowSessionTest, OfItsTabsTheMostRecentlyUsedComesNext)
 
              Row{"+ + 0 r0", "aDbc", "dacb", 0},
              Row{"+ + r2", "abcD", "dcba", 0},
+             Row{"+ p0 p1 r0", "abC", "cba", 0}, // not among the pinned ones
 
              Row{"+ + m02", "bCa", "cba", 0},
              Row{"+ + m20 m09 m79", "abC", "cba", 0},

@@ -41,10 +41,10 @@ protected:
     {
         QStringList shown;
         for (int i = 0; i < list.count(); ++i)
-            shown.append(list.data(list.index(i), PieceListModel::HandleRole).toString() + QLatin1Char(' ') +
-                         list.data(list.index(i), PieceListModel::PriceRole).toString() + QLatin1Char(' ') +
-                         list.data(list.index(i), PieceListModel::ReasonRole).toString() +
-                         list.data(list.index(i), PieceListModel::LabelRole).toString());
+            shown.append(list.data(list.index(i), ProductListModel::HandleRole).toString() + QLatin1Char(' ') +
+                         list.data(list.index(i), ProductListModel::PriceRole).toString() + QLatin1Char(' ') +
+                         list.data(list.index(i), ProductListModel::ReasonRole).toString() +
+                         list.data(list.index(i), ProductListModel::LabelRole).toString());
         return shown.join(QLatin1Char('\n')).toStdString();
     }
 

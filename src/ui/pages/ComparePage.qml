@@ -23,18 +23,23 @@ PageBase {
     flickable: flick
 
     function takeFocus(): void { flick.forceActiveFocus() }
-    // What had the focus may be gone with its piece, or have become one.
-    function keepFocus(): void {
-        if (Window.activeFocusItem === page)
-            (heads.itemAt(heads.count - 1) ?? flick).forceActiveFocus(Qt.TabFocusReason)
-    }
     function reload(): void { compare.reload() }
 
     Connections {
         target: page.compare
         function onHandlesChanged(): void {
             page.router.setCompared(page.context.pageID, page.compare.handles)
-            Qt.callLater(page.keepFocus)
+            keepingFocus.restart()
+        }
+    }
+    // What had the focus may be gone with its piece, or have become one.
+    Timer {
+        id: keepingFocus
+
+        interval: 0
+        onTriggered: {
+            if (page.Window.activeFocusItem === page)
+                (heads.itemAt(heads.count - 1) ?? flick).forceActiveFocus(Qt.TabFocusReason)
         }
     }
     Flickable {

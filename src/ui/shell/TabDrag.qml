@@ -1,7 +1,8 @@
 import QtQuick
 import Loomstreet.Model
 
-// Carries a tab along its row, past others, and out of it: let go below the strip, it gets a window of its own.
+// Carries a tab along its row, past others, and out of it: let go below the strip, it gets a window of its own. Held at
+// the end of a row that is longer than the strip, it goes on past those that are out of sight.
 DragHandler {
     id: drag
 
@@ -13,10 +14,18 @@ DragHandler {
     // How far below the strip a tab is torn off.
     readonly property int tearDistance: 48
     readonly property bool isTearing: active && session.tabs.count > 1 && Math.abs(activeTranslation.y) > tearDistance
-    // Where the tab was taken, and how far it now lies from its place in the row.
+    // Where in the strip the tab was taken, where it is carried to, and how far that lies from its place in the row.
     property real takenAt: 0
-    readonly property real offset: active && !isTearing ? takenAt + activeTranslation.x - tab.x : 0
+    readonly property real wanted: takenAt + activeTranslation.x
+    readonly property real carriedTo: row.contentX + Math.max(0, Math.min(row.width - tab.width, wanted))
+    readonly property real offset: active && !isTearing ? carriedTo - tab.x : 0
     property bool tears: false
+
+    function moveOver(): void {
+        const over = row.indexAt(carriedTo + tab.width / 2, 1)
+        if (over >= 0 && over !== index)
+            session.moveTab(index, over)
+    }
 
     target: null
     acceptedButtons: Qt.LeftButton
@@ -24,7 +33,7 @@ DragHandler {
 
     onActiveChanged: {
         if (active) {
-            takenAt = tab.x
+            takenAt = tab.x - row.contentX
             session.selectTab(index)
         } else if (tears) {
             tears = false
@@ -35,11 +44,17 @@ DragHandler {
         if (!active)
             return
         tears = isTearing
-        if (isTearing)
-            return
-        const middle = takenAt + activeTranslation.x + tab.width / 2
-        const over = row.indexAt(Math.max(0, Math.min(row.contentWidth - 1, middle)), 1)
-        if (over >= 0 && over !== index)
-            session.moveTab(index, over)
+        if (!isTearing)
+            moveOver()
+    }
+
+    readonly property Timer further: Timer {
+        interval: 160
+        repeat: true
+        running: drag.active && !drag.isTearing && (drag.wanted < 0 || drag.wanted > drag.row.width - drag.tab.width)
+        onTriggered: {
+            const onwards = (drag.wanted < 0) === (drag.row.effectiveLayoutDirection === Qt.RightToLeft)
+            drag.session.moveTab(drag.index, drag.index + (onwards ? 1 : -1))
+        }
     }
 }

@@ -63,7 +63,7 @@ Pressable {
         }
         TextLabel {
             visible: !tab.pinned
-            anchors { left: symbol.right; leftMargin: Theme.space1; right: close.left; rightMargin: Theme.spaceHalf; verticalCenter: parent.verticalCenter }
+            anchors { left: symbol.right; leftMargin: Theme.space1; right: close.visible ? close.left : parent.right; rightMargin: Theme.spaceHalf; verticalCenter: parent.verticalCenter }
             text: tab.text
             type: Theme.type.label
             color: tab.selected ? Theme.ink : Theme.muted

@@ -70,6 +70,7 @@ Rectangle {
         orientation: ListView.Horizontal
         interactive: strip.tabsWidth > width
         boundsBehavior: Flickable.StopAtBounds
+        keyNavigationEnabled: true
         clip: interactive
         currentIndex: strip.session.selectedIndex
         highlightMoveDuration: Theme.durationTab
@@ -82,11 +83,27 @@ Rectangle {
             NumberAnimation { property: "x"; duration: Theme.durationTab }
         }
 
+        // It may have been carried, or moved by a key, out of sight.
+        Connections {
+            target: strip.session
+            function onSelectedChanged(): void { Qt.callLater(row.positionViewAtIndex, strip.session.selectedIndex, ListView.Contain) }
+        }
         delegate: TabItem {
             width: pinned ? strip.pinnedWidth : strip.tabWidth
             height: row.height
             session: strip.session
             row: row
+        }
+    }
+    // Tabs are taken hold of where one would flick them: the wheel brings those that are out of sight.
+    WheelHandler {
+        readonly property int sense: row.effectiveLayoutDirection === Qt.RightToLeft ? 1 : -1
+
+        target: null
+        enabled: row.interactive
+        onWheel: event => {
+            const by = sense * event.angleDelta.y
+            row.contentX = Math.max(row.originX, Math.min(row.originX + row.contentWidth - row.width, row.contentX + by))
         }
     }
     IconButton {
