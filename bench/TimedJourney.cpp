@@ -87,8 +87,9 @@ void TimedJourney::report() const
     };
     if (rows.empty())
         return;
-    std::printf("%zu turns, %.2f of 100 below %.0f ms (%.2f by what they computed), longest %.1f ms\n", rows.size(),
-                share(&Row::duration), smoothTurn, share(&Row::computed), rows.front().duration);
+    std::printf("%zu turns, %.2f of 100 below %.0f ms (%.2f by what they computed), longest %.1f ms (%.1f)\n",
+                rows.size(), share(&Row::duration), smoothTurn, share(&Row::computed), rows.front().duration,
+                std::ranges::max(rows, {}, &Row::computed).computed);
     for (std::size_t i = 0; i < std::min<std::size_t>(10, rows.size()); ++i)
         std::printf("  %6.1f ms, %6.1f ms of them computing: %s, %.0f ms in\n", rows[i].duration, rows[i].computed,
                     rows[i].step, rows[i].offset);

@@ -251,7 +251,11 @@ void Router::openDepartment(const QString& id)
 
 void Router::openSearch(const QString& query)
 {
-    push(ShopRoute{ShopRoute::Search{.query = query}});
+    // A link may carry, percent-encoded, what nobody can type or see.
+    QString visible = query;
+    std::ranges::replace_if(
+        visible, [](QChar character) { return character.category() == QChar::Other_Control; }, QLatin1Char(' '));
+    push(ShopRoute{ShopRoute::Search{.query = visible}});
 }
 
 void Router::openWishlist()

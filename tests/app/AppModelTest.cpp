@@ -87,6 +87,20 @@ TEST_F(AppModelTest, WhatAWindowBeginsWithIsWhatItShowsFirst)
     EXPECT_EQ(browsed, QList<QUrl>{QUrl(QStringLiteral("https://other.example/a"))});
 }
 
+TEST_F(AppModelTest, WindowsThatComeBackAskOnlyForWhatIsInFront)
+{
+    model->openWindow({.section = SidebarItem::NewIn});
+    model->openWindow({.link = QStringLiteral("/products/silk")});
+    static_cast<void>(queries(5));
+    model->saveWindowsForNextStart();
+    start();
+    model->bootstrap();
+    static_cast<void>(queries(3));
+    EXPECT_TRUE(model->restoreWindows(QStringLiteral("/collections/bags")));
+    EXPECT_EQ(queries(2), QStringList({QStringLiteral("CollectionProducts bags AT DE"),
+                                       QStringLiteral("CollectionProducts new-in AT DE")}));
+}
+
 TEST_F(AppModelTest, APageThatNeverCameIsForgottenWithTheNextWindow)
 {
     model->openWindow({.link = QStringLiteral("/products/a")});

@@ -58,6 +58,7 @@ TEST_F(RouterTest, ALinkLeadsToItsTarget)
              Row{"/products/silk", true, "home: product silk", ""},
              Row{"loomstreet://collections/new-in", true, "home: collection new-in", ""},
              Row{"/search?q=silk%20dress", true, "home: search silk dress", ""},
+             Row{"/search?q=silk%0Adress", true, "home: search silk dress", ""},
              Row{"https://www.loom.example/pages/brands-at-loomstreet", true, "brands", ""},
              Row{"/pages/starlook", true, "starlook", ""},
              Row{"/account/orders", true, "account", ""},
@@ -352,6 +353,10 @@ TEST_F(RouterTest, APieceOpensBesideThePageWhereThereIsRoom)
     for (const auto& [stored, width] : std::map<double, double>{{0, 480}, {300, 420}, {500, 500}, {1000, 640}}) {
         settings.set(preferences::splitPreviewWidth, stored);
         EXPECT_EQ(Router(services, nullptr, SidebarItem::Home).previewWidth(), width) << stored;
+    }
+    for (const auto& [dragged, width] : std::map<double, double>{{-20, 420}, {0, 420}, {500, 500}, {700, 640}}) {
+        alone.setPreviewWidth(dragged);
+        EXPECT_EQ(alone.previewWidth(), width) << dragged;
     }
 }
 

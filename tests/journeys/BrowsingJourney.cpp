@@ -155,8 +155,9 @@ TEST_F(BrowsingJourney, ACollectionIsWalkedToItsEndAndComeBackTo)
     window.awaitPage(piece);
     window.click(QStringLiteral("nav.back"));
     EXPECT_EQ(window.await(QStringLiteral("grid")), grid);
-    const QQuickItem* const again = window.await(name);
-    EXPECT_NEAR(again->mapToScene(QPointF()).y(), top, 12); // rows above are a little lower than they were
+    // Rows above may have become a little lower.
+    waitUntil([&] { return std::abs(window.await(name)->mapToScene(QPointF()).y() - top) < 12; },
+              "the card is where it was");
     EXPECT_EQ(store.count(QStringLiteral("CollectionProducts")), pages);
 
     // The first tab is as it was left.

@@ -13,16 +13,22 @@ Row {
     property color backdrop: Theme.paper
     property string names // for assistive tools: the colours in words
 
+    readonly property int most: 4
+    // Dots once made stay, and are hidden where there are fewer colours: cards in a list are given other pieces all
+    // the time.
+    property int made: 0
+
     readonly property color ring: Qt.alpha(Theme.ink, Theme.dark ? 0.4 : 0.2)
 
     spacing: 5
+    onPicturesChanged: made = Math.max(made, Math.min(most, pictures.length))
 
     Accessible.role: Accessible.StaticText
     Accessible.name: names
     Accessible.ignored: names === ""
 
     Repeater {
-        model: dots.colours.slice(0, 4)
+        model: dots.colours.slice(0, dots.most)
 
         Rectangle {
             required property color modelData
@@ -36,20 +42,22 @@ Row {
         }
     }
     Repeater {
-        model: dots.pictures.slice(0, 4)
+        model: dots.made
 
         Item {
             id: dot
 
-            required property string modelData
+            required property int index
+            readonly property string address: dots.pictures[index] ?? ""
 
             width: 11
             height: 11
+            visible: address !== ""
 
             Image {
                 anchors.fill: parent
                 asynchronous: true
-                source: PictureAddress.at(dot.modelData, 1)
+                source: PictureAddress.at(dot.address, 1)
                 sourceSize.width: 32
                 // A little left of the middle and below it is cloth in nearly every picture of a piece: trouser legs
                 // part in the middle, bags hang lower, and the edges are ground.
@@ -66,7 +74,7 @@ Row {
                 anchors.fill: parent
                 radius: width / 2
                 color: "transparent"
-                border { width: Theme.strokeHairline; color: Qt.alpha(Theme.ink, Theme.dark ? 0.4 : 0.2) }
+                border { width: Theme.strokeHairline; color: dots.ring }
             }
         }
     }

@@ -13,6 +13,9 @@ Item {
     property bool placing: false
     property int columnsBefore: columns
 
+    // The grid is to lay out its rows now.
+    signal layoutWanted()
+
     function isInView(item: Item): bool {
         const top = item === null ? -grid.cellHeight : item.y - grid.contentY
         return top > -grid.cellHeight / 2 && top < grid.height - grid.cellHeight / 2
@@ -31,6 +34,7 @@ Item {
 
     function place(): void {
         if (index >= 0) {
+            layoutWanted()
             grid.positionViewAtIndex(index, GridView.Beginning)
             grid.contentY = Math.max(grid.originY - grid.topMargin, grid.contentY - offset)
         }
@@ -48,13 +52,18 @@ Item {
 
         interval: 0
         onTriggered: {
-            if (anchor.placing)
+            // A grid that is hidden does not know its rows.
+            if (anchor.placing && anchor.grid.visible)
                 anchor.place()
         }
     }
     Connections {
         target: anchor.grid
         function onContentHeightChanged(): void {
+            if (anchor.placing)
+                later.restart()
+        }
+        function onVisibleChanged(): void {
             if (anchor.placing)
                 later.restart()
         }

@@ -4,7 +4,7 @@ import Loomstreet.Components
 import Loomstreet.Model
 import Loomstreet.Theme
 
-// The cards of a list: as many columns as fit, recycled while they scroll, moved through by the arrow keys.
+// The cards of a list: as many columns as fit, made as they come into sight, moved through by the arrow keys.
 GridView {
     id: grid
 
@@ -44,8 +44,9 @@ GridView {
     rightMargin: padding - Theme.cardGapX
     cellWidth: cardWidth + Theme.cardGapX + nudge
     cellHeight: measure.implicitHeight + Theme.cardGapY
-    cacheBuffer: cellHeight
-    reuseItems: true
+    // Rows that come are made between frames; the first page is not kept waiting by them.
+    property int rowsAhead: 1
+    cacheBuffer: rowsAhead * cellHeight
     keyNavigationEnabled: true
     boundsBehavior: Flickable.StopAtBounds
     highlightFollowsCurrentItem: true
@@ -83,10 +84,16 @@ GridView {
         interval: 0
         onTriggered: grid.settle()
     }
+    Timer {
+        interval: 0
+        running: grid.settled && grid.rowsAhead < 3
+        onTriggered: grid.rowsAhead = 3
+    }
     GridAnchor {
         parent: grid
         grid: grid
         columns: grid.columns
+        onLayoutWanted: grid.settle()
     }
     Binding {
         when: grid.head !== null

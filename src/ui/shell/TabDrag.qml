@@ -51,7 +51,7 @@ DragHandler {
     readonly property Timer further: Timer {
         interval: 160
         repeat: true
-        running: drag.active && !drag.isTearing && (drag.wanted < 0 || drag.wanted > drag.row.width - drag.tab.width)
+        running: drag.active && !drag.isTearing && drag.row.interactive && (drag.wanted < 0 || drag.wanted > drag.row.width - drag.tab.width)
         onTriggered: {
             const onwards = (drag.wanted < 0) === (drag.row.effectiveLayoutDirection === Qt.RightToLeft)
             drag.session.moveTab(drag.index, drag.index + (onwards ? 1 : -1))

@@ -17,7 +17,8 @@ Pressable {
     readonly property bool roomy: width >= 120
 
     objectName: "tab" + index
-    text: router?.title || qsTranslate("Loomstreet", "Loading")
+    // In the background nothing loads before it is first shown.
+    text: router?.title || (selected ? qsTranslate("Loomstreet", "Loading") : qsTranslate("Loomstreet", "Untitled page"))
     leftPadding: Theme.space1_5
     rightPadding: Theme.spaceHalf
     topPadding: Theme.layoutTabStrip - 34

@@ -83,10 +83,19 @@ Rectangle {
             NumberAnimation { property: "x"; duration: Theme.durationTab }
         }
 
-        // It may have been carried, or moved by a key, out of sight.
+        // The selected tab may have been carried, or moved by a key, out of sight, or the strip may have become shorter.
+        onWidthChanged: showing.restart()
+        Component.onCompleted: showing.restart()
+
         Connections {
             target: strip.session
-            function onSelectedChanged(): void { Qt.callLater(row.positionViewAtIndex, strip.session.selectedIndex, ListView.Contain) }
+            function onSelectedChanged(): void { showing.restart() }
+        }
+        Timer {
+            id: showing
+
+            interval: 0
+            onTriggered: row.positionViewAtIndex(strip.session.selectedIndex, ListView.Contain)
         }
         delegate: TabItem {
             width: pinned ? strip.pinnedWidth : strip.tabWidth
