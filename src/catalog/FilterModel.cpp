@@ -25,8 +25,8 @@ bool isOffered(const CollectionFilter& filter)
 
 QString chipLabel(const CollectionFilter& filter, const CollectionFilter::Value& value)
 {
-    const QString name = displayLine(filter.label, longestLabel);
-    const QString text = displayLine(value.label, longestLabel);
+    QString name = displayLine(filter.label, longestLabel);
+    QString text = displayLine(value.label, longestLabel);
     // "Yes" says nothing at all.
     if (filter.kind == CollectionFilter::Kind::Boolean && filter.values.size() == 1)
         return name;

@@ -84,7 +84,7 @@ void CompareModel::append(const QString& handle)
 {
     Column& column = *m_columns.emplace_back(std::make_unique<Column>());
     column.handle = handle;
-    static_cast<void>(fetch(column));
+    static_cast<void>(fetch(&column));
 }
 
 void CompareModel::add(const QString& handle)
@@ -114,7 +114,7 @@ void CompareModel::reload()
 {
     for (const auto& column : m_columns) {
         column->product.reset(); // its prices may be another market's
-        static_cast<void>(fetch(*column));
+        static_cast<void>(fetch(column.get()));
     }
     Q_EMIT columnsChanged();
 }
@@ -123,30 +123,30 @@ void CompareModel::retry()
 {
     for (const auto& column : m_columns) {
         if (column->failure)
-            static_cast<void>(fetch(*column));
+            static_cast<void>(fetch(column.get()));
     }
     Q_EMIT columnsChanged();
 }
 
-QCoro::Task<> CompareModel::fetch(Column& column)
+QCoro::Task<> CompareModel::fetch(Column* column)
 {
-    const Work::Run run = column.loading.begin();
-    column.failure.reset();
-    column.isMissing = false;
-    auto answer = co_await m_services.api.product(column.handle, run.stop());
+    const Work::Run run = column->loading.begin();
+    column->failure.reset();
+    column->isMissing = false;
+    auto answer = co_await m_services.api.product(column->handle, run.stop());
     if (run.isStopped())
         co_return;
     if (!answer) {
-        column.failure = answer.error().error();
+        column->failure = answer.error().error();
     } else if (!answer->has_value()) {
-        column.isMissing = true;
+        column->isMissing = true;
     } else {
         Product product = **std::move(answer);
         ProductDetails details = co_await QtConcurrent::run(productDetails, product);
         if (run.isStopped())
             co_return;
-        column.product = std::move(product);
-        column.details = std::move(details);
+        column->product = std::move(product);
+        column->details = std::move(details);
     }
     Q_EMIT columnsChanged();
 }

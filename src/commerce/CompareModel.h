@@ -53,7 +53,7 @@ private:
     struct Column;
 
     void append(const QString& handle);
-    [[nodiscard]] QCoro::Task<> fetch(Column& column);
+    [[nodiscard]] QCoro::Task<> fetch(Column* column);
     [[nodiscard]] const ProductListItem* kept(const QString& handle) const;
     [[nodiscard]] QVariantMap describe(const Column& column) const;
 

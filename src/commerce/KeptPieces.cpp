@@ -14,7 +14,7 @@ namespace
 {
 
 /// A file up to this size is read before anything is shown.
-constexpr qsizetype quickSize = 64 * 1024;
+constexpr qsizetype quickSize = qsizetype{64} * 1024;
 
 /// The keys of an item; all others belong to somebody else.
 constexpr std::array itemKeys{"id",          "handle",     "title",        "vendor",          "imageURL",   "price",
