@@ -56,7 +56,8 @@ QString Preferences::value(const Preference<const char*>& preference) const
 QStringList Preferences::value(const ListPreference& preference) const
 {
     QStringList texts;
-    for (const QJsonValue& text : m_values.value(keyOf(preference.key)).toArray()) {
+    const QJsonArray list = m_values.value(keyOf(preference.key)).toArray();
+    for (const auto text : list) {
         if (text.isString())
             texts.append(text.toString());
     }

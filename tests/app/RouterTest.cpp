@@ -28,7 +28,8 @@ public:
 const VisitedPage& pageAt(Router& router, int depth)
 {
     const NavigationPath& path = *router.navigationPath();
-    return path.pages().at(static_cast<std::size_t>(path.top() - router.depth() + depth));
+    const int row = path.top() - router.depth() + depth;
+    return path.pages().at(static_cast<std::size_t>(row));
 }
 
 int idAt(Router& router, int depth)
