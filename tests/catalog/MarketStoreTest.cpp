@@ -50,6 +50,7 @@ protected:
     static std::vector<std::string> titles(const MarketChoicesModel& picker)
     {
         std::vector<std::string> titles;
+        titles.reserve(static_cast<std::size_t>(picker.count()));
         for (int i = 0; i < picker.count(); ++i)
             titles.push_back(picker.data(picker.index(i), MarketChoicesModel::TitleRole).toString().toStdString());
         return titles;
