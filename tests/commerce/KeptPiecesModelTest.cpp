@@ -157,6 +157,7 @@ TEST_F(KeptPiecesModelTest, AListBecomesAnyOtherRowByRow)
         former = rows;
     }
     std::vector<PieceRow> rows;
+    rows.reserve(8);
     for (int i = 0; i < 8; ++i)
         rows.push_back({.item = {.handle = QString::number(i)}});
     model.show(rows);
