@@ -32,6 +32,7 @@ public:
     [[nodiscard]] const std::vector<Page>& pages() const { return m_pages; }
     [[nodiscard]] std::size_t current() const { return m_current; }
     [[nodiscard]] const Page& currentPage() const { return m_pages[m_current]; }
+    [[nodiscard]] Page& currentPage() { return m_pages[m_current]; }
     /// Where the root of the current section is.
     [[nodiscard]] std::size_t root() const { return rootOf(m_current); }
     [[nodiscard]] int depth() const { return static_cast<int>(m_current - root()); }

@@ -14,11 +14,6 @@ namespace loom
 namespace
 {
 
-template <typename... Functions>
-struct Overloaded : Functions... {
-    using Functions::operator()...;
-};
-
 /// How many titles a menu of pages shows at most.
 constexpr qsizetype longestMenu = 15;
 
@@ -26,17 +21,9 @@ constexpr qsizetype longestMenu = 15;
 constexpr std::size_t livePagesBehind = 16;
 constexpr std::size_t livePagesAhead = 8;
 
-constexpr double leastPreviewWidth = 420;
-constexpr double greatestPreviewWidth = 640;
-
 double previewWidthFor(double stored)
 {
-    return stored > 0 ? std::clamp(stored, leastPreviewWidth, greatestPreviewWidth) : 480.0;
-}
-
-std::optional<ProductListItem> cardIn(const QVariant& item)
-{
-    return item.canConvert<ProductListItem>() ? std::optional(item.value<ProductListItem>()) : std::nullopt;
+    return stored > 0 ? std::clamp(stored, Router::leastPreviewWidth, Router::greatestPreviewWidth) : 480.0;
 }
 
 } // namespace
@@ -114,194 +101,6 @@ QStringList Router::trail() const
     for (std::size_t i = m_history.root(); i <= m_history.current(); ++i)
         titles.append(titleAt(i));
     return titles;
-}
-
-bool Router::open(const std::optional<QString>& link)
-{
-    return std::visit(Overloaded{
-                          [this](const LinkResolver::Product& product) {
-                              openProduct({.handle = product.handle, .item = {}}, OpenMode::Page);
-                              return true;
-                          },
-                          [this](const LinkResolver::Collection& collection) {
-                              push(ShopRoute{ShopRoute::Collection{.handle = collection.handle, .title = {}}});
-                              return true;
-                          },
-                          [this](const LinkResolver::Search& search) {
-                              openSearch(search.query);
-                              return true;
-                          },
-                          [this](const LinkResolver::External& external) {
-                              m_services.openExternally(external.url);
-                              return true;
-                          },
-                          [](const LinkResolver::None&) { return false; },
-                          [this](const LinkResolver::Brands&) {
-                              select(SidebarItem::Brands);
-                              return true;
-                          },
-                          [this](const LinkResolver::Starlook&) {
-                              select(SidebarItem::Starlook);
-                              return true;
-                          },
-                          [this](const LinkResolver::Cart&) {
-                              if (m_session)
-                                  m_session->setCartOpen(true);
-                              return true;
-                          },
-                          [this](const LinkResolver::Account&) {
-                              select(SidebarItem::Account);
-                              return true;
-                          },
-                      },
-                      m_services.resolver.resolve(link));
-}
-
-void Router::openProduct(const ProductPreview& request, OpenMode mode)
-{
-    const Qt::KeyboardModifiers keys = m_services.heldKeys();
-    if (mode == OpenMode::Automatic) {
-        if (keys.testFlag(Qt::ControlModifier))
-            mode = OpenMode::NewTab;
-        else if (isSplitPreviewAvailable()) {
-            setPreview(request);
-            return;
-        }
-    }
-    if (mode == OpenMode::Docked && !(m_session && m_session->isMiraDocked())) {
-        setPreview(request);
-        return;
-    }
-    const Route route = ShopRoute{ShopRoute::Product{.handle = request.handle, .item = request.item}};
-    if (mode == OpenMode::NewTab) {
-        Router* const tab =
-            m_session ? m_session->openTab(selection(), keys.testFlag(Qt::ShiftModifier) ? TabActivation::Background
-                                                                                         : TabActivation::Activate)
-                      : this;
-        tab->push(route);
-        return;
-    }
-    if (m_preview && m_preview->handle == request.handle)
-        closePreview();
-    push(route);
-}
-
-bool Router::isSplitPreviewAvailable() const
-{
-    return !(m_session && m_session->isMiraDocked()) && m_services.preferences.value(preferences::splitPreview) &&
-           (!m_session || m_session->contentWidth() >= WindowSession::leastWidthForPreview);
-}
-
-void Router::openPiece(const QString& handle, const QVariant& item, OpenMode mode)
-{
-    openProduct({.handle = handle, .item = cardIn(item)}, mode);
-}
-
-void Router::setPreview(const std::optional<ProductPreview>& preview)
-{
-    if (m_preview == preview)
-        return;
-    m_preview = preview;
-    Q_EMIT previewChanged();
-}
-
-void Router::expandPreview()
-{
-    if (m_preview)
-        openProduct(ProductPreview(*m_preview), OpenMode::Page);
-}
-
-void Router::openPreviewInNewTab()
-{
-    if (!m_preview || !m_session)
-        return;
-    const Route route = ShopRoute{ShopRoute::Product{.handle = m_preview->handle, .item = m_preview->item}};
-    m_session->openTab(selection(), TabActivation::Activate)->push(route);
-}
-
-void Router::setPreviewWidth(double width)
-{
-    const double clamped = std::clamp(width, leastPreviewWidth, greatestPreviewWidth);
-    if (qFuzzyCompare(std::exchange(m_previewWidth, clamped), clamped))
-        return;
-    m_services.preferences.set(preferences::splitPreviewWidth, clamped);
-    Q_EMIT previewWidthChanged();
-}
-
-void Router::openCollection(const QString& handle, const QString& title)
-{
-    closePreview();
-    const Route route = ShopRoute{
-        ShopRoute::Collection{.handle = handle, .title = title.isEmpty() ? std::nullopt : std::optional(title)}};
-    const std::optional<Route>& current = m_history.currentPage().route;
-    const auto* const top = current ? std::get_if<ShopRoute>(&*current) : nullptr;
-    if (!top || !std::holds_alternative<ShopRoute::Collection>(top->page)) {
-        push(route);
-        return;
-    }
-    // From one collection to another: the stack does not grow.
-    m_history.replace(route);
-    apply(selection());
-}
-
-void Router::openDepartment(const QString& id)
-{
-    push(ShopRoute{ShopRoute::Category{.id = id}});
-}
-
-void Router::openSearch(const QString& query)
-{
-    // A link may carry, percent-encoded, what nobody can type or see.
-    QString visible = query;
-    std::ranges::replace_if(
-        visible, [](QChar character) { return character.category() == QChar::Other_Control; }, QLatin1Char(' '));
-    push(ShopRoute{ShopRoute::Search{.query = visible}});
-}
-
-void Router::openWishlist()
-{
-    select(SidebarItem::Wishlist);
-}
-
-void Router::openRecentlyViewed()
-{
-    push(ShopRoute{ShopRoute::RecentlyViewed{}});
-}
-
-void Router::openPriceDrops()
-{
-    push(ShopRoute{ShopRoute::PriceDrops{}});
-}
-
-void Router::openCompare(const QStringList& handles)
-{
-    push(ShopRoute{ShopRoute::Compare{.handles = handles}});
-}
-
-void Router::setCompared(int pageID, const QStringList& handles)
-{
-    History::Page* const page = m_history.find(pageID);
-    const auto* const shop = page && page->route ? std::get_if<ShopRoute>(&*page->route) : nullptr;
-    if (!shop || !std::holds_alternative<ShopRoute::Compare>(shop->page))
-        return;
-    page->route = ShopRoute{ShopRoute::Compare{.handles = handles}};
-    Q_EMIT stackChanged();
-}
-
-void Router::openFromStorePage(const QString& link)
-{
-    const LinkResolver::Target target = m_services.resolver.resolve(link);
-    const auto* const external = std::get_if<LinkResolver::External>(&target);
-    if (!external || !m_services.storePages.mayLoad(external->url)) {
-        open(link);
-        return;
-    }
-    openStorePage(external->url.toString(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::FullyEncoded), {});
-}
-
-void Router::openStorePage(const QString& path, const QString& title)
-{
-    push(StorePageRoute{StorePageRoute::Page{.path = path, .title = title}});
 }
 
 void Router::push(const Route& route)
@@ -409,13 +208,16 @@ void Router::restore(const TabState& state)
 {
     const SidebarItem before = selection();
     setPinned(state.isPinned);
+    const auto keep = [this, &state] {
+        History::Page& page = m_history.currentPage();
+        page.title = state.titles.value(depth());
+        page.scrollOffset = std::max(0.0, state.scrollOffsets.value(depth()));
+    };
     m_history.reset(state.section.selection);
-    for (const Route& route : state.section.routes)
+    keep();
+    for (const Route& route : state.section.routes) {
         m_history.push(route);
-    for (int i = 0; i <= depth(); ++i) {
-        History::Page& page = *m_history.find(m_history.pages()[static_cast<std::size_t>(i)].id);
-        page.title = state.titles.value(i);
-        page.scrollOffset = std::max(0.0, state.scrollOffsets.value(i));
+        keep();
     }
     apply(before);
     setPreview(state.preview);

@@ -73,6 +73,8 @@ public:
     /// In points, between 420 and 640; remembered for the tabs that come.
     [[nodiscard]] double previewWidth() const { return m_previewWidth; }
     void setPreviewWidth(double width);
+    static constexpr double leastPreviewWidth = 420;
+    static constexpr double greatestPreviewWidth = 640;
     [[nodiscard]] int reloadToken() const { return m_reloadToken; }
     [[nodiscard]] int softReloadToken() const { return m_softReloadToken; }
 

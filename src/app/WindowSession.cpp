@@ -353,7 +353,7 @@ void WindowSession::setWindowWidth(double width)
 bool WindowSession::isPreviewShown() const
 {
     const Router* const tab = selected();
-    return tab && tab->preview() && !m_isMiraDocked && contentWidth() >= leastWidthForPreview;
+    return tab && tab->preview() && hasRoomForPreview();
 }
 
 void WindowSession::setWindowSize(const QSize& size)

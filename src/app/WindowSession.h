@@ -127,6 +127,8 @@ public:
     void setWindowWidth(double width);
     /// What there is for pages, in points.
     [[nodiscard]] double contentWidth() const { return std::max(0.0, m_windowWidth - sidebarWidth); }
+    /// A product can be shown beside the page.
+    [[nodiscard]] bool hasRoomForPreview() const { return !m_isMiraDocked && contentWidth() >= leastWidthForPreview; }
     /// There is a product beside the page, and room for it.
     [[nodiscard]] bool isPreviewShown() const;
     /// The window's size while it is neither maximised nor on the full screen, to come back to; none while unknown.

@@ -1,6 +1,7 @@
 #include "catalog/BrandsModel.h"
 
 #include "base/Clock.h"
+#include "catalog/Department.h"
 #include "catalog/MarketStore.h"
 #include "catalog/RowMerge.h"
 #include "catalog/StorefrontAPI.h"
@@ -14,8 +15,7 @@ namespace loom
 namespace
 {
 
-/// The collection of all that the shop sells, and the filter in which it counts its designers.
-const QString allPieces = QStringLiteral("all-fashion-clothing-for-women");
+/// The filter in which a collection counts its designers.
 const QString vendorFilter = QStringLiteral("filter.p.vendor");
 
 const QString file = QStringLiteral("snap-brands");
@@ -110,7 +110,7 @@ QCoro::Task<> BrandsModel::fetch()
 QCoro::Task<BrandsModel::Brands> BrandsModel::fromFilter(std::stop_token stop)
 {
     LOOM_CO_TRY(page, co_await m_api.collectionProducts(
-                          {.handle = allPieces, .first = 1, .after = {}, .filters = {}, .sort = {}}, stop));
+                          {.handle = allPiecesCollection, .first = 1, .after = {}, .filters = {}, .sort = {}}, stop));
     std::vector<Brand> brands;
     const auto filter = std::ranges::find(page.filters, vendorFilter, &CollectionFilter::id);
     if (filter != page.filters.end()) {

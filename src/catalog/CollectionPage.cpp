@@ -17,10 +17,9 @@ CollectionPage decodeCollectionPage(const JsonReader& data)
                                      .imageURL = readImageAddress(*collection, "image")};
     const JsonReader products = collection->object("products");
     page.products = JsonReader::decodeEach(products.list("nodes"), decodeListItem);
-    const JsonReader pageInfo = products.object("pageInfo");
-    page.endCursor = pageInfo.optionalText("endCursor");
-    // Without a cursor there is no way on, whatever the answer says.
-    page.hasNextPage = pageInfo.boolean("hasNextPage") && page.endCursor;
+    PageInfo pageInfo = readPageInfo(products);
+    page.hasNextPage = pageInfo.hasNextPage;
+    page.endCursor = std::move(pageInfo.endCursor);
     page.filters = JsonReader::decodeEach(products.optionalList("filters"), decodeFilter);
     return page;
 }

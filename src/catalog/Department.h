@@ -9,6 +9,9 @@
 namespace loom
 {
 
+/// The collection of all that the shop sells.
+inline constexpr QLatin1String allPiecesCollection{"all-fashion-clothing-for-women"};
+
 /// A part of the shop that every store of this kind has. One that is backed by a collection opens it; the others
 /// show the collections they are made of, as far as the shopper's market has them.
 struct Department {

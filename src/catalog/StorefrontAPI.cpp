@@ -51,12 +51,10 @@ std::vector<ProductListItem> readRecommendations(const JsonReader& data)
 ProductsPage readProductsPage(const JsonReader& data)
 {
     const JsonReader products = data.object("products");
-    const JsonReader pageInfo = products.object("pageInfo");
-    ProductsPage page;
-    page.products = JsonReader::decodeEach(products.list("nodes"), decodeListItem);
-    page.endCursor = pageInfo.optionalText("endCursor");
-    page.hasNextPage = pageInfo.boolean("hasNextPage") && page.endCursor;
-    return page;
+    PageInfo pageInfo = readPageInfo(products);
+    return {.products = JsonReader::decodeEach(products.list("nodes"), decodeListItem),
+            .hasNextPage = pageInfo.hasNextPage,
+            .endCursor = std::move(pageInfo.endCursor)};
 }
 
 std::optional<SkuImages> readSkuImages(const JsonReader& data)

@@ -9,6 +9,13 @@ std::vector<JsonReader> readNodes(const JsonReader& json, std::string_view conne
     return connection ? connection->optionalList("nodes") : std::vector<JsonReader>();
 }
 
+PageInfo readPageInfo(const JsonReader& connection)
+{
+    const JsonReader json = connection.object("pageInfo");
+    const std::optional<QString> endCursor = json.optionalText("endCursor");
+    return {.hasNextPage = json.boolean("hasNextPage") && endCursor, .endCursor = endCursor};
+}
+
 std::optional<QString> readImageAddress(const JsonReader& image)
 {
     std::optional<QString> address = image.optionalText("url");

@@ -135,8 +135,8 @@ void KeptPieces::putFirst(ProductListItem item)
     item.seenPrice = std::isfinite(item.price.amount) ? std::optional(item.price.amount) : std::nullopt;
     item.seenCurrency = item.price.currencyCode;
     QByteArray previous;
-    const auto found = std::ranges::find(m_items, item.handle, &ProductListItem::handle);
-    if (m_handles.contains(item.handle) && found != m_items.end()) {
+    if (m_handles.contains(item.handle)) {
+        const auto found = std::ranges::find(m_items, item.handle, &ProductListItem::handle);
         previous = m_records.takeAt(found - m_items.begin());
         m_items.erase(found);
     }

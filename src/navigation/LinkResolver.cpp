@@ -1,5 +1,7 @@
 #include "navigation/LinkResolver.h"
 
+#include "catalog/Department.h"
+
 #include <QRegularExpression>
 #include <QUrlQuery>
 
@@ -88,7 +90,7 @@ LinkResolver::Target LinkResolver::resolve(const std::optional<QString>& text) c
         return Product{handle};
     if (const QString handle = captured(QStringLiteral("/collections/([^/?#]+)"), path, 1); !handle.isEmpty()) {
         const bool isEverything = handle == QLatin1String("all");
-        return Collection{isEverything ? QStringLiteral("all-fashion-clothing-for-women") : handle};
+        return Collection{isEverything ? QString(allPiecesCollection) : handle};
     }
 
     if (lowered.startsWith(QLatin1String("/search")))

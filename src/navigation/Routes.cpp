@@ -117,6 +117,11 @@ Route decodeRoute(const JsonReader& json)
     return route;
 }
 
+Route productRoute(const ProductPreview& request)
+{
+    return ShopRoute{ShopRoute::Product{.handle = request.handle, .item = request.item}};
+}
+
 std::size_t qHash(const Route& route, std::size_t seed)
 {
     return ::qHash(QJsonDocument(toJson(route)).toJson(QJsonDocument::Compact), seed);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalog/ProductListItem.h"
+#include "navigation/ProductPreview.h"
 
 #include <QJsonObject>
 #include <QStringList>
@@ -320,6 +320,9 @@ struct UnknownRoute {
 
 using Route = std::variant<ShopRoute, VessaRoute, VessaProfileRoute, MiraRoute, AccountRoute, OrdersRoute, LensRoute,
                            StorePageRoute, UnknownRoute>;
+
+/// The page of a product.
+[[nodiscard]] Route productRoute(const ProductPreview& request);
 
 [[nodiscard]] std::size_t qHash(const Route& route, std::size_t seed = 0);
 

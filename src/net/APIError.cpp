@@ -1,5 +1,7 @@
 #include "net/APIError.h"
 
+#include "base/Overloaded.h"
+
 #include <QCoreApplication>
 
 namespace loom
@@ -29,11 +31,6 @@ QString unexpectedAnswer()
 {
     return QCoreApplication::translate("Loomstreet", "Something unexpected came back. Try again.");
 }
-
-template <typename... Functions>
-struct Overloaded : Functions... {
-    using Functions::operator()...;
-};
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "kit/Journey.h"
 
 #include <QAccessible>
+#include <QTest>
 
 namespace loom
 {
@@ -131,6 +132,9 @@ TEST_F(KeyboardJourney, TheShopIsBrowsedWithoutAPointer)
     window.press(QStringLiteral("Right"));
     window.press(QStringLiteral("Return"));
     const QQuickItem* const lightbox = window.await(QStringLiteral("lightbox"));
+    // Nothing is enlarged, and no stop made at it, before the picture is there.
+    const QQuickItem* const zoomIn = window.await(QStringLiteral("zoomIn"));
+    ASSERT_TRUE(QTest::qWaitFor([zoomIn] { return zoomIn->isEnabled(); }));
     QSet<QString> stops;
     for (int i = 0; i < 8; ++i) {
         window.press(QStringLiteral("Tab"));

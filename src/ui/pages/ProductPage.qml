@@ -162,14 +162,12 @@ PageBase {
         takesFocus: page.shown
         onRetry: page.product.reload()
     }
-    EmptyState {
+    PieceMissing {
         objectName: "missing"
         anchors.centerIn: parent
         visible: page.phase === ProductModel.Missing
         width: Math.min(parent.width, 480)
-        iconName: "hanger"
-        title: qsTranslate("Loomstreet", "This piece isn't available")
-        sentence: qsTranslate("Loomstreet", "It may be sold out for good, or isn't sold in %1.").arg(page.app.market.countryName)
+        market: page.app.market
 
         PushButton {
             text: qsTranslate("Loomstreet", "New In")

@@ -190,14 +190,12 @@ FocusScope {
         sentence: pane.product?.errorText ?? ""
         onRetry: pane.product.reload()
     }
-    EmptyState {
+    PieceMissing {
         objectName: "previewMissing"
         anchors.centerIn: parent
         visible: pane.phase === ProductModel.Missing
         width: parent.width - 2 * Theme.space3
-        iconName: "hanger"
-        title: qsTranslate("Loomstreet", "This piece isn't available")
-        sentence: qsTranslate("Loomstreet", "It may be sold out for good, or isn't sold in %1.").arg(pane.app.market.countryName)
+        market: pane.app.market
     }
 
     // Taken hold of at its edge it becomes wider or narrower.
