@@ -6,9 +6,10 @@ if (options.help) process.stdout.write(helpText);
 else await run(options);
 
 async function run({ readyFile, parentPid, verbose, ...settings }) {
-  const log = verbose ? (line) => process.stderr.write(`${line}\n`) : null;
+  const announce = (line) => process.stderr.write(`${line}\n`);
+  const log = verbose ? announce : null;
   const { startStore } = await import('./store.mjs').catch(explainMissingModules);
-  const store = await startStore({ ...settings, log }).catch((error) => fail(error.message));
+  const store = await startStore({ ...settings, log, announce }).catch((error) => fail(error.message));
 
   let ending = false;
   const end = async () => {

@@ -1,6 +1,8 @@
 import { once } from 'node:events';
 import { join } from 'node:path';
 
+import { accountControls } from './accounts/controls.mjs';
+import { openSignIns } from './accounts/signIns.mjs';
 import { BackendSite } from './backend/site.mjs';
 import { Tracker } from './backend/endpoints/track.mjs';
 import { Wishlists } from './backend/endpoints/wishlist.mjs';
@@ -11,10 +13,14 @@ import { checkoutUrl } from './checkout/addresses.mjs';
 import { BankSite } from './checkout/bankSite.mjs';
 import { Checkouts } from './checkout/checkouts.mjs';
 import { checkoutControls } from './checkout/controls.mjs';
+import { Customers } from './checkout/customers.mjs';
 import { HandOvers } from './checkout/handOvers.mjs';
 import { CheckoutSettings } from './checkout/settings.mjs';
 import { CheckoutSite } from './checkout/site.mjs';
 import { domain, hostNames, hosts, storefrontToken, supportKey } from './hosts.mjs';
+import { Alerts } from './orders/alerts.mjs';
+import { Orders } from './orders/orders.mjs';
+import { pastAlertsAt, pastAt } from './orders/past.mjs';
 import { PictureSite } from './pictures/site.mjs';
 import { Studio } from './pictures/studio.mjs';
 import { loadCertificates } from './server/certificates.mjs';
@@ -30,27 +36,35 @@ import { BareWebSite, WebSite } from './web/site.mjs';
 
 /**
  * Starts the whole store and resolves once it answers: {ready, catalog, close}. ready is what an application needs to
- * know to shop here.
+ * know to shop here. log(line) is told of requests, announce(line) of the codes that a real store would send by mail; now()
+ * is the time that codes and sessions go by.
  */
-export async function startStore({ seed = 'loomstreet', pieces = 420, stateDir, port = 0, controlPort = 0, startedAt, log = null }) {
+export async function startStore({
+  seed = 'loomstreet', pieces = 420, stateDir, port = 0, controlPort = 0, startedAt = Date.now(), log = null, announce = () => {}, now = Date.now,
+}) {
   const certificatesLoaded = loadCertificates(stateDir, { domain, hostNames });
   const journal = new Journal({ log });
   const faults = new Faults();
   const carts = new Carts();
   const settings = new CheckoutSettings();
-  const checkouts = new Checkouts(carts);
-  const handOvers = new HandOvers();
   const tracker = new Tracker();
   const wishlists = new Wishlists();
   const catalog = new Catalog({ seed, count: pieces, startedAt });
+  const signIns = openSignIns({ now, announce, startedAt });
+  const customers = new Customers(signIns.accounts);
+  const checkouts = new Checkouts({ carts, customers, now });
+  const handOvers = new HandOvers();
+  const orders = new Orders({ checkouts, now, past: () => pastAt(catalog, startedAt) });
+  const alerts = new Alerts({ catalog, now, past: () => pastAlertsAt(startedAt) });
   const stock = new Stock(catalog);
   const prices = new Prices(catalog);
   const pictures = new PictureSite({ catalog, studio: new Studio(join(stateDir, 'pictures')), journal });
   const storefront = new StorefrontSite({ catalog, carts, checkoutUrl: (cart) => checkoutUrl(cart, settings.values), journal });
-  const pages = new CheckoutSite({ carts, checkouts, settings, journal });
+  const pages = new CheckoutSite({ carts, checkouts, customers, settings, journal });
+  const backend = { ...signIns, alerts, carts, customers, handOvers, orders, settings, tracker, wishlists };
   const sites = new Map([
     [hosts.shop, new ShopSite({ storefront, checkout: pages })],
-    [hosts.service, new BackendSite({ store: { catalog, carts, handOvers, settings, tracker, wishlists }, journal })],
+    [hosts.service, new BackendSite({ store: backend, journal })],
     [hosts.cdn, pictures],
     [hosts.web, new WebSite({ catalog, storefront, pictures, journal })],
     [hosts.bareWeb, new BareWebSite()],
@@ -58,22 +72,18 @@ export async function startStore({ seed = 'loomstreet', pieces = 420, stateDir, 
   ]);
 
   const reset = () => {
-    faults.clear();
-    carts.clear();
-    checkouts.clear();
-    handOvers.clear();
-    stock.clear();
-    prices.clear();
-    settings.clear();
+    const kept = [faults, carts, checkouts, handOvers, stock, prices, settings, ...Object.values(signIns), orders, alerts, tracker, wishlists, journal];
+    kept.forEach((part) => part.clear());
     pages.release();
-    tracker.clear();
-    wishlists.clear();
-    journal.clear();
   };
   const certificates = await certificatesLoaded;
   const secure = createSecureStore({ certificates, sites, journal, faults });
   const proxy = createProxy({ secureServer: secure, hostNames, journal });
-  const control = createControl({ journal, faults, tracker, wishlists, more: checkoutControls({ carts, checkouts, settings, pages, stock, prices }), reset });
+  const more = {
+    ...checkoutControls({ carts, checkouts, customers, settings, pages, stock, prices }),
+    ...accountControls({ ...signIns, orders, faults }),
+  };
+  const control = createControl({ journal, faults, tracker, wishlists, more, reset });
   const [proxyPort, ownControlPort] = await Promise.all([listen(proxy, port), listen(control, controlPort)]);
 
   return {

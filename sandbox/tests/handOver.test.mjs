@@ -1,11 +1,13 @@
 import assert from 'node:assert/strict';
 import { beforeEach, test } from 'node:test';
 
-import { storeForTests } from './support/store.mjs';
+import { Member } from './support/member.mjs';
 import { Shopper } from './support/shopper.mjs';
+import { storeForTests } from './support/store.mjs';
 
 const { client, catalog, ready } = await storeForTests();
 const shopper = new Shopper(client);
+const member = new Member(client, ready);
 const sabine = catalog.piece('sabine-bias-slip-dress').variants.find(({ stock }) => stock > 1).id;
 const widget = '/api/support/widget/shopify-checkout';
 const start = `${ready.supportBase}${widget}/start`;
@@ -31,7 +33,7 @@ test('guests are told that there is no hand-over for them', async () => {
 
 test('a code leads into the checkout of its cart, once, as somebody known there', async () => {
   await shopper.settings({ handOver: 'ready' });
-  const { status, value } = await prepare({ appToken: 'token' });
+  const { status, value } = await prepare();
   assert.equal(status, 200);
   assert.match(value.code, /^[A-Za-z0-9_-]{43}$/);
   const page = await shopper.open(`${start}?code=${value.code}`);
@@ -43,9 +45,10 @@ test('a code leads into the checkout of its cart, once, as somebody known there'
 
 test('a code that was revoked, has company or outlived its cart leads nowhere', async () => {
   await shopper.settings({ handOver: 'ready' });
-  const { value: revoked } = await prepare({ appToken: 'token' });
-  const { value: kept } = await prepare({ appToken: 'other' });
-  const { status, ...response } = await client.backend(`${widget}/revoke`, { publicKey: ready.supportKey, appToken: 'token' });
+  const [token, other] = [(await member.signIn()).token, (await member.signIn()).token];
+  const { value: revoked } = await prepare({ appToken: token });
+  const { value: kept } = await prepare({ appToken: other });
+  const { status, ...response } = await client.backend(`${widget}/revoke`, { publicKey: ready.supportKey, appToken: token });
   assert.deepEqual([status, response.json()], [200, { code: 'OK' }]);
   assert.equal((await client.request(`${start}?code=${revoked.code}`)).status, 410);
   for (const query of ['', '?code=', `?code=${kept.code}&code=x`]) assert.equal((await client.request(start + query)).status, 410, query);
@@ -57,9 +60,10 @@ test('a code that was revoked, has company or outlived its cart leads nowhere', 
 });
 
 test('hand-overs fail in every way an application has to tell apart', async () => {
-  for (const [handOver, status, code] of [['missing', 404, undefined], ['widget-not-found', 403, 'WIDGET_NOT_FOUND']]) {
+  const { token: appToken } = await member.signIn();
+  for (const [handOver, status, code] of [['unavailable', 409, 'CHECKOUT_AUTH_UNAVAILABLE'], ['missing', 404, undefined], ['widget-not-found', 403, 'WIDGET_NOT_FOUND']]) {
     await shopper.settings({ handOver });
-    const answer = await prepare();
+    const answer = await prepare({ appToken });
     assert.deepEqual([answer.status, answer.value.code], [status, code]);
   }
   for (const [handOver, pattern] of [['short-code', /^a{31}$/], ['plus-code', /^a+\+a+$/], ['long-code', /^a{257}$/], ['empty-code', /^$/], ['number-code', /^4316$/], ['no-code', /^undefined$/]]) {

@@ -1,14 +1,16 @@
+import { sendStyles } from '../checkout/styles.mjs';
 import { supportKey } from '../hosts.mjs';
 import { BadRequest } from '../server/exchange.mjs';
+import { sendIcon } from '../web/icon.mjs';
 import { endpoints } from './endpoints/index.mjs';
 import { BackendError } from './errors.mjs';
 import { parseMultipart } from './multipart.mjs';
 
-const widgetPrefix = '/api/support/widget';
+export const widgetPrefix = '/api/support/widget';
 const publicPrefix = '/api/pub';
 const uploadLimit = 16 * 1024 * 1024;
 
-/** The backend's host: JSON by POST, reading by GET, uploads as multipart. */
+/** The backend's host: JSON by POST, reading by GET, uploads as multipart, and the few pages a browser sees of it. */
 export class BackendSite {
   #store;
   #journal;
@@ -21,6 +23,11 @@ export class BackendSite {
   }
 
   async handle(exchange) {
+    if (sendStyles(exchange)) return;
+    if (exchange.path === '/favicon.ico') {
+      sendIcon(exchange);
+      return;
+    }
     try {
       const answer = await this.#call(exchange);
       if (!exchange.finished) exchange.sendJson(200, answer ?? {});
@@ -44,7 +51,16 @@ export class BackendSite {
     if (!endpoint.methods.includes(exchange.method)) {
       throw new BackendError(405, 'METHOD_NOT_ALLOWED', `${endpoint.path} does not take ${exchange.method}`);
     }
-    return endpoint.handle(call, this.#store);
+    return endpoint.handle({ ...call, account: this.#customer(endpoint, call.input) }, this.#store);
+  }
+
+  /** Who calls; null for a guest. A token that stands for nobody is refused even where guests are welcome. */
+  #customer({ anonymous, customer }, { appToken }) {
+    if (anonymous) return null;
+    const account = appToken === undefined ? null : this.#store.accounts.ofToken(appToken);
+    if (appToken !== undefined && !account) throw new BackendError(401, 'REAUTH', 'The session is over');
+    if (customer && !account) throw new BackendError(401, 'UNAUTHORIZED', 'Nobody is signed in');
+    return account;
   }
 }
 

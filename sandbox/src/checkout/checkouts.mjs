@@ -1,5 +1,7 @@
 import { randomBytes } from 'node:crypto';
 
+import { newParcel } from '../orders/parcels.mjs';
+import { addressOf, receiptOf } from '../orders/receipt.mjs';
 import { Random } from '../random.mjs';
 import { summaryOf } from './summary.mjs';
 
@@ -9,11 +11,15 @@ const confirmationLetters = [...'ABCDEFGHJKLMNPQRSTUVWXYZ23456789'];
 /** Payments that wait for the buyer's bank, and the orders that came of carts. Both are known by the cart's identifier. */
 export class Checkouts {
   #carts;
+  #customers;
+  #now;
   #payments = new Map();
   #orders = new Map();
 
-  constructor(carts) {
+  constructor({ carts, customers, now }) {
     this.#carts = carts;
+    this.#customers = customers;
+    this.#now = now;
   }
 
   get orders() {
@@ -43,8 +49,10 @@ export class Checkouts {
     this.#payments.delete(id);
   }
 
-  /** Makes the cart an order, which ends it. */
-  place(cart, { email, name }) {
+  /** Makes the cart an order, which ends it. It is that of the customer who came signed in, else of the address typed. */
+  place(cart, values) {
+    const { email, name } = values;
+    const placedAt = this.#now();
     const number = `LST${firstNumber + this.#orders.size}`;
     const random = new Random(number);
     const order = {
@@ -52,9 +60,13 @@ export class Checkouts {
       confirmation: Array.from({ length: 9 }, () => random.pick(confirmationLetters)).join(''),
       reference: randomBytes(16).toString('hex'),
       cartId: cart.id, token: cart.token, key: cart.key,
-      email, name,
+      email, name, placedAt,
+      owner: this.#customers.of(cart)?.account?.email ?? null,
       summary: summaryOf(cart),
-      placedAt: new Date().toISOString(),
+      receipt: receiptOf(cart),
+      address: addressOf(values),
+      parcels: [newParcel({ number: `LP${random.int(4500000, 4999999)}`, placedAt, city: values.city })],
+      cancelled: false,
     };
     this.#orders.set(cart.id, order);
     this.#payments.delete(cart.id);

@@ -17,10 +17,12 @@ export const fields = [
 
 const longest = 200;
 
-/** What the form shows to begin with, so that one press on "Pay now" is enough. */
-export function prefilledValues(country, now = new Date()) {
+/** What the form shows to begin with, so that one press on "Pay now" is enough; of a customer, what is known. */
+export function prefilledValues(country, { customer = null, now = new Date() } = {}) {
+  const { email = 'ines@example.com', account } = customer ?? {};
+  const name = account?.name || 'Ines Marques';
   return {
-    email: 'ines@example.com', name: 'Ines Marques', address: 'Rua do Tear 14', postcode: '1200-001', city: 'Lisbon', country,
+    email, name, address: 'Rua do Tear 14', postcode: '1200-001', city: 'Lisbon', country, ...account?.address,
     card: '4000 1234 5678 0008', expiry: `12 / ${String(now.getFullYear() + 3).slice(-2)}`, code: '123',
   };
 }

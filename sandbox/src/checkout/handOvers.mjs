@@ -10,7 +10,7 @@ const badCodes = {
   'no-code': () => undefined,
 };
 
-export const handOverModes = ['guest', 'ready', 'missing', 'widget-not-found', ...Object.keys(badCodes)];
+export const handOverModes = ['guest', 'ready', 'unavailable', 'missing', 'widget-not-found', ...Object.keys(badCodes)];
 
 /** The codes that carry a signed-in customer into a checkout. Each serves once and ends with the session it came from. */
 export class HandOvers {
@@ -22,11 +22,11 @@ export class HandOvers {
     return code;
   }
 
-  /** The cart a code was made for, the first time; null afterwards. */
+  /** What a code was made for, {cartId, appToken}, the first time; null afterwards. */
   redeem(code) {
-    const handOver = this.#open.get(code);
+    const handOver = this.#open.get(code) ?? null;
     this.#open.delete(code);
-    return handOver?.cartId ?? null;
+    return handOver;
   }
 
   revoke(appToken) {

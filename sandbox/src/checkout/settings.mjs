@@ -1,5 +1,5 @@
 import { hosts } from '../hosts.mjs';
-import { BadRequest } from '../server/exchange.mjs';
+import { oneOf, Settings } from '../settings.mjs';
 import { handOverModes } from './handOvers.mjs';
 import { trickNames } from './pages/tricks.mjs';
 import { languages } from './pages/words.mjs';
@@ -34,29 +34,9 @@ const checks = {
   handOver: oneOf(...handOverModes),
 };
 
-/** How checkout is to behave, as told through the control port; what was not told stays as it is. */
-export class CheckoutSettings {
-  #values = { ...defaults };
-
-  get values() {
-    return this.#values;
+/** How checkout is to behave. */
+export class CheckoutSettings extends Settings {
+  constructor() {
+    super('checkout', defaults, checks);
   }
-
-  change(wanted) {
-    if (wanted === null || typeof wanted !== 'object' || Array.isArray(wanted)) throw new BadRequest('the settings are a JSON object');
-    for (const [name, value] of Object.entries(wanted)) {
-      if (!Object.hasOwn(checks, name)) throw new BadRequest(`checkout has no setting "${name}"`);
-      const [holds, explanation] = checks[name];
-      if (!holds(value)) throw new BadRequest(`${name} is ${explanation}`);
-    }
-    this.#values = { ...this.#values, ...wanted };
-  }
-
-  clear() {
-    this.#values = { ...defaults };
-  }
-}
-
-function oneOf(...names) {
-  return [(value) => names.includes(value), `one of ${names.join(', ')}`];
 }

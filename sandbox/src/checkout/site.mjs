@@ -9,20 +9,21 @@ import { tricksScript } from './pages/tricks.mjs';
 import { sendStyles } from './styles.mjs';
 import { summaryOf } from './summary.mjs';
 
-const customer = 'ines@example.com';
 const steps = { '': ['CheckoutForm', 'CheckoutPay'], confirm: ['CheckoutConfirm', 'CheckoutConfirmed'] };
 
 /** The pages of checkout on the shop's host: the form, the bank's confirmation and the thanks, and the address of a cart. */
 export class CheckoutSite {
   #carts;
   #checkouts;
+  #customers;
   #settings;
   #journal;
   #stalled = new Set();
 
-  constructor({ carts, checkouts, settings, journal }) {
+  constructor({ carts, checkouts, customers, settings, journal }) {
     this.#carts = carts;
     this.#checkouts = checkouts;
+    this.#customers = customers;
     this.#settings = settings;
     this.#journal = journal;
   }
@@ -96,13 +97,14 @@ export class CheckoutSite {
       default: {
         const country = summaryOf(cart).country;
         const script = tricksScript(tricks, { target });
-        send(exchange, 200, { ...this.#formOf(cart, prefilled ? prefilledValues(country) : { country }), script });
+        const values = prefilled ? prefilledValues(country, { customer: this.#customers.of(cart) }) : { country };
+        send(exchange, 200, { ...this.#formOf(cart, values), script });
       }
     }
   }
 
   #formOf(cart, values, problems = {}) {
-    const signedInAs = cart.signedIn ? customer : null;
+    const signedInAs = this.#customers.of(cart)?.label ?? null;
     return formPage({ action: checkoutPath(cart), summary: summaryOf(cart), values, problems, signedInAs });
   }
 

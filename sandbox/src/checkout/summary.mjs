@@ -4,11 +4,18 @@ import { costOf } from '../storefront/cartCost.mjs';
 const freeFrom = 99;
 const shippingFee = 12;
 
-/** What is to be paid for a cart, with all amounts as text in the cart's currency. Lines without stock are not sold. */
-export function summaryOf(cart) {
-  const { market, priced, codes, applied, subtotal, off, total } = costOf(cart, marketOf(cart.country));
+/** What is to be paid for a cart, with all amounts as numbers. */
+export function amountsOf(cart) {
+  const cost = costOf(cart, marketOf(cart.country));
+  const { market, subtotal, total } = cost;
   const pieces = cart.lines.reduce((sum, { quantity }) => sum + quantity, 0);
   const shipping = pieces === 0 || subtotal >= market.price(freeFrom) ? 0 : market.price(shippingFee);
+  return { ...cost, pieces, shipping, total: market.round(total + shipping) };
+}
+
+/** The same with all amounts as text in the cart's currency. Lines without stock are not sold. */
+export function summaryOf(cart) {
+  const { market, priced, codes, applied, subtotal, off, pieces, shipping, total } = amountsOf(cart);
   const money = formatter(market);
   return {
     country: market.country,
@@ -19,7 +26,7 @@ export function summaryOf(cart) {
     discount: applied && { code: applied.code, amount: off > 0 ? `−${money(off)}` : null },
     subtotal: money(subtotal),
     shipping: shipping === 0 ? 'Free' : money(shipping),
-    total: money(market.round(total + shipping)),
+    total: money(total),
   };
 }
 

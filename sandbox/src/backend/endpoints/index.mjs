@@ -1,11 +1,21 @@
+import { addAlert, listAlerts, removeAlert } from './alerts.mjs';
 import { prepareCheckout, revokeCheckout, startCheckout } from './checkout.mjs';
+import { listOrders, trackParcel } from './orders.mjs';
+import { readProfile, updateProfile } from './profile.mjs';
+import { exchangeProvider, startProviders } from './providers.mjs';
+import { deleteAccount, requestCode, setPassword, signInWithCode, signInWithPassword } from './signIn.mjs';
 import { track } from './track.mjs';
 import { wishlistSync } from './wishlist.mjs';
 
 /**
- * Every endpoint is one module with {path, methods, public, keyless, handle}. A public one lies below /api/pub and needs
- * no widget key, the others lie below /api/support/widget and want it unless they are keyless, as the addresses a browser
- * opens are. handle(call, store) gets {input, files, query, exchange} and returns the JSON to answer with, throws a
- * BackendError, or answers the exchange itself.
+ * Every endpoint is one object with {path, methods, public, keyless, anonymous, customer, handle}. A public one lies below
+ * /api/pub and needs no widget key, the others lie below /api/support/widget and want it unless they are keyless, as an
+ * address that a browser opens may be. A customer's endpoint wants the token of somebody signed in, an anonymous one looks
+ * at none, any other takes guests and customers. handle(call, store) gets {input, files, query, exchange, account} and
+ * returns the JSON to answer with, throws a BackendError, or answers the exchange itself.
  */
-export const endpoints = [prepareCheckout, revokeCheckout, startCheckout, track, wishlistSync];
+export const endpoints = [
+  requestCode, signInWithCode, signInWithPassword, setPassword, deleteAccount, ...startProviders, exchangeProvider,
+  listOrders, trackParcel, readProfile, updateProfile, listAlerts, addAlert, removeAlert,
+  prepareCheckout, revokeCheckout, startCheckout, track, wishlistSync,
+];

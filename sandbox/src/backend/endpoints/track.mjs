@@ -17,6 +17,7 @@ export class Tracker {
 export const track = {
   path: '/track',
   methods: ['POST'],
+  anonymous: true,
   handle({ input }, { tracker }) {
     const { publicKey, appToken, ...event } = input;
     tracker.add(event);

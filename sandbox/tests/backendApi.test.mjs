@@ -1,0 +1,154 @@
+import assert from 'node:assert/strict';
+import { readdirSync, readFileSync } from 'node:fs';
+import { test } from 'node:test';
+
+import { widgetPrefix } from '../src/backend/site.mjs';
+import { endpoints } from '../src/backend/endpoints/index.mjs';
+import { Description, valuesOf } from './support/description.mjs';
+import { Member } from './support/member.mjs';
+import { Shopper } from './support/shopper.mjs';
+import { storeForTests } from './support/store.mjs';
+
+const description = await Description.read();
+const { client, catalog, ready } = await storeForTests();
+const member = new Member(client, ready);
+const shopper = new Shopper(client);
+const { supportKey: publicKey } = ready;
+const ines = 'ines.marinho@example.com';
+const stranger = 'stranger@example.com';
+
+test('the description is one, and its examples are what it says', () => {
+  assert.deepEqual(description.errors ?? [], []);
+  for (const { path, request, requests, responses } of description.operations) {
+    for (const [name, value] of requests) assert.deepEqual(description.problems(request, value), [], `${path}, request "${name}"`);
+    for (const [status, { content }] of Object.entries(responses)) {
+      const { schema, examples } = content?.['application/json'] ?? {};
+      for (const [name, value] of valuesOf(examples)) assert.deepEqual(description.problems(schema, value), [], `${path}, ${status} "${name}"`);
+    }
+  }
+});
+
+test('what is described is served, and what is served or called by the application is described', () => {
+  const described = description.operations.map(({ path, method }) => `${method} ${path}`).sort();
+  const served = endpoints.flatMap(({ path, methods }) => methods.map((method) => `${method} ${widgetPrefix}${path}`)).sort();
+  assert.deepEqual(described, served);
+  assert.ok(calledPaths().size > 5, 'calls are found');
+  for (const path of calledPaths()) assert.ok(described.includes(`POST ${widgetPrefix}${path}`), path);
+});
+
+test('every example is answered as described', async () => {
+  for (const { path, method, requests, parameters, responses } of description.operations) {
+    const tried = method === 'GET' ? [['query', Object.fromEntries(parameters.map(({ name, example }) => [name, example]))]] : requests;
+    assert.ok(tried.length > 0, path);
+    for (const [name, example] of tried) {
+      await client.control('POST', '/reset');
+      const input = await inserted(path, example);
+      assertDescribed(await send(path, method, input), responses, `${path} "${name}"`, (status) => status < 400);
+      assert.deepEqual((await client.control('GET', '/unexpected')).value, []);
+    }
+  }
+});
+
+/** For every code, how to come by it on a path; null stands for all paths that have no way of their own. */
+const ways = {
+  WIDGET_NOT_FOUND: { null: () => ({ publicKey: 'guess' }) },
+  REAUTH: { null: () => ({ appToken: 'x'.repeat(43) }) },
+  UNAUTHORIZED: {
+    null: () => ({ appToken: undefined }),
+    '/app-auth/login': () => ({ password: 'a wrong one' }),
+  },
+  EMAIL_INVALID: { null: () => ({ email: 'ines@@example.com' }) },
+  CODE_INVALID: {
+    null: ({ code }) => ({ code: code === '000000' ? '000001' : '000000' }),
+    '/app-auth/oauth/exchange': () => ({ verifier: 'v'.repeat(64) }),
+  },
+  NO_SUCH_CODE: { null: () => ({ email: stranger }) },
+  RATE_LIMITED: {
+    '/app-auth/request-code': async () => {
+      for (let count = 0; count < 5; count += 1) await member.call('/app-auth/request-code', { email: stranger });
+      return { email: stranger };
+    },
+    '/app-auth/login': async () => {
+      for (let count = 0; count < 5; count += 1) await member.call('/app-auth/login', { email: ines, password: 'wrong' });
+      return {};
+    },
+  },
+  BAD_INPUT: {
+    '/app-auth/login': () => ({ password: '' }),
+    '/app-auth/set-password': () => ({ password: '12345' }),
+    '/app-auth/oauth/exchange': () => ({ verifier: 'short' }),
+    '/profile-update': () => ({ birthday: '1991-02-30' }),
+    '/tracking': () => ({ number: ' ' }),
+    '/alerts-add': () => ({ kind: 'mood' }),
+    '/shopify-checkout/prepare': () => ({ locale: 'english' }),
+    '/shopify-checkout/revoke': () => ({ appToken: 7 }),
+    '/wishlist-sync': () => ({ items: [{}] }),
+    null: () => ({ cc: 'short' }),
+  },
+  NOT_FOUND: {
+    '/app-auth/login': () => ({ email: stranger }),
+    '/tracking': () => ({ number: 'LP0' }),
+    '/alerts-add': () => ({ handle: 'no-such-piece' }),
+    '/alerts-remove': () => ({ id: 'a0' }),
+    '/shopify-checkout/prepare': () => ({ cartId: 'gid://shopify/Cart/none?key=none' }),
+  },
+  CHECKOUT_AUTH_UNAVAILABLE: { '/shopify-checkout/prepare': () => ({ appToken: undefined }) },
+};
+
+test('every failure that is named for a call can be had from it, as described', async () => {
+  for (const { path, method, requests, parameters, responses } of description.operations) {
+    const example = requests.at(-1)?.[1] ?? Object.fromEntries(parameters.map((parameter) => [parameter.name, parameter.example]));
+    for (const [status, code] of namedFailures(responses)) {
+      await client.control('POST', '/reset');
+      const way = ways[code][path.slice(widgetPrefix.length)] ?? ways[code].null;
+      assert.ok(way, `a way to ${code} of ${path}`);
+      const input = await inserted(path, example);
+      const answer = await send(path, method, { ...input, ...(await way(input)) });
+      assert.deepEqual([answer.status, answer.json().code], [Number(status), code], path);
+      assertDescribed(answer, responses, `${path} ${code}`, () => true);
+    }
+  }
+});
+
+function namedFailures(responses) {
+  return Object.entries(responses).filter(([status]) => Number(status) >= 400)
+    .flatMap(([status, { content }]) => Object.keys(content?.['application/json']?.examples ?? {}).map((code) => [status, code]));
+}
+
+function assertDescribed(answer, responses, context, expected) {
+  const { status, headers } = answer;
+  assert.ok(expected(status), `${context}: ${status} ${answer.text}`);
+  assert.ok(responses[status], `${context}: ${status} is described`);
+  const { content, headers: described = {} } = responses[status];
+  for (const name of Object.keys(described)) assert.ok(headers[name.toLowerCase()], `${context}: ${name}`);
+  if (!content) return;
+  const [type] = headers['content-type'].split(';');
+  assert.ok(content[type], `${context}: ${type} is described`);
+  if (type === 'application/json') assert.deepEqual(description.problems(content[type].schema, answer.json()), [], context);
+}
+
+function send(path, method, input) {
+  if (method === 'POST') return client.backend(path, input);
+  return client.request(`${ready.supportBase}${path}?${new URLSearchParams(input)}`);
+}
+
+/** The example with what only this store can know: its key, a session, a code that was sent, a cart. */
+async function inserted(path, example) {
+  const input = { ...example };
+  const withCode = path.endsWith('/login-code') || path.endsWith('/set-password');
+  if ('publicKey' in input) input.publicKey = publicKey;
+  if ('appToken' in input) input.appToken = (await member.signIn()).token;
+  if ('cartId' in input) input.cartId = (await shopper.cart(catalog.piece('odile-tiered-dress').variants[0].id)).id;
+  if (withCode) input.code = await member.code(input.email);
+  else if (path.endsWith('/exchange')) input.code = (await member.provider('google', { verifier: input.verifier })).get('code');
+  else if (path.endsWith('/start') && 'code' in input) input.code = (await member.handOver(await inserted(path, { cartId: '' }))).code;
+  return input;
+}
+
+/** The paths that the application's sources post to. */
+function calledPaths() {
+  const sources = new URL('../../src/', import.meta.url);
+  const files = readdirSync(sources, { recursive: true }).filter((name) => name.endsWith('.cpp'));
+  const calls = /(?:\.post|\bsignedIn|\bpost)\(\s*QStringLiteral\("(\/[^"]+)"\)/g;
+  return new Set(files.flatMap((name) => [...readFileSync(new URL(name, sources), 'utf8').matchAll(calls)].map(([, path]) => path)));
+}
