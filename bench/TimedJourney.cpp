@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <ctime>
 #include <functional>
+#include <iterator>
 
 namespace loom
 {
@@ -80,16 +81,26 @@ void TimedJourney::report() const
                             current->name});
         }
     }
-    std::ranges::sort(rows, std::greater(), &Row::duration);
-    const auto share = [&rows](double Row::* time) {
-        const auto smooth = std::ranges::count_if(rows, [time](const Row& row) { return row.*time < smoothTurn; });
-        return 100 * static_cast<double>(smooth) / static_cast<double>(rows.size());
-    };
     if (rows.empty())
         return;
-    std::printf("%zu turns, %.2f of 100 below %.0f ms (%.2f by what they computed), longest %.1f ms (%.1f)\n",
-                rows.size(), share(&Row::duration), smoothTurn, share(&Row::computed), rows.front().duration,
-                std::ranges::max(rows, {}, &Row::computed).computed);
+    const auto tell = [](const char* what, const std::vector<Row>& some) {
+        const auto share = [&some](double Row::* time) {
+            const auto smooth = std::ranges::count_if(some, [time](const Row& row) { return row.*time < smoothTurn; });
+            return 100 * static_cast<double>(smooth) / static_cast<double>(some.size());
+        };
+        std::printf("%s: %zu turns, %.2f of 100 below %.0f ms (%.2f by what they computed), longest %.1f ms (%.1f)\n",
+                    what, some.size(), share(&Row::duration), smoothTurn, share(&Row::computed),
+                    std::ranges::max(some, {}, &Row::duration).duration,
+                    std::ranges::max(some, {}, &Row::computed).computed);
+    };
+    tell("all", rows);
+    for (const Step& step : m_steps) {
+        std::vector<Row> own;
+        std::ranges::copy_if(rows, std::back_inserter(own), [&step](const Row& row) { return row.step == step.name; });
+        if (!own.empty())
+            tell(step.name, own);
+    }
+    std::ranges::sort(rows, std::greater(), &Row::computed);
     for (std::size_t i = 0; i < std::min<std::size_t>(10, rows.size()); ++i)
         std::printf("  %6.1f ms, %6.1f ms of them computing: %s, %.0f ms in\n", rows[i].duration, rows[i].computed,
                     rows[i].step, rows[i].offset);

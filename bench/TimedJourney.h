@@ -63,7 +63,7 @@ public:
         return seen;
     }
 
-    /// Prints how many turns were smooth, and the longest with the step of the journey that they belong to.
+    /// Prints how many turns were smooth, in all and in each step of the journey, and those that computed longest.
     void report() const;
 
 private:

@@ -1,14 +1,16 @@
 #include "app/AppLifecycle.h"
 #include "app/AppModel.h"
-#include "base/FeatureGates.h"
 #include "base/Random.h"
 #include "base/SystemClock.h"
+#include "platform/BrowserOpening.h"
 #include "platform/DesktopAppearance.h"
+#include "platform/KeychainSecureStore.h"
 #include "platform/LaunchOptions.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemLocaleReading.h"
 #include "platform/SystemNetworkStatus.h"
 #include "platform/WindowActivation.h"
+#include "services/CopyTranslator.h"
 #include "ui/shell/ApplicationSetup.h"
 #include "ui/shell/EventLoopProbe.h"
 #include "ui/shell/PictureLoading.h"
@@ -16,12 +18,13 @@
 #include "ui/shell/WindowManager.h"
 #include "ui/theme/Fonts.h"
 
-#include <QDesktopServices>
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QStandardPaths>
+#include <QThread>
 #include <QtConcurrent>
 
 #include <span>
@@ -77,20 +80,23 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
     SystemClock clock;
     SystemRandom random;
     SystemNetworkStatus network;
-    AllFeatures features;
     AppModel model(config, {.clock = clock,
                             .random = random,
                             .network = network,
-                            .features = features,
                             .dataFolder = dataFolder(),
                             .locale = readSystemLocale(),
-                            .openExternally = [](const QUrl& url) { QDesktopServices::openUrl(url); },
-                            .heldKeys =
+                            .openExternally = openInBrowser,
+                            .heldKeys = [] { return QGuiApplication::queryKeyboardModifiers(); },
+                            .makeSystemSecrets =
                                 [] {
-                                    return QGuiApplication::queryKeyboardModifiers();
+                                    return std::make_unique<KeychainSecureStore>();
                                 }});
     WindowManager windows(engine, model, appearance);
     model.setWindowHost(&windows);
+    // Behind every other translator, so that it is asked first.
+    CopyTranslator copy(*model.remoteConfig());
+    QCoreApplication::installTranslator(&copy);
+    QObject::connect(&copy, &CopyTranslator::changed, &windows, &WindowManager::retranslate);
     AppLifecycle lifecycle(model, windows, clock);
 
     WindowActivation comingForward;
@@ -115,6 +121,12 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
     if (const WindowSession* const session = model.keySession())
         report.watch(windows.windowOf(*session));
     const int status = QCoreApplication::exec();
+    // Who signs out and quits is not to be signed in again at the next start.
+    const QDeadlineTimer lastMoment(std::chrono::seconds(2));
+    while (model.auth()->isSaving() && !lastMoment.hasExpired()) {
+        QCoreApplication::processEvents();
+        QThread::msleep(5);
+    }
     if (probe)
         writeReport(options.eventLoopReportFile, probe->report());
     return status;

@@ -17,12 +17,18 @@ import { Customers } from './checkout/customers.mjs';
 import { HandOvers } from './checkout/handOvers.mjs';
 import { CheckoutSettings } from './checkout/settings.mjs';
 import { CheckoutSite } from './checkout/site.mjs';
+import { configControls } from './config/controls.mjs';
+import { RemoteConfig } from './config/remoteConfig.mjs';
 import { domain, hostNames, hosts, storefrontToken, supportKey } from './hosts.mjs';
 import { Alerts } from './orders/alerts.mjs';
 import { Orders } from './orders/orders.mjs';
 import { pastAlertsAt, pastAt } from './orders/past.mjs';
 import { PictureSite } from './pictures/site.mjs';
 import { Studio } from './pictures/studio.mjs';
+import { recoControls } from './reco/controls.mjs';
+import { RecoModes } from './reco/modes.mjs';
+import { Recommender } from './reco/recommender.mjs';
+import { SentenceSearch } from './reco/search.mjs';
 import { loadCertificates } from './server/certificates.mjs';
 import { createControl } from './server/control.mjs';
 import { Faults } from './server/faults.mjs';
@@ -61,7 +67,13 @@ export async function startStore({
   const pictures = new PictureSite({ catalog, studio: new Studio(join(stateDir, 'pictures')), journal });
   const storefront = new StorefrontSite({ catalog, carts, checkoutUrl: (cart) => checkoutUrl(cart, settings.values), journal });
   const pages = new CheckoutSite({ carts, checkouts, customers, settings, journal });
-  const backend = { ...signIns, alerts, carts, customers, handOvers, orders, settings, tracker, wishlists };
+  const recommender = new Recommender({ catalog, seed });
+  const recoModes = new RecoModes();
+  const remoteConfig = new RemoteConfig({ startedAt });
+  const backend = {
+    ...signIns, alerts, carts, catalog, customers, handOvers, orders, recoModes, recommender, remoteConfig, settings, tracker, wishlists,
+    sentenceSearch: new SentenceSearch({ catalog, recommender, index: () => storefront.index }),
+  };
   const sites = new Map([
     [hosts.shop, new ShopSite({ storefront, checkout: pages })],
     [hosts.service, new BackendSite({ store: backend, journal })],
@@ -72,7 +84,10 @@ export async function startStore({
   ]);
 
   const reset = () => {
-    const kept = [faults, carts, checkouts, handOvers, stock, prices, settings, ...Object.values(signIns), orders, alerts, tracker, wishlists, journal];
+    const kept = [
+      faults, carts, checkouts, handOvers, stock, prices, settings, ...Object.values(signIns), orders, alerts, tracker, wishlists, recoModes,
+      remoteConfig, journal,
+    ];
     kept.forEach((part) => part.clear());
     pages.release();
   };
@@ -82,6 +97,8 @@ export async function startStore({
   const more = {
     ...checkoutControls({ carts, checkouts, customers, settings, pages, stock, prices }),
     ...accountControls({ ...signIns, orders, faults }),
+    ...recoControls({ recoModes }),
+    ...configControls({ remoteConfig }),
   };
   const control = createControl({ journal, faults, tracker, wishlists, more, reset });
   const [proxyPort, ownControlPort] = await Promise.all([listen(proxy, port), listen(control, controlPort)]);

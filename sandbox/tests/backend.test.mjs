@@ -16,7 +16,6 @@ test('a widget path needs the key, however the call is made', async () => {
 });
 
 test('unknown paths, wrong methods and broken bodies are told apart', async () => {
-  await client.control('POST', '/reset');
   const unknown = await client.request(`${supportBase}/api/support/widget/nothing?publicKey=${publicKey}`);
   assert.deepEqual([unknown.status, unknown.json().code], [404, 'NOT_FOUND']);
   assert.equal((await client.backend('/api/pub/nothing', {})).json().code, 'NOT_FOUND', 'a public path wants no key');
@@ -30,7 +29,6 @@ test('unknown paths, wrong methods and broken bodies are told apart', async () =
 });
 
 test('a summary of a wishlist is taken whole or not at all', async () => {
-  await client.control('POST', '/reset');
   const item = { handle: 'party-dress', title: 'Party dress', price: 248, currency: 'USD' };
   const sync = (body) => client.backend('/api/support/widget/wishlist-sync', { publicKey, ...body });
   assert.equal((await sync({ items: [item], email: 'jane@mail.example', platform: 'macos' })).status, 200);

@@ -32,8 +32,8 @@ test('what is described is served, and what is served or called by the applicati
   const described = description.operations.map(({ path, method }) => `${method} ${path}`).sort();
   const served = endpoints.flatMap(({ path, methods }) => methods.map((method) => `${method} ${widgetPrefix}${path}`)).sort();
   assert.deepEqual(described, served);
-  assert.ok(calledPaths().size > 5, 'calls are found');
-  for (const path of calledPaths()) assert.ok(described.includes(`POST ${widgetPrefix}${path}`), path);
+  assert.ok(calledPaths().length > 5, 'calls are found');
+  for (const [method, path] of calledPaths()) assert.ok(described.includes(`${method} ${widgetPrefix}${path}`), `${method} ${path}`);
 });
 
 test('every example is answered as described', async () => {
@@ -80,6 +80,13 @@ const ways = {
     '/profile-update': () => ({ birthday: '1991-02-30' }),
     '/tracking': () => ({ number: ' ' }),
     '/alerts-add': () => ({ kind: 'mood' }),
+    '/reco': () => ({ limit: 61 }),
+    '/pdp-reco': () => ({ handle: '' }),
+    '/vessa/reco-rails': () => ({ gender: 'both' }),
+    '/search-ai': () => ({ offset: -1 }),
+    '/vessa/product-stats': () => ({ handles: 'one,'.repeat(251) }),
+    '/brand-stats': () => ({ vendor: '' }),
+    '/app-version/config': () => ({ platform: 'toaster' }),
     '/shopify-checkout/prepare': () => ({ locale: 'english' }),
     '/shopify-checkout/revoke': () => ({ appToken: 7 }),
     '/wishlist-sync': () => ({ items: [{}] }),
@@ -90,6 +97,8 @@ const ways = {
     '/tracking': () => ({ number: 'LP0' }),
     '/alerts-add': () => ({ handle: 'no-such-piece' }),
     '/alerts-remove': () => ({ id: 'a0' }),
+    '/reco': () => ({ kind: 'collection', handle: 'no-such-collection' }),
+    '/pdp-reco': () => ({ handle: 'no-such-piece' }),
     '/shopify-checkout/prepare': () => ({ cartId: 'gid://shopify/Cart/none?key=none' }),
   },
   CHECKOUT_AUTH_UNAVAILABLE: { '/shopify-checkout/prepare': () => ({ appToken: undefined }) },
@@ -145,10 +154,14 @@ async function inserted(path, example) {
   return input;
 }
 
-/** The paths that the application's sources post to. */
+/** [method, path] of every call that the application's sources make. */
 function calledPaths() {
   const sources = new URL('../../src/', import.meta.url);
   const files = readdirSync(sources, { recursive: true }).filter((name) => name.endsWith('.cpp'));
-  const calls = /(?:\.post|\bsignedIn|\bpost)\(\s*QStringLiteral\("(\/[^"]+)"\)/g;
-  return new Set(files.flatMap((name) => [...readFileSync(new URL(name, sources), 'utf8').matchAll(calls)].map(([, path]) => path)));
+  const posts = /(?:\.post|\bsignedIn|\bpost)\(\s*QStringLiteral\("(\/[^"]+)"\)/g;
+  const reads = /(?:\.|->)get\(\s*QStringLiteral\("(\/[^"]+)"\)/g;
+  return files.flatMap((name) => {
+    const text = readFileSync(new URL(name, sources), 'utf8');
+    return [['POST', posts], ['GET', reads]].flatMap(([method, calls]) => [...text.matchAll(calls)].map(([, path]) => [method, path]));
+  });
 }

@@ -1,5 +1,5 @@
 import assert from 'node:assert/strict';
-import { beforeEach, test } from 'node:test';
+import { test } from 'node:test';
 
 import { storeForTests } from './support/store.mjs';
 import { Shopper } from './support/shopper.mjs';
@@ -8,8 +8,6 @@ const { client, catalog } = await storeForTests();
 const shopper = new Shopper(client);
 const sabine = catalog.piece('sabine-bias-slip-dress').variants.find(({ stock }) => stock > 1).id;
 const orders = async () => (await client.control('GET', '/orders')).value.length;
-
-beforeEach(() => client.control('POST', '/reset'));
 
 /** The page that waits for the bank, and the address of the bank that it names. */
 async function confirmPage(bank) {

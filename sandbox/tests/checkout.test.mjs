@@ -1,5 +1,5 @@
 import assert from 'node:assert/strict';
-import { beforeEach, test } from 'node:test';
+import { test } from 'node:test';
 
 import { storeForTests } from './support/store.mjs';
 import { Shopper } from './support/shopper.mjs';
@@ -15,8 +15,6 @@ const textOf = ({ text }) => text.replace(/<(style|script|head)[\s\S]*?<\/\1>/g,
 const orderNumber = (page) => /\border\s*(?:number|no\.?)?\s*[:#]\s*#?\s*([A-Z]{0,4}\d{3,})/i.exec(textOf(page))?.[1] ?? null;
 const confirmationNumber = (page) => /\bconfirmation\s*(?:number|no\.?)?\s*[:#]\s*#?\s*([A-Z0-9]{6,})/i.exec(textOf(page))?.[1] ?? null;
 const paths = async () => (await client.control('GET', '/requests')).value.map(({ operation }) => operation).filter(Boolean);
-
-beforeEach(() => client.control('POST', '/reset'));
 
 test('a cart leads to its form, one press leads to an order, and the cart is over', async () => {
   const cart = await shopper.cart(sabine, { quantity: 2 });

@@ -1,6 +1,6 @@
 import assert from 'node:assert/strict';
 import { setTimeout as sleep } from 'node:timers/promises';
-import { beforeEach, test } from 'node:test';
+import { test } from 'node:test';
 
 import { operations } from './support/operations.mjs';
 import { storeForTests } from './support/store.mjs';
@@ -9,8 +9,6 @@ const { client, ready } = await storeForTests();
 const endpoint = `https://${ready.shopifyDomain}/api/2025-04/graphql.json`;
 const call = (name = 'Countries') => client.post(endpoint, { query: operations[name], variables: {} }, { 'x-shopify-storefront-access-token': ready.storefrontToken });
 const fault = async (wanted) => (await client.control('POST', '/faults', wanted)).value.id;
-
-beforeEach(() => client.control('POST', '/reset'));
 
 test('a fault strikes what it matches, as often as it was told, and nothing else', async () => {
   await fault({ match: { operation: 'Countries' }, kind: 'status', status: 503, body: 'down for tea', times: 2 });

@@ -1,5 +1,5 @@
 import assert from 'node:assert/strict';
-import { beforeEach, test } from 'node:test';
+import { test } from 'node:test';
 
 import { Member } from './support/member.mjs';
 import { Shopper } from './support/shopper.mjs';
@@ -11,8 +11,6 @@ const member = new Member(client, ready);
 const sabine = catalog.piece('sabine-bias-slip-dress').variants.find(({ stock }) => stock > 1).id;
 const widget = '/api/support/widget/shopify-checkout';
 const start = `${ready.supportBase}${widget}/start`;
-
-beforeEach(() => client.control('POST', '/reset'));
 
 async function prepare(changes = {}) {
   const { id } = await shopper.cart(sabine);

@@ -1,5 +1,5 @@
 import assert from 'node:assert/strict';
-import { beforeEach, test } from 'node:test';
+import { test } from 'node:test';
 
 import { designers } from '../src/catalog/designers.mjs';
 import { storeForTests } from './support/store.mjs';
@@ -16,8 +16,6 @@ const sectionPages = [
   '/search', '/collections', '/collections/dresses?sort=price-low&page=2', '/collections/autumn-preview', '/products/sabine-bias-slip-dress',
   '/collections/women/products/odile-tiered-dress', ...catalog.collectionByHandle.get('curiosities').pieces.map(({ handle }) => `/products/${encodeURIComponent(handle)}`),
 ];
-
-beforeEach(() => client.control('POST', '/reset'));
 
 test('every page answers and every link and picture on it leads somewhere', async () => {
   const targets = new Set();

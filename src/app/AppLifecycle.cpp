@@ -1,5 +1,6 @@
 #include "app/AppLifecycle.h"
 
+#include "account/ProofKey.h"
 #include "app/AppModel.h"
 #include "app/WindowHost.h"
 #include "base/Clock.h"
@@ -20,9 +21,9 @@ constexpr qsizetype maximumLinks = 12;
 
 bool isAcceptable(const QString& link)
 {
-    return link.size() <= maximumLinkLength && std::ranges::none_of(link.trimmed(), [](QChar character) {
-               return character.category() == QChar::Other_Control;
-           });
+    return link.size() <= maximumLinkLength && !isCallback(link) &&
+           std::ranges::none_of(link.trimmed(),
+                                [](QChar character) { return character.category() == QChar::Other_Control; });
 }
 
 } // namespace
@@ -87,6 +88,11 @@ void AppLifecycle::handleOpen(const QString& link)
 
 void AppLifecycle::handleOpen(const QStringList& links)
 {
+    // A sign-in that comes back is no link, and nothing else looks at it. The window it began in comes to the front.
+    for (const QString& link : links) {
+        if (link.size() <= maximumLinkLength)
+            m_model.auth()->takeCallback(link);
+    }
     const QStringList opened = acceptable(links);
     for (const QString& link : opened)
         handleOpen(link);
@@ -103,6 +109,7 @@ void AppLifecycle::handleAction(const QString& name)
     }
     handleReopen();
     WindowSession& session = *m_model.keySession();
+    session.setSignInPresented(false); // it would lie over what is asked for
     if (name == QLatin1String("search"))
         session.setPendingSearchFocus(true);
     else if (name == QLatin1String("bag"))

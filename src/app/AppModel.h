@@ -1,5 +1,15 @@
 #pragma once
 
+#include "account/AccountRemoval.h"
+#include "account/AlertsStore.h"
+#include "account/AuthStore.h"
+#include "account/OrderModel.h"
+#include "account/OrdersModel.h"
+#include "account/OrdersStore.h"
+#include "account/ProductAlerts.h"
+#include "account/ProfileStore.h"
+#include "account/SignInModel.h"
+#include "account/TrackingModel.h"
 #include "app/AppCommands.h"
 #include "app/AppConfig.h"
 #include "app/AppSession.h"
@@ -9,10 +19,10 @@
 #include "app/WindowServices.h"
 #include "app/WindowSession.h"
 #include "base/Announcements.h"
-#include "base/FeatureGates.h"
 #include "catalog/BrandsModel.h"
 #include "catalog/CollectionModel.h"
 #include "catalog/CollectionTilesModel.h"
+#include "catalog/DateFormat.h"
 #include "catalog/MarketChoicesModel.h"
 #include "catalog/MarketStore.h"
 #include "catalog/MoneyFormat.h"
@@ -28,10 +38,17 @@
 #include "commerce/RecentlyViewedStore.h"
 #include "commerce/SuggestionsModel.h"
 #include "commerce/WishlistStore.h"
+#include "discovery/BrandCounters.h"
+#include "discovery/HomeModel.h"
+#include "discovery/NotInterested.h"
+#include "discovery/ProductCompanions.h"
+#include "discovery/RecoRail.h"
+#include "discovery/RecoSaving.h"
 #include "net/HttpTransport.h"
-#include "net/SessionSource.h"
 #include "net/Tracker.h"
-#include "net/WidgetClient.h"
+#include "services/RemoteConfig.h"
+#include "services/ToolsModel.h"
+#include "storage/ChosenSecureStore.h"
 #include "storage/DataFolder.h"
 #include "storage/Preferences.h"
 
@@ -47,11 +64,12 @@ struct AppPlatform {
     Clock& clock;
     Random& random;
     NetworkStatus& network;
-    FeatureGates& features;
     QString dataFolder;
     SystemLocale locale;
     std::function<void(const QUrl&)> openExternally;
     std::function<Qt::KeyboardModifiers()> heldKeys;
+    /// Makes the system's credential store; null, or nothing to make one, where there is none.
+    std::function<std::unique_ptr<SecureStore>()> makeSystemSecrets;
 };
 
 /// The root: creates every long-lived client and store once, in order, hands each what it needs, and owns the open
@@ -59,12 +77,19 @@ struct AppPlatform {
 class AppModel final : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(loom::AuthStore* auth READ auth CONSTANT)
+    Q_PROPERTY(loom::SignInModel* signIn READ signIn CONSTANT)
+    Q_PROPERTY(loom::OrdersStore* orders READ orders CONSTANT)
+    Q_PROPERTY(loom::ProfileStore* profile READ profile CONSTANT)
+    Q_PROPERTY(loom::AlertsStore* alerts READ alerts CONSTANT)
     Q_PROPERTY(loom::MarketStore* market READ market CONSTANT)
     Q_PROPERTY(loom::AppSettings* settings READ settings CONSTANT)
     Q_PROPERTY(loom::CartModel* cart READ cart CONSTANT)
     Q_PROPERTY(loom::CheckoutStarter* checkout READ checkout CONSTANT)
     Q_PROPERTY(loom::WishlistStore* wishlist READ wishlist CONSTANT)
     Q_PROPERTY(loom::RecentlyViewedStore* recentlyViewed READ recentlyViewed CONSTANT)
+    Q_PROPERTY(loom::RemoteConfig* remoteConfig READ remoteConfig CONSTANT)
+    Q_PROPERTY(loom::NotInterested* notInterested READ notInterested CONSTANT)
     Q_PROPERTY(loom::AppSession* session READ session CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QString storeWebAddress READ storeWebAddress CONSTANT)
@@ -75,8 +100,15 @@ public:
 
     [[nodiscard]] const AppConfig& config() const { return m_config; }
     [[nodiscard]] StorefrontAPI& storefront() { return m_storefront; }
-    [[nodiscard]] WidgetClient& widget() { return m_widget; }
+    [[nodiscard]] WidgetClient& widget() { return m_auth.widget(); }
+    [[nodiscard]] AuthStore* auth() { return &m_auth; }
+    [[nodiscard]] SignInModel* signIn() { return &m_signIn; }
+    [[nodiscard]] OrdersStore* orders() { return &m_orders; }
+    [[nodiscard]] ProfileStore* profile() { return &m_profile; }
+    [[nodiscard]] AlertsStore* alerts() { return &m_alerts; }
     [[nodiscard]] AppSession* session() { return &m_session; }
+    [[nodiscard]] RemoteConfig* remoteConfig() { return &m_remoteConfig; }
+    [[nodiscard]] NotInterested* notInterested() { return &m_notInterested; }
     [[nodiscard]] MarketStore* market() { return &m_market; }
     [[nodiscard]] AppSettings* settings() { return &m_settings; }
     [[nodiscard]] CartModel* cart() { return &m_cartModel; }
@@ -132,14 +164,32 @@ public:
     /// The collections of a department, or with an empty id those of all departments.
     [[nodiscard]] Q_INVOKABLE loom::CollectionTilesModel* makeDepartment(QObject* owner, const QString& id);
     [[nodiscard]] Q_INVOKABLE loom::BrandsModel* makeBrands(QObject* owner);
+    [[nodiscard]] Q_INVOKABLE loom::HomeModel* makeHome(QObject* owner);
+    /// A page of recommendations: `kind` as links write it, `handle` of a collection where it is of one.
+    [[nodiscard]] Q_INVOKABLE loom::RecoRail* makeRecommendations(QObject* owner, const QString& kind,
+                                                                  const QString& handle, const QString& title);
+    [[nodiscard]] Q_INVOKABLE loom::ProductCompanions* makeCompanions(QObject* owner, const QString& handle);
+    [[nodiscard]] Q_INVOKABLE loom::BrandCounters* makeBrandCounters(QObject* owner, const QString& vendor);
+    [[nodiscard]] Q_INVOKABLE loom::ToolsModel* makeTools(QObject* owner);
     /// The ways to buy what a product's page shows; its `product` belongs to the page too.
     [[nodiscard]] Q_INVOKABLE loom::BuyModel* makeBuying(QObject* owner, loom::ProductModel* product);
+    /// What such a page offers to tell the shopper of.
+    [[nodiscard]] Q_INVOKABLE loom::ProductAlerts* makeProductAlerts(QObject* owner, loom::ProductModel* product);
     [[nodiscard]] Q_INVOKABLE loom::KeptPiecesModel* makeWishlist(QObject* owner);
     [[nodiscard]] Q_INVOKABLE loom::KeptPiecesModel* makeRecentlyViewed(QObject* owner);
     [[nodiscard]] Q_INVOKABLE loom::PriceDropsModel* makePriceDrops(QObject* owner);
     [[nodiscard]] Q_INVOKABLE loom::CompareModel* makeCompare(QObject* owner, const QStringList& handles);
+    [[nodiscard]] Q_INVOKABLE loom::AccountRemoval* makeAccountRemoval(QObject* owner);
+    /// Those of a tab, as OrdersModel knows it by name.
+    [[nodiscard]] Q_INVOKABLE loom::OrdersModel* makeOrders(QObject* owner, const QString& tab);
+    [[nodiscard]] Q_INVOKABLE loom::OrderModel* makeOrder(QObject* owner, const QString& id);
+    /// Both may be empty.
+    [[nodiscard]] Q_INVOKABLE loom::TrackingModel* makeTracking(QObject* owner, const QString& number,
+                                                                const QString& carrier);
     [[nodiscard]] Q_INVOKABLE loom::AppCommands* makeCommands(QObject* owner, loom::WindowSession* session);
 
+    /// Opens the settings at the page of this name.
+    Q_INVOKABLE void showSettings(const QString& page);
     /// Where a picture of the window taken now is to be saved.
     [[nodiscard]] Q_INVOKABLE QString screenshotPath() const;
     /// Opens the folder that a file lies in.
@@ -159,6 +209,9 @@ private:
     [[nodiscard]] std::vector<ProductHit> knownPieces() const;
     WindowSession& show(std::unique_ptr<WindowSession> session);
     [[nodiscard]] std::vector<WindowState> windowStates() const;
+    [[nodiscard]] RecoServices recoServices();
+    [[nodiscard]] RecoIdentity recoIdentity();
+    [[nodiscard]] QStringList sessionViewed() const;
     /// What the models of kept pieces need.
     [[nodiscard]] KeptPiecesModel::Services keptServices();
     template <typename Model>
@@ -169,24 +222,33 @@ private:
     DataFolder m_folder;
     Preferences m_preferences;
     AppSettings m_settings;
-    NoSession m_noSession;
     HttpTransport m_transport;
+    Announcements m_announcements;
+    ChosenSecureStore m_secrets;
+    AuthStore m_auth;
+    RemoteConfig m_remoteConfig;
     StorefrontClient m_storefrontClient;
     StorefrontAPI m_storefront;
-    WidgetClient m_widget;
     Tracker m_tracker;
     AppSession m_session;
     QSet<QString> m_claimed;
     MoneyFormat m_money;
+    DateFormat m_dates;
     MarketStore m_market;
     RecentSearches m_recentSearches;
-    Announcements m_announcements;
     CartAPI m_cartAPI;
     CartStore m_cart;
     CartModel m_cartModel;
     CheckoutStarter m_checkout;
     WishlistStore m_wishlist;
     RecentlyViewedStore m_recentlyViewed;
+    NotInterested m_notInterested;
+    RecoAPI m_reco;
+    RecoSaving m_recoSaving;
+    SignInModel m_signIn;
+    OrdersStore m_orders;
+    ProfileStore m_profile;
+    AlertsStore m_alerts;
     bool m_didBootstrap = false;
     ClosedTabs m_closedTabs;
     WindowServices m_services;

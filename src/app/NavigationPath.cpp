@@ -8,7 +8,9 @@ namespace loom
 void NavigationPath::show(std::vector<VisitedPage> pages, int top)
 {
     for (int row = rowCount() - 1; row >= 0; --row) {
-        if (std::ranges::find(pages, m_pages[static_cast<std::size_t>(row)].id, &VisitedPage::id) != pages.end())
+        const VisitedPage& page = m_pages[static_cast<std::size_t>(row)];
+        const auto same = std::ranges::find(pages, page.id, &VisitedPage::id);
+        if (same != pages.end() && same->entry.kind == page.entry.kind)
             continue;
         beginRemoveRows({}, row, row);
         m_pages.erase(m_pages.begin() + row);

@@ -32,7 +32,8 @@ public:
     [[nodiscard]] int top() const { return m_top; }
     [[nodiscard]] const std::vector<VisitedPage>& pages() const { return m_pages; }
 
-    /// Pages that stay keep their rows; none changes its place among those that stay.
+    /// Pages that stay keep their rows, unless they are of another kind now; none changes its place among those that
+    /// stay.
     void show(std::vector<VisitedPage> pages, int top);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

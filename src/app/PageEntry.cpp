@@ -4,6 +4,7 @@
 #include "navigation/StorePages.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 namespace loom
 {
@@ -14,9 +15,15 @@ namespace
 /// Routes without a native page show the store's own; some of those know their title.
 QString storePageTitle(const Route& route)
 {
-    if (const auto* const shop = std::get_if<ShopRoute>(&route)) {
-        if (const auto* const rail = std::get_if<ShopRoute::Rail>(&shop->page))
-            return rail->title;
+    if (const auto* const account = std::get_if<AccountRoute>(&route)) {
+        if (std::holds_alternative<AccountRoute::Membership>(account->page))
+            return QCoreApplication::translate("Loomstreet", "Membership");
+        if (std::holds_alternative<AccountRoute::Coupons>(account->page))
+            return QCoreApplication::translate("Loomstreet", "Coupons");
+    }
+    if (const auto* const orders = std::get_if<OrdersRoute>(&route)) {
+        if (std::holds_alternative<OrdersRoute::Returns>(orders->page))
+            return QCoreApplication::translate("Loomstreet", "Returns");
     }
     if (const auto* const profile = std::get_if<VessaProfileRoute>(&route)) {
         if (const auto* const collection = std::get_if<VessaProfileRoute::Collection>(&profile->page))
@@ -27,15 +34,52 @@ QString storePageTitle(const Route& route)
     return {};
 }
 
+PageEntry titled(PageKind::Kind kind, const char* title, const char* symbol)
+{
+    return {.kind = kind,
+            .title = QCoreApplication::translate("Loomstreet", title),
+            .symbol = QString::fromLatin1(symbol),
+            .item = {}};
+}
+
+/// Pages of the account that the window draws itself.
+std::optional<PageEntry> accountPage(const AccountRoute& route)
+{
+    if (std::holds_alternative<AccountRoute::Profile>(route.page))
+        return titled(PageKind::Kind::Profile, QT_TRANSLATE_NOOP("Loomstreet", "Profile"), "person.crop.circle");
+    if (std::holds_alternative<AccountRoute::Alerts>(route.page))
+        return titled(PageKind::Kind::Alerts, QT_TRANSLATE_NOOP("Loomstreet", "Alerts"), "bell");
+    return std::nullopt;
+}
+
+/// Pages of orders that the window draws itself.
+std::optional<PageEntry> ordersPage(const OrdersRoute& route, const StorePages& storePages)
+{
+    if (const auto* const list = std::get_if<OrdersRoute::List>(&route.page)) {
+        PageEntry page = pageFor(SidebarItem::Orders, storePages);
+        page.handle = list->tab.value_or(QString());
+        return page;
+    }
+    if (const auto* const order = std::get_if<OrdersRoute::Order>(&route.page)) {
+        PageEntry page = titled(PageKind::Kind::Order, QT_TRANSLATE_NOOP("Loomstreet", "Order"), "shippingbox");
+        page.handle = order->id;
+        return page;
+    }
+    if (const auto* const package = std::get_if<OrdersRoute::Package>(&route.page)) {
+        return PageEntry{.kind = PageKind::Kind::Package,
+                         .handle = package->number,
+                         .title = package->carrier.value_or(QString()),
+                         .symbol = QStringLiteral("shippingbox"),
+                         .item = {}};
+    }
+    if (std::holds_alternative<OrdersRoute::Tracking>(route.page))
+        return titled(PageKind::Kind::Tracking, QT_TRANSLATE_NOOP("Loomstreet", "Track a package"), "shippingbox");
+    return std::nullopt;
+}
+
 /// Pages of the shop that the window draws itself.
 std::optional<PageEntry> shopPage(const ShopRoute& route, const StorePages& storePages)
 {
-    const auto titled = [](PageKind::Kind kind, const char* title, const char* symbol) {
-        return PageEntry{.kind = kind,
-                         .title = QCoreApplication::translate("Loomstreet", title),
-                         .symbol = QString::fromLatin1(symbol),
-                         .item = {}};
-    };
     if (const auto* const product = std::get_if<ShopRoute::Product>(&route.page)) {
         return PageEntry{.kind = PageKind::Kind::Product,
                          .handle = product->handle,
@@ -61,6 +105,13 @@ std::optional<PageEntry> shopPage(const ShopRoute& route, const StorePages& stor
         PageEntry page = titled(PageKind::Kind::Compare, QT_TRANSLATE_NOOP("Loomstreet", "Compare"), "square.grid.2x2");
         page.handles = compare->handles;
         return page;
+    }
+    if (const auto* const rail = std::get_if<ShopRoute::Rail>(&route.page)) {
+        return PageEntry{.kind = PageKind::Kind::Rail,
+                         .title = rail->title,
+                         .symbol = QStringLiteral("sparkles"),
+                         .item = {},
+                         .handles = {rail->kind, rail->key}};
     }
     if (const auto* const category = std::get_if<ShopRoute::Category>(&route.page)) {
         const Department* const department = findDepartment(category->id);
@@ -97,6 +148,12 @@ PageEntry pageFor(SidebarItem item, const StorePages& storePages)
         page.kind = PageKind::Kind::Brands;
     } else if (item == SidebarItem::Wishlist) {
         page.kind = PageKind::Kind::Wishlist;
+    } else if (item == SidebarItem::Orders) {
+        page.kind = PageKind::Kind::Orders;
+    } else if (item == SidebarItem::Account) {
+        page.kind = PageKind::Kind::Account;
+    } else if (item == SidebarItem::Tools) {
+        page.kind = PageKind::Kind::Tools;
     } else if (const auto handle = collectionHandle(item)) {
         page.kind = PageKind::Kind::Collection;
         page.handle = *handle;
@@ -112,15 +169,46 @@ PageEntry pageFor(SidebarItem item, const StorePages& storePages)
 
 PageEntry pageFor(const Route& route, const StorePages& storePages)
 {
-    if (const auto* const shop = std::get_if<ShopRoute>(&route)) {
-        if (auto page = shopPage(*shop, storePages))
-            return *std::move(page);
-    }
+    std::optional<PageEntry> drawn;
+    if (const auto* const shop = std::get_if<ShopRoute>(&route))
+        drawn = shopPage(*shop, storePages);
+    else if (const auto* const account = std::get_if<AccountRoute>(&route))
+        drawn = accountPage(*account);
+    else if (const auto* const orders = std::get_if<OrdersRoute>(&route))
+        drawn = ordersPage(*orders, storePages);
+    if (drawn)
+        return *std::move(drawn);
     PageEntry page{.symbol = QStringLiteral("browser"), .item = {}};
     page.address = storePages.page(route);
     page.kind = page.address.isValid() ? PageKind::Kind::StorePage : PageKind::Kind::Unknown;
     page.title = storePageTitle(route);
     return page;
+}
+
+std::optional<Feature> featureOf(const Route& route)
+{
+    if (std::holds_alternative<LensRoute>(route))
+        return Feature::ImageSearch;
+    const auto* const store = std::get_if<StorePageRoute>(&route);
+    if (!store)
+        return std::nullopt;
+    // The same pages, where a link within the store's site leads to them.
+    const QString path =
+        std::get<StorePageRoute::Page>(store->page).path.section(QRegularExpression(QStringLiteral("[?#]")), 0, 0);
+    if (path == QLatin1String("/pages/image-search"))
+        return Feature::ImageSearch;
+    if (path == QLatin1String("/pages/outfit-ideas"))
+        return Feature::ClosetGenerate;
+    return std::nullopt;
+}
+
+PageEntry pausedPage(const PageEntry& page)
+{
+    PageEntry paused =
+        titled(PageKind::Kind::Paused, QT_TRANSLATE_NOOP("Loomstreet", "Temporarily unavailable"), "pause");
+    if (!page.title.isEmpty())
+        paused.title = page.title;
+    return paused;
 }
 
 } // namespace loom

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/FeatureGates.h"
 #include "navigation/Routes.h"
 #include "navigation/SidebarItem.h"
 
@@ -26,8 +27,18 @@ enum class Kind {
     Wishlist,
     RecentlyViewed,
     PriceDrops,
-    Compare,   ///< the pieces named by the handles
+    Rail,    ///< recommendations: the handles are their kind and what they are of
+    Compare, ///< the pieces named by the handles
+    Account,
+    Orders,  ///< those of the tab that is the handle, or all
+    Order,   ///< whose id is the handle
+    Package, ///< of the number that is the handle; the title is who carries it, if that is known
+    Tracking,
+    Profile,
+    Alerts,
+    Tools,
     StorePage, ///< the store's own web page
+    Paused,    ///< in the place of a page whose feature the store switched off
     Unknown,
 };
 Q_ENUM_NS(Kind)
@@ -63,6 +74,12 @@ public:
 
 /// The page of a pushed route.
 [[nodiscard]] PageEntry pageFor(const Route& route, const StorePages& storePages);
+
+/// The feature without which there is no such page; none where the store cannot switch it off.
+[[nodiscard]] std::optional<Feature> featureOf(const Route& route);
+
+/// What stands in the place of a page while its feature is switched off.
+[[nodiscard]] PageEntry pausedPage(const PageEntry& page);
 
 } // namespace loom
 

@@ -3,6 +3,7 @@
 #include "app/WindowServices.h"
 #include "app/WindowSession.h"
 #include "base/Clock.h"
+#include "base/FeatureGates.h"
 #include "base/Random.h"
 #include "storage/Preferences.h"
 
@@ -78,10 +79,13 @@ QMap<int, QString> Router::pageTitles() const
     return titles;
 }
 
-PageEntry Router::entryAt(std::size_t index) const
+PageEntry Router::entryOf(const History::Page& page) const
 {
-    const History::Page& page = m_history.pages()[index];
-    return page.route ? pageFor(*page.route, m_services.storePages) : pageFor(page.section, m_services.storePages);
+    if (!page.route)
+        return pageFor(page.section, m_services.storePages);
+    const PageEntry entry = pageFor(*page.route, m_services.storePages);
+    const auto feature = featureOf(*page.route);
+    return feature && !m_services.features.isEnabled(*feature) ? pausedPage(entry) : entry;
 }
 
 PageEntry Router::page(int depth) const
@@ -188,6 +192,16 @@ void Router::apply(SidebarItem before)
     Q_EMIT stackChanged();
     Q_EMIT titleChanged();
     Q_EMIT topChanged();
+}
+
+void Router::resolveAgain()
+{
+    const bool isSame = std::ranges::all_of(m_navigationPath.pages(), [this](const VisitedPage& shown) {
+        const History::Page* const page = m_history.find(shown.id);
+        return !page || entryOf(*page).kind == shown.entry.kind;
+    });
+    if (!isSame)
+        apply(selection());
 }
 
 TabState Router::state() const

@@ -105,7 +105,19 @@ public:
     Q_INVOKABLE void openSearch(const QString& query);
     /// Where a picture is given to search by.
     Q_INVOKABLE void openImageSearch() { push(LensRoute{LensRoute::Start{}}); }
+    Q_INVOKABLE void openRail(const QString& kind, const QString& key, const QString& title);
     Q_INVOKABLE void openWishlist();
+    Q_INVOKABLE void openAccount() { select(SidebarItem::Account); }
+    Q_INVOKABLE void openProfile() { push(AccountRoute{AccountRoute::Profile{}}); }
+    Q_INVOKABLE void openAlerts() { push(AccountRoute{AccountRoute::Alerts{}}); }
+    Q_INVOKABLE void openMembership() { push(AccountRoute{AccountRoute::Membership{}}); }
+    Q_INVOKABLE void openCoupons() { push(AccountRoute{AccountRoute::Coupons{}}); }
+    Q_INVOKABLE void openOrders() { select(SidebarItem::Orders); }
+    Q_INVOKABLE void openOrder(const QString& id) { push(OrdersRoute{OrdersRoute::Order{.id = id}}); }
+    /// `carrier` may be empty.
+    Q_INVOKABLE void openPackage(const QString& number, const QString& carrier);
+    Q_INVOKABLE void openTracking() { push(OrdersRoute{OrdersRoute::Tracking{}}); }
+    Q_INVOKABLE void openReturns() { push(OrdersRoute{OrdersRoute::Returns{}}); }
     Q_INVOKABLE void openRecentlyViewed();
     Q_INVOKABLE void openPriceDrops();
     Q_INVOKABLE void openCompare(const QStringList& handles);
@@ -115,6 +127,8 @@ public:
     /// store are pushed, the rest goes to the browser.
     Q_INVOKABLE void openFromStorePage(const QString& link);
     Q_INVOKABLE void openStorePage(const QString& path, const QString& title);
+    /// One of the shopper's tools, by the key the store knows it by; `title` as the page before called it.
+    Q_INVOKABLE void openTool(const QString& key, const QString& title);
     void push(const Route& route);
     void select(SidebarItem item);
     Q_INVOKABLE void selectItem(int item);
@@ -136,6 +150,10 @@ public:
     /// A visible page's own way to reload: its method "reload" is called. The key takes it back.
     Q_INVOKABLE int addReloadHandler(QObject* page);
     Q_INVOKABLE void removeReloadHandler(int key) { m_reloadHandlers.remove(key); }
+
+    /// The store may have switched features off or on: pages give their places up for the notice that says so, and
+    /// come back to them.
+    void resolveAgain();
 
     /// A page tells its title.
     Q_INVOKABLE void setPageTitle(int pageID, const QString& title);
@@ -164,7 +182,8 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] int selectionIndex() const { return static_cast<int>(selection()); }
-    [[nodiscard]] PageEntry entryAt(std::size_t index) const;
+    [[nodiscard]] PageEntry entryOf(const History::Page& page) const;
+    [[nodiscard]] PageEntry entryAt(std::size_t index) const { return entryOf(m_history.pages()[index]); }
     [[nodiscard]] QString titleAt(std::size_t index) const;
     [[nodiscard]] QVariant previewVariant() const { return m_preview ? QVariant::fromValue(*m_preview) : QVariant(); }
     [[nodiscard]] bool isSplitPreviewAvailable() const;

@@ -1,3 +1,4 @@
+#include "account/ProofKey.h"
 #include "app/Router.h"
 #include "app/WindowServices.h"
 #include "app/WindowSession.h"
@@ -23,6 +24,9 @@ std::optional<ProductListItem> cardIn(const QVariant& item)
 
 bool Router::open(const std::optional<QString>& link)
 {
+    // A sign-in's way back is a secret, and no link: it ends here, and whoever brought it is not to search for it.
+    if (link && isCallback(*link))
+        return true;
     return std::visit(Overloaded{
                           [this](const LinkResolver::Product& product) {
                               openProduct({.handle = product.handle, .item = {}}, OpenMode::Page);
@@ -161,9 +165,20 @@ void Router::openSearch(const QString& query)
     push(ShopRoute{ShopRoute::Search{.query = visible}});
 }
 
+void Router::openRail(const QString& kind, const QString& key, const QString& title)
+{
+    push(ShopRoute{ShopRoute::Rail{.kind = kind, .key = key, .title = title}});
+}
+
 void Router::openWishlist()
 {
     select(SidebarItem::Wishlist);
+}
+
+void Router::openPackage(const QString& number, const QString& carrier)
+{
+    push(OrdersRoute{
+        OrdersRoute::Package{.number = number, .carrier = carrier.isEmpty() ? std::nullopt : std::optional(carrier)}});
 }
 
 void Router::openRecentlyViewed()
@@ -193,6 +208,8 @@ void Router::setCompared(int pageID, const QStringList& handles)
 
 void Router::openFromStorePage(const QString& link)
 {
+    if (isCallback(link))
+        return;
     const LinkResolver::Target target = m_services.resolver.resolve(link);
     const auto* const external = std::get_if<LinkResolver::External>(&target);
     if (!external || !m_services.storePages.mayLoad(external->url)) {
@@ -205,6 +222,24 @@ void Router::openFromStorePage(const QString& link)
 void Router::openStorePage(const QString& path, const QString& title)
 {
     push(StorePageRoute{StorePageRoute::Page{.path = path, .title = title}});
+}
+
+void Router::openTool(const QString& key, const QString& title)
+{
+    if (key == QLatin1String("closet"))
+        select(SidebarItem::Closet);
+    else if (key == QLatin1String("studio"))
+        openStorePage(QStringLiteral("/pages/studio"), title);
+    else if (key == QLatin1String("lookbook"))
+        openStorePage(QStringLiteral("/pages/lookbook"), title);
+    else if (key == QLatin1String("outfitIdeas"))
+        openStorePage(QStringLiteral("/pages/outfit-ideas"), title);
+    else if (key == QLatin1String("sizeAdvice"))
+        openStorePage(QStringLiteral("/pages/size-advice"), title);
+    else if (key == QLatin1String("imageSearch"))
+        openImageSearch();
+    else if (key == QLatin1String("compare"))
+        openCompare({});
 }
 
 } // namespace loom

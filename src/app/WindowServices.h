@@ -10,6 +10,7 @@ namespace loom
 
 class Clock;
 class ClosedTabs;
+class FeatureGates;
 class Preferences;
 class Random;
 
@@ -19,6 +20,7 @@ struct WindowServices {
     Random& random;
     Preferences& preferences;
     ClosedTabs& closedTabs;
+    const FeatureGates& features;
     LinkResolver resolver;
     StorePages storePages;
     /// Hands an address to the shopper's browser.

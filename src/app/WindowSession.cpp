@@ -48,6 +48,12 @@ WindowSession::~WindowSession()
     Q_EMIT ending();
 }
 
+void WindowSession::resolvePagesAgain()
+{
+    for (int i = 0; i < m_tabs.count(); ++i)
+        m_tabs.at(i)->resolveAgain();
+}
+
 WindowState WindowSession::state() const
 {
     WindowState state{.tabs = {},
@@ -97,6 +103,7 @@ void WindowSession::openLink(const QString& link)
         setHistoryOpen(false);
         setInboxOpen(false);
         setSupportOpen(false);
+        setSignInPresented(false);
         closeLightbox();
     }
     Router* const tab = isPage ? openTab(SidebarItem::Home, TabActivation::Activate) : selected();

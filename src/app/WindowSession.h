@@ -67,6 +67,8 @@ public:
 
     /// Opens a tab behind the last one.
     Router* openTab(SidebarItem section, TabActivation activation);
+    /// The store may have switched features off or on.
+    void resolvePagesAgain();
     /// Opens a link from outside: a page in a tab of its own; what is no page, such as the cart's panel, needs none.
     void openLink(const QString& link);
     Q_INVOKABLE void newTab();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+#include <QRandomGenerator>
 #include <QUuid>
 
 namespace loom
@@ -16,6 +18,8 @@ public:
 
     /// A version 4 UUID (RFC 9562).
     [[nodiscard]] virtual QUuid uuid() = 0;
+    /// For secrets: as many bytes as asked for, each of which nobody can foretell.
+    [[nodiscard]] virtual QByteArray bytes(qsizetype count) = 0;
 };
 
 /// The operating system's generator.
@@ -23,6 +27,12 @@ class SystemRandom final : public Random
 {
 public:
     [[nodiscard]] QUuid uuid() override { return QUuid::createUuid(); }
+    [[nodiscard]] QByteArray bytes(qsizetype count) override
+    {
+        QByteArray drawn(count, Qt::Uninitialized);
+        std::ranges::generate(drawn, [] { return static_cast<char>(QRandomGenerator::system()->generate()); });
+        return drawn;
+    }
 };
 
 } // namespace loom

@@ -8,12 +8,21 @@
 namespace loom
 {
 
+namespace
+{
+
+/// Where the results that were chosen with understanding go on; the Storefront's own cursors are Base64.
+const QString aiCursor = QStringLiteral("ai:");
+
+} // namespace
+
 SearchModel::SearchModel(const QString& query, StorefrontAPI& api, const MarketStore& market, const MoneyFormat& money,
                          const Clock& clock, QObject* parent)
     : ProductListing(market, money, clock, parent)
     , m_query(query.trimmed())
     , m_api(api)
 {
+    connect(&market, &MarketStore::rateChanged, this, &SearchModel::convertPrices);
 }
 
 void SearchModel::setOrder(Order order)
@@ -48,8 +57,90 @@ QString SearchModel::subject() const
 
 QCoro::Task<ApiResult<ListingPage>> SearchModel::fetch(std::optional<QString> after, std::stop_token stop)
 {
+    if (after && after->startsWith(aiCursor)) {
+        LOOM_CO_TRY(answer, co_await ask(after->mid(aiCursor.size()).toInt(), stop));
+        if (stop.stop_requested())
+            co_return Unexpected(Failure(Cancelled()));
+        co_return take(std::move(answer));
+    }
     if (!after && m_collectionsRevision != market().revision())
         static_cast<void>(findCollections());
+    const bool isAsked = !after && m_aiSource && m_order == Order::BestMatch && filterInputs().isEmpty();
+    // Both at once: the Storefront knows the filters, and is not waited for when the other has failed.
+    auto storefront = searchStorefront(after, stop);
+    if (isAsked) {
+        auto answer = co_await ask(0, stop);
+        if (answer && !answer->products.empty()) {
+            auto filtered = co_await storefront;
+            if (stop.stop_requested())
+                co_return Unexpected(Failure(Cancelled()));
+            m_usingStorefront = false;
+            m_dollars.clear();
+            m_summary = answer->summary;
+            m_aiCollections.clear();
+            for (SearchSuggestions::Collection& collection : answer->collections)
+                m_aiCollections.push_back({.handle = collection.handle, .title = collection.title});
+            ListingPage page = take(*std::move(answer));
+            if (filtered)
+                page.filters = std::move(filtered->filters);
+            Q_EMIT collectionsChanged();
+            co_return page;
+        }
+    }
+    auto page = co_await storefront;
+    if (!after && page && !stop.stop_requested())
+        useStorefront();
+    co_return page;
+}
+
+QCoro::Task<ApiResult<AiSearchPage>> SearchModel::ask(int offset, std::stop_token stop)
+{
+    return m_aiSource({.query = m_query, .limit = pageSize, .offset = offset}, std::move(stop));
+}
+
+ListingPage SearchModel::take(AiSearchPage answer)
+{
+    for (ProductListItem& item : answer.products) {
+        m_dollars.insert(item.handle, item.price.amount);
+        item.price = inMarket(item.price.amount);
+    }
+    const auto shown = static_cast<qint64>(answer.products.size());
+    return {.products = std::move(answer.products),
+            .hasNextPage = answer.hasMore,
+            .endCursor = aiCursor + QString::number(answer.nextOffset),
+            .filters = {},
+            .totalCount = answer.total && *answer.total >= shown ? answer.total : std::nullopt};
+}
+
+Money SearchModel::inMarket(double dollars) const
+{
+    const ConvertedAmount amount = market().convertUSDollars(dollars);
+    return {.amount = amount.text.toDouble(), .currencyCode = amount.currencyCode};
+}
+
+void SearchModel::convertPrices()
+{
+    if (m_usingStorefront)
+        return;
+    std::vector<ProductListItem> items = products()->items();
+    for (ProductListItem& item : items)
+        item.price = inMarket(m_dollars.value(item.handle, item.price.amount));
+    products()->replace(std::move(items));
+}
+
+void SearchModel::useStorefront()
+{
+    m_usingStorefront = true;
+    m_dollars.clear();
+    m_summary.clear();
+    if (!m_aiCollections.empty()) {
+        m_aiCollections.clear();
+        Q_EMIT collectionsChanged();
+    }
+}
+
+QCoro::Task<ApiResult<ListingPage>> SearchModel::searchStorefront(std::optional<QString> after, std::stop_token stop)
+{
     auto page = co_await m_api.search({.query = m_query,
                                        .first = pageSize,
                                        .after = after,
@@ -85,7 +176,7 @@ QCoro::Task<> SearchModel::findCollections()
 QVariantList SearchModel::collectionList() const
 {
     QVariantList list;
-    for (const Collection& collection : m_collections) {
+    for (const Collection& collection : collections()) {
         list.append(
             QVariantMap{{QStringLiteral("handle"), collection.handle}, {QStringLiteral("title"), collection.title}});
     }

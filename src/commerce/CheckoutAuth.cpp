@@ -9,13 +9,15 @@ namespace loom
 namespace
 {
 
-/// Answers that mean no more than that the shopper will not arrive signed in.
+/// Answers that mean no more than that the shopper will not arrive signed in. A refused session is one: it has ended,
+/// and they check out as anybody.
 bool isUnavailable(const Failure& failure)
 {
     if (failure.isCancelled())
         return false;
     const auto* const http = failure.error().as<APIError::Http>();
-    return http && (http->status == 404 || http->code == QLatin1String("CHECKOUT_AUTH_UNAVAILABLE") ||
+    return http && (http->status == 404 || isRefusedSession(*http) ||
+                    http->code == QLatin1String("CHECKOUT_AUTH_UNAVAILABLE") ||
                     http->code == QLatin1String("WIDGET_NOT_FOUND"));
 }
 

@@ -95,6 +95,8 @@ public:
     /// Opens in the browser what the page may not show.
     Q_INVOKABLE void openRefusedLink();
     Q_INVOKABLE void forgetRefusedLink();
+    /// Asks the window to close.
+    void end() { Q_EMIT ended(); }
     /// The window closed.
     Q_INVOKABLE void close();
 
@@ -103,6 +105,8 @@ Q_SIGNALS:
     void addressChanged();
     /// An order was placed, and this is its number, empty while none is known.
     void orderPlaced(const QString& number);
+    /// Nothing of it may be shown any more.
+    void ended();
     void closed();
 
 private:

@@ -1,5 +1,6 @@
 #include "commerce/CheckoutStarter.h"
 
+#include "base/Announcements.h"
 #include "commerce/CartStore.h"
 
 #include <QCoreApplication>
@@ -16,19 +17,23 @@ constexpr qsizetype maximumPictures = 5;
 } // namespace
 
 CheckoutStarter::CheckoutStarter(WidgetClient& widget, CartStore& cart, QString supportBase,
-                                 CheckoutModel::Services services, std::function<QString()> locale, QObject* parent)
+                                 CheckoutModel::Services services, Questions questions, QObject* parent)
     : QObject(parent)
     , m_auth(widget)
     , m_cart(cart)
     , m_supportBase(std::move(supportBase))
     , m_services(std::move(services))
-    , m_locale(std::move(locale))
+    , m_questions(std::move(questions))
     , m_starting([this] {
         Q_EMIT changed();
         proceedToNext();
     })
 {
     connect(&m_cart, &CartStore::changed, this, &CheckoutStarter::proceedWhenSettled);
+    connect(&m_services.announcements, &Announcements::posted, this, [this](Announcement announcement) {
+        if (announcement == Announcement::AuthChanged)
+            endKnown();
+    });
 }
 
 QString CheckoutStarter::sentence()
@@ -109,16 +114,29 @@ QCoro::Task<> CheckoutStarter::prepare()
     }
     const Cart cart = *found;
     const CheckoutHosts hosts = checkoutHosts(request.url, m_supportBase);
-    const auto prepared = co_await m_auth.prepare(cart.id, m_locale(), run.stop());
+    if (m_questions.mayHandOver && !m_questions.mayHandOver()) {
+        show(request.url, hosts, cart, {});
+        co_return;
+    }
+    co_await m_questions.sessionKnown(run.stop());
+    if (run.isStopped())
+        co_return;
+    QString token = m_questions.appToken();
+    auto prepared = co_await m_auth.prepare(cart.id, m_questions.locale(), run.stop());
+    // Of a session that ended meanwhile nothing is handed over any more.
+    while (!run.isStopped() && prepared && token != m_questions.appToken()) {
+        token = m_questions.appToken();
+        prepared = co_await m_auth.prepare(cart.id, m_questions.locale(), run.stop());
+    }
     if (run.isStopped())
         co_return;
     if (const auto start = checkoutStart(prepared, request.url, hosts))
-        show(*start, hosts, cart);
+        show(*start, hosts, cart, *start == request.url ? QString() : token);
     else
         fail();
 }
 
-void CheckoutStarter::show(const QUrl& start, const CheckoutHosts& hosts, const Cart& cart)
+void CheckoutStarter::show(const QUrl& start, const CheckoutHosts& hosts, const Cart& cart, const QString& token)
 {
     CheckoutGoods goods{.pieces = cart.totalQuantity, .pictures = {}};
     for (const CartLine& line : cart.lines) {
@@ -127,8 +145,11 @@ void CheckoutStarter::show(const QUrl& start, const CheckoutHosts& hosts, const 
     }
     auto* const checkout = new CheckoutModel(m_request, start, hosts, std::move(goods), m_services, this);
     m_open.push_back(checkout);
+    if (!token.isEmpty())
+        m_known.emplace_back(checkout, token);
     connect(checkout, &CheckoutModel::closed, this, [this, checkout] {
         std::erase(m_open, checkout);
+        std::erase_if(m_known, [checkout](const auto& known) { return known.first == checkout; });
         // After the window, which holds on to it.
         QMetaObject::invokeMethod(checkout, &QObject::deleteLater, Qt::QueuedConnection);
         Q_EMIT changed();
@@ -136,6 +157,16 @@ void CheckoutStarter::show(const QUrl& start, const CheckoutHosts& hosts, const 
     connect(checkout, &CheckoutModel::changed, this, &CheckoutStarter::changed);
     Q_EMIT opened();
     Q_EMIT ready(checkout);
+}
+
+void CheckoutStarter::endKnown()
+{
+    const QString token = m_questions.appToken();
+    for (const auto& [checkout, itsToken] : std::vector(m_known)) {
+        // Thanks for an order may be read on: nothing can be done there any more.
+        if (itsToken != token && checkout->phase() != CheckoutModel::Phase::Completed)
+            checkout->end();
+    }
 }
 
 } // namespace loom

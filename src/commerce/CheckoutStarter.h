@@ -9,8 +9,9 @@ namespace loom
 class CartStore;
 struct Cart;
 
-/// Begins checkouts: waits until the cart is what the shopper sees, asks the backend for a hand-over, and then has a
-/// checkout to show. One at a time. One per process; main thread.
+/// Begins checkouts: waits until the cart is what the shopper sees and it is known who they are, asks the backend for a
+/// hand-over, and then has a checkout to show. One at a time. A checkout at which the customer arrived known ends with
+/// their session. One per process; main thread.
 class CheckoutStarter final : public QObject
 {
     Q_OBJECT
@@ -21,8 +22,21 @@ class CheckoutStarter final : public QObject
     Q_PROPERTY(QString buyErrorText READ buyErrorText NOTIFY changed)
 
 public:
+    /// What it asks the rest of the application.
+    struct Questions {
+        /// The language, as the platform writes it.
+        std::function<QString()> locale;
+        /// Ends when it is known who is signed in, or when that took too long.
+        std::function<QCoro::Task<>(std::stop_token)> sessionKnown;
+        /// Whether customers may arrive known; where not, the plain address is opened at once. They may if this is
+        /// empty.
+        std::function<bool()> mayHandOver;
+        /// The token of who is signed in now; empty of a guest.
+        std::function<QString()> appToken;
+    };
+
     CheckoutStarter(WidgetClient& widget, CartStore& cart, QString supportBase, CheckoutModel::Services services,
-                    std::function<QString()> locale, QObject* parent = nullptr);
+                    Questions questions, QObject* parent = nullptr);
 
     [[nodiscard]] bool isStarting() const { return m_starting.isRunning() || m_waiting; }
     /// The checkout that is on its way is the cart's.
@@ -53,18 +67,22 @@ private:
     void fail() { m_failed = m_request.fromCart ? Origin::Cart : Origin::Piece; }
     void proceedWhenSettled();
     [[nodiscard]] QCoro::Task<> prepare();
-    void show(const QUrl& start, const CheckoutHosts& hosts, const Cart& cart);
+    /// `token` of the customer who arrives known; empty where nobody does.
+    void show(const QUrl& start, const CheckoutHosts& hosts, const Cart& cart, const QString& token);
+    void endKnown();
 
     CheckoutAuth m_auth;
     CartStore& m_cart;
     QString m_supportBase;
     CheckoutModel::Services m_services;
-    std::function<QString()> m_locale;
+    Questions m_questions;
     CheckoutRequest m_request;
     std::optional<CheckoutRequest> m_next;
     bool m_waiting = false; ///< for the cart to be what the shopper sees
     Origin m_failed = Origin::None;
     std::vector<CheckoutModel*> m_open; ///< owned as children
+    /// Those of them at which a customer arrived known, and the token of their session.
+    std::vector<std::pair<CheckoutModel*, QString>> m_known;
     Work m_starting;
 };
 

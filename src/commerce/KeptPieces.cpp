@@ -129,11 +129,31 @@ void KeptPieces::adopt(Contents contents)
     Q_EMIT loaded();
 }
 
-void KeptPieces::putFirst(ProductListItem item)
+void KeptPieces::stamp(ProductListItem& item) const
 {
     item.seenAt = m_clock.now();
     item.seenPrice = std::isfinite(item.price.amount) ? std::optional(item.price.amount) : std::nullopt;
     item.seenCurrency = item.price.currencyCode;
+}
+
+bool KeptPieces::complete(const QString& handle, ProductListItem item)
+{
+    const auto found = std::ranges::find(m_items, handle, &ProductListItem::handle);
+    if (found == m_items.end() || !found->id.isEmpty() || item.id.isEmpty())
+        return false;
+    item.handle = handle; // the list knows it by this
+    item.recoReason = found->recoReason;
+    stamp(item);
+    QByteArray& record = m_records[found - m_items.begin()];
+    record = recordOf(item, record);
+    *found = std::move(item);
+    afterEdit();
+    return true;
+}
+
+void KeptPieces::putFirst(ProductListItem item)
+{
+    stamp(item);
     QByteArray previous;
     if (m_handles.contains(item.handle)) {
         const auto found = std::ranges::find(m_items, item.handle, &ProductListItem::handle);

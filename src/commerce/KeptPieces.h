@@ -29,6 +29,7 @@ public:
     /// `maximum` of 0 is no limit.
     KeptPieces(QString fileName, std::size_t maximum, DataFolder& folder, Clock& clock, QObject* parent = nullptr);
 
+    [[nodiscard]] const QString& fileName() const { return m_fileName; }
     [[nodiscard]] const std::vector<ProductListItem>& items() const { return m_items; }
     [[nodiscard]] const QSet<QString>& handles() const { return m_handles; }
     [[nodiscard]] Q_INVOKABLE bool contains(const QString& handle) const { return m_handles.contains(handle); }
@@ -42,6 +43,8 @@ public:
     /// Returns whether it was there.
     Q_INVOKABLE bool remove(const QString& handle);
     Q_INVOKABLE void removeAll(const QStringList& handles);
+    /// Puts `item` in the place of a piece that was kept without the catalog's number of it. Returns whether it was.
+    bool complete(const QString& handle, ProductListItem item);
     Q_INVOKABLE void clear();
     /// Empties the list and removes its file for good.
     void forget();
@@ -65,6 +68,7 @@ protected:
     void putFirst(ProductListItem item);
 
 private:
+    void stamp(ProductListItem& item) const;
     struct Removed {
         ProductListItem item;
         QByteArray record;

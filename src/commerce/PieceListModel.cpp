@@ -147,7 +147,7 @@ QString PieceListModel::label(const PieceRow& row) const
 QString PieceListModel::reason(const PieceRow& row) const
 {
     if (!row.seenPrice || !row.price)
-        return {};
+        return row.reason;
     const Money less{.amount = row.seenPrice->amount - row.price->amount, .currencyCode = row.price->currencyCode};
     return QCoreApplication::translate("Loomstreet", "%1 less now").arg(m_money.text(less));
 }

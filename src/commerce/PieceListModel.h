@@ -20,6 +20,7 @@ struct PieceRow {
     std::optional<Money> former;
     std::optional<Money> seenPrice; ///< what it cost when it was seen, if it costs less now
     State state = State::Unknown;
+    QString reason; ///< why it is recommended; of a price that fell its own card tells
 
     bool operator==(const PieceRow&) const = default;
 };

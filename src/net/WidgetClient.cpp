@@ -13,11 +13,6 @@ namespace loom
 namespace
 {
 
-bool isRefusedSession(const APIError::Http& error)
-{
-    return error.code == QLatin1String("REAUTH") || error.code == QLatin1String("UNAUTHORIZED");
-}
-
 ApiResult<QByteArray> readAnswer(ApiResult<HttpResponse> answer)
 {
     LOOM_TRY(response, std::move(answer));
@@ -143,6 +138,11 @@ APIError::Http backendError(int status, const QByteArray& body)
     if (!error.code && status == 429)
         error.code = QStringLiteral("RATE_LIMITED");
     return error;
+}
+
+bool isRefusedSession(const APIError::Http& error)
+{
+    return error.code == QLatin1String("REAUTH") || error.code == QLatin1String("UNAUTHORIZED");
 }
 
 QByteArray multipartBody(const QByteArray& boundary, const QList<std::pair<QString, QString>>& fields,

@@ -84,6 +84,9 @@ struct OKResponse {
 /// What a status outside 200 to 299 means, with the body that came with it.
 [[nodiscard]] APIError::Http backendError(int status, const QByteArray& body);
 
+/// The backend does not, or no longer, know the session of the call it refused.
+[[nodiscard]] bool isRefusedSession(const APIError::Http& error);
+
 /// A multipart/form-data body (RFC 7578): text fields in their order, then the file.
 [[nodiscard]] QByteArray multipartBody(const QByteArray& boundary, const QList<std::pair<QString, QString>>& fields,
                                        const UploadFile& file);

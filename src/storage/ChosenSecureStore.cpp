@@ -21,6 +21,11 @@ struct ChosenSecureStore::State {
     std::unique_ptr<SecureStore> system;
     std::unique_ptr<SecureStore> files;
     std::optional<QCoro::Task<bool>> probe; ///< shared by the calls that come before the choice
+
+    [[nodiscard]] QString remembered() const
+    {
+        return preferences ? preferences->value(preferences::secureStore) : QString();
+    }
 };
 
 ChosenSecureStore::ChosenSecureStore(Preferences& preferences, std::unique_ptr<SecureStore> system,
@@ -39,8 +44,21 @@ QCoro::Task<Result<void, QString>> ChosenSecureStore::store(QString key, QByteAr
 QCoro::Task<Result<std::optional<QByteArray>, QString>> ChosenSecureStore::read(QString key)
 {
     const std::shared_ptr<State> state = m_state;
+    if (!state->probe && state->remembered().isEmpty())
+        co_return co_await readUnchosen(state, key);
     SecureStore* const chosen = co_await choose(state);
     co_return co_await chosen->read(key);
+}
+
+QCoro::Task<Result<std::optional<QByteArray>, QString>> ChosenSecureStore::readUnchosen(std::shared_ptr<State> state,
+                                                                                        QString key)
+{
+    if (state->system) {
+        const Result<std::optional<QByteArray>, QString> found = co_await state->system->read(key);
+        if (found && *found)
+            co_return found;
+    }
+    co_return co_await state->files->read(key);
 }
 
 QCoro::Task<Result<void, QString>> ChosenSecureStore::remove(QString key)
@@ -52,16 +70,13 @@ QCoro::Task<Result<void, QString>> ChosenSecureStore::remove(QString key)
 
 QCoro::Task<SecureStore*> ChosenSecureStore::choose(std::shared_ptr<State> state)
 {
-    const auto remembered = [&state] {
-        return state->preferences ? state->preferences->value(preferences::secureStore) : QString();
-    };
-    QString choice = remembered();
+    QString choice = state->remembered();
     if (choice.isEmpty()) {
         // One probe for all: two at a time would remove the probe from under each other.
         if (!state->probe)
             state->probe.emplace(systemStoreWorks(state->system.get()));
         const bool works = co_await *state->probe;
-        choice = remembered();
+        choice = state->remembered();
         if (choice.isEmpty()) {
             choice = works ? systemChoice : filesChoice;
             qCInfo(logStorage) << "secrets are kept in" << (works ? "the system's credential store" : "files");
@@ -69,11 +84,13 @@ QCoro::Task<SecureStore*> ChosenSecureStore::choose(std::shared_ptr<State> state
                 state->preferences->set(preferences::secureStore, choice);
         }
     }
-    co_return choice == systemChoice ? state->system.get() : state->files.get();
+    co_return choice == systemChoice && state->system ? state->system.get() : state->files.get();
 }
 
 QCoro::Task<bool> ChosenSecureStore::systemStoreWorks(SecureStore* system)
 {
+    if (!system)
+        co_return false;
     // A locked wallet answers reads with "not found" and refuses writes: only a written value proves that it works.
     const QString key = QStringLiteral("lst_probe");
     const QByteArray probe("loomstreet");

@@ -9,12 +9,14 @@ namespace loom
 
 class Preferences;
 
-/// Keeps secrets in the system's credential store when one answers at the first use, otherwise in files. The choice
+/// Keeps secrets in the system's credential store when one answers at the first secret, otherwise in files. The choice
 /// is made once for an installation and remembered; it never changes silently, because a secret written to one place
-/// would then not be found in the other. Owns both stores. A call goes on when this is gone.
+/// would then not be found in the other. Before it, reading looks in both and asks the shopper nothing. Owns both
+/// stores. A call goes on when this is gone.
 class ChosenSecureStore final : public SecureStore
 {
 public:
+    /// `system` may be null, where there is none.
     ChosenSecureStore(Preferences& preferences, std::unique_ptr<SecureStore> system,
                       std::unique_ptr<SecureStore> files);
 
@@ -25,6 +27,8 @@ public:
 private:
     struct State;
 
+    [[nodiscard]] static QCoro::Task<Result<std::optional<QByteArray>, QString>>
+    readUnchosen(std::shared_ptr<State> state, QString key);
     [[nodiscard]] static QCoro::Task<SecureStore*> choose(std::shared_ptr<State> state);
     [[nodiscard]] static QCoro::Task<bool> systemStoreWorks(SecureStore* system);
 

@@ -3,8 +3,11 @@
 #include "storage/AtomicFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QtConcurrent>
 #include <qcoro/qcorofuture.h>
+
+#include <unistd.h>
 
 namespace loom
 {
@@ -17,8 +20,14 @@ Result<std::optional<QByteArray>, QString> readFile(const QString& path)
     QFile file(path);
     if (!file.exists())
         return std::optional<QByteArray>();
+    // Put there by somebody else: whoever it signs in is not this shopper.
+    if (QFileInfo(path).ownerId() != geteuid())
+        return std::optional<QByteArray>();
     if (!file.open(QIODevice::ReadOnly))
         return Unexpected(file.errorString());
+    // A copy or a backup may have come with the rights of any file.
+    const QFileDevice::Permissions ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+    static_cast<void>(file.setPermissions(ownerOnly));
     return std::optional(file.readAll());
 }
 

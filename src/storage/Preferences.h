@@ -28,7 +28,9 @@ namespace preferences
 {
 inline constexpr Preference<const char*> cartID{"shopify_cart_id", ""};          ///< opaque, and as good as a key
 inline constexpr Preference<const char*> appearance{"lst_appearance", "system"}; ///< "system", "light" or "dark"
+inline constexpr Preference<const char*> endedSession{"lst_ended_session", ""};  ///< a mark of the last one
 inline constexpr Preference<const char*> language{"lst_language", ""};           ///< its code; empty follows the system
+inline constexpr Preference<const char*> lastAccountEmail{"lst_last_account_email", ""}; ///< in small letters
 inline constexpr Preference<const char*> marketCountry{"lst_market_country", ""};
 inline constexpr Preference<const char*> marketCurrency{"lst_market_currency", ""};
 inline constexpr Preference<const char*> privacyConsent{"lst_privacy_consent", "essential"}; ///< or "all"

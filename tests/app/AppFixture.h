@@ -19,6 +19,9 @@ class AppFixture : public NetworkFixture
 protected:
     AppFixture()
     {
+        for (const char* const path : {"app-version/config", "reco", "vessa/reco-rails"})
+            server.allow(QByteArray("GET /api/support/widget/") + path,
+                         [](const ReceivedRequest&) { return Answer::body("", 404); });
         server.allow("POST /api/2025-04/graphql.json", [this](const ReceivedRequest& request) {
             asked.append(describe(request.json()));
             return Answer::body("", 404);
@@ -33,7 +36,6 @@ protected:
         model.emplace(with, AppPlatform{.clock = clock,
                                         .random = random,
                                         .network = network,
-                                        .features = features,
                                         .dataFolder = home.path() + QStringLiteral("/data"),
                                         .locale = locale,
                                         .openExternally = [this](const QUrl& url) { browsed.append(url); },
@@ -48,8 +50,8 @@ protected:
     /// they travel side by side.
     [[nodiscard]] QStringList queries(qsizetype count)
     {
-        // What the windows show is written a moment later.
-        const int writing = model->windows().empty() ? 0 : 1;
+        // What the windows show is written a moment later, and the configuration is asked for from time to time.
+        const int writing = model->windows().empty() ? 0 : 2;
         waitUntil([&] { return asked.size() >= count && clock.sleepers() <= writing; }, "every query is answered");
         drainEvents();
         QStringList sorted = std::exchange(asked, {});
@@ -57,7 +59,6 @@ protected:
         return sorted;
     }
 
-    AllFeatures features;
     SystemLocale locale{.language = QStringLiteral("de"), .script = {}, .region = QStringLiteral("AT")};
     QTemporaryDir home;
     QList<QUrl> browsed;

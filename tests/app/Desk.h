@@ -9,6 +9,7 @@
 #include "storage/Preferences.h"
 
 #include "support/FakeClock.h"
+#include "support/FakeFeatures.h"
 #include "support/FakeRandom.h"
 
 #include <QTemporaryDir>
@@ -42,12 +43,14 @@ protected:
     DataFolder folder{home.path()};
     Preferences settings{folder};
     ClosedTabs closedTabs{folder};
+    FakeFeatures features;
     QList<QUrl> browsed;
     Qt::KeyboardModifiers keys;
     WindowServices services{.clock = clock,
                             .random = random,
                             .preferences = settings,
                             .closedTabs = closedTabs,
+                            .features = features,
                             .resolver = LinkResolver(QStringLiteral("loom.example")),
                             .storePages = StorePages(QStringLiteral("https://www.loom.example")),
                             .openExternally = [this](const QUrl& url) { browsed.append(url); },

@@ -50,13 +50,10 @@ TEST_F(WindowSessionTest, OfItsTabsTheMostRecentlyUsedComesNext)
         int closings; ///< how often the window was asked to close
     };
     for (const Row& row : {
-             Row{"", "A", "a", 0},
-             Row{"+ +", "abC", "cba", 0},
              Row{"& &", "Abc", "abc", 0},
              Row{"+ + 0 1", "aBc", "bac", 0},
              Row{"+ + 7 -", "abC", "cba", 0},
 
-             Row{"+ + x2", "aB", "ba", 0},
              Row{"+ + + 0 3 x3", "Abc", "acb", 0}, // not the neighbour
              Row{"+ + + 1 x1 x2", "aC", "ca", 0},
              Row{"+ + x0", "bC", "cb", 0},
@@ -67,12 +64,10 @@ TEST_F(WindowSessionTest, OfItsTabsTheMostRecentlyUsedComesNext)
              Row{"+ x2 x7 o2 r2", "aB", "ba", 0},
 
              Row{"+ + 0 o1", "B", "b", 0},
-             Row{"+ + o0", "A", "a", 0},
              Row{"+ + + p0 p2 o1", "C", "c", 0}, // pinned ones too
              Row{"+ p0 x0", "B", "b", 0},
 
              Row{"+ + 0 r0", "aDbc", "dacb", 0},
-             Row{"+ + r2", "abcD", "dcba", 0},
              Row{"+ p0 p1 r0", "abC", "cba", 0}, // not among the pinned ones
 
              Row{"+ + m02", "bCa", "cba", 0},
@@ -84,7 +79,6 @@ TEST_F(WindowSessionTest, OfItsTabsTheMostRecentlyUsedComesNext)
              Row{"+ + t2 z", "aB", "ba", 0}, // what was torn off is not closed
              Row{"t0", "A", "a", 0},
 
-             Row{"+ + >", "Abc", "acb", 0},
              Row{"+ + 0 > >", "abC", "cba", 0},
              Row{"+ + 0 <", "abC", "cab", 0},
              Row{"> < >", "A", "a", 0},
@@ -151,28 +145,6 @@ TEST_F(WindowSessionTest, OfItsTabsTheMostRecentlyUsedComesNext)
     }
 }
 
-TEST_F(WindowSessionTest, AWindowOpensWhereItsSeedSays)
-{
-    struct Row {
-        WindowSeed seed;
-        const char* shown;
-    };
-    for (const Row& row : {
-             Row{{}, "home"},
-             Row{{.section = SidebarItem::Luxury}, "luxury"},
-             Row{{.link = QStringLiteral("/products/silk"), .section = SidebarItem::Men}, "men: product silk"},
-             Row{{.link = QStringLiteral("loomstreet://pages/starlook"), .section = SidebarItem::Men}, "starlook"},
-             Row{{.link = QString(), .section = SidebarItem::Men}, "men"},
-             Row{{.link = QStringLiteral("/"), .section = SidebarItem::Men}, "men"},
-         }) {
-        WindowSession session(services, row.seed);
-        EXPECT_EQ(shown(*session.selected()), row.shown);
-        EXPECT_EQ(session.tabs()->count(), 1);
-    }
-    WindowSession session(services, {.link = QStringLiteral("/cart")});
-    EXPECT_TRUE(session.isCartOpen());
-}
-
 TEST_F(WindowSessionTest, ATabMayBeClosedByWhatItDoesItself)
 {
     WindowSession session(services, {});
@@ -213,24 +185,6 @@ TEST_F(WindowSessionTest, OnePanelIsOpenAtATime)
     EXPECT_EQ(told.count(), 2);
     EXPECT_TRUE(session.isSignInPresented()); // lies over the panels
     EXPECT_TRUE(session.isMiraDocked());
-}
-
-TEST_F(WindowSessionTest, TheGalleryShowsAPictureThatIsThere)
-{
-    WindowSession session(services, {});
-    const QStringList images{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
-    session.openLightbox({}, 0, QStringLiteral("Silk dress"));
-    EXPECT_EQ(session.lightbox(), std::nullopt);
-    EXPECT_FALSE(session.property("lightbox").isValid());
-    for (const auto& [asked, shown] : {std::pair(-1, 0), std::pair(0, 0), std::pair(2, 2), std::pair(3, 2)}) {
-        session.openLightbox(images, asked, QStringLiteral("Silk dress"));
-        ASSERT_TRUE(session.lightbox());
-        EXPECT_EQ(session.lightbox()->index, shown);
-        EXPECT_EQ(session.lightbox()->images, images);
-        EXPECT_EQ(session.lightbox()->title, QStringLiteral("Silk dress"));
-    }
-    session.closeLightbox();
-    EXPECT_EQ(session.lightbox(), std::nullopt);
 }
 
 } // namespace

@@ -50,9 +50,7 @@ TEST(WindowStateTest, OfAForeignWindowTheReadableTabsAreTaken)
     };
     const QByteArray broken = R"({"section":"attic"})";
     for (const Row& row : {
-             Row{window(tab), 1, 0},
              Row{window(tab, R"(,"selectedIndex":7)"), 1, 0},
-             Row{window(tab, R"(,"selectedIndex":-7)"), 1, 0},
              Row{window(QByteArray(tab) + ',' + tab, R"(,"selectedIndex":1)"), 2, 1},
              Row{window(broken + ',' + tab), 1, 0},
              Row{window(QByteArray("7,null,[],") + tab), 1, 0},
@@ -75,14 +73,12 @@ TEST(WindowStateTest, WhatDoesNotBelongToItsPagesIsLeftOut)
     };
     for (const Row& row : {
              Row(R"(["","New In"])", R"(["New In"])", [](TabState& s) { s.titles.clear(); }),
-             Row(R"(["","New In"])", R"(["",7,"New In"])", [](TabState&) {}),
              Row("[0,240.5]", "[240.5]", [](TabState& s) { s.scrollOffsets.clear(); }),
              Row("[0,240.5]", "[\"a\",-7]", [](TabState& s) { s.scrollOffsets = {0, 0}; }),
              {"\"new-in\"", "7",
               [](TabState& s) {
                   s.section.routes = {UnknownRoute{}};
               }},
-             Row("\"isPinned\":true", "\"isPinned\":1", [](TabState& s) { s.isPinned = false; }),
          }) {
         TabState expected = wholeTab();
         row.expected(expected);

@@ -220,43 +220,17 @@ TEST(JsonReader, TextsAndKeysAreUnescaped)
     EXPECT_EQ(failure(R"({"\u0061": 1})", [](const JsonReader& json) { return json.integer("a"); }), QString());
 }
 
-TEST(JsonReader, TheFirstOfTwoEqualKeysCounts)
-{
-    auto document = JsonDocument::parse(R"({"a": 1, "a": 2})");
-    ASSERT_TRUE(document);
-    EXPECT_EQ(document->root().integer("a"), 1);
-    EXPECT_EQ(document->root().asJson(), QJsonValue(QJsonObject{{QStringLiteral("a"), 1}}));
-}
-
 TEST(JsonReader, WhatIsNoJsonIsRefusedWithoutBeingRead)
 {
     const QByteArray deep(64, '[');
     EXPECT_EQ(failure(deep + QByteArray(64, ']')), QString());
-    const QByteArray none[] = {QByteArray(),
-                               " \n",
-                               "<html>",
-                               "{\"a\": 1",
-                               "{\"a\": \"tex",
-                               "{\"a\": 1}}",
-                               "{\"a\": 1} {}",
-                               "{'a': 1}",
-                               "{\"a\": 1,}",
-                               "[1, // one\n2]",
-                               "[NaN]",
-                               "[01]",
-                               "[1e999]",
-                               "\"a\nb\"",
-                               "\"\\x\"",
-                               "\"\\ud83\"",
-                               "\"\\ud83d\\x\"",
-                               "\"\\ud83d",
-                               "\"\xC3\x28\"",
-                               "\"\xED\xA0\x80\"",
-                               QByteArray("\"a\0b\"", 5),
-                               QByteArray("{}\0", 3),
-                               QByteArray(512, '\0'),
-                               '[' + deep + QByteArray(64, ']') + ']',
-                               QByteArray(1'000'000, '[')};
+    const QByteArray broken =
+        "| \n|<html>|{\"a\": 1|{\"a\": \"tex|{\"a\": 1}}|{\"a\": 1} {}|{'a': 1}|{\"a\": 1,}|[1, // one\n2]|[NaN]|"
+        "[01]|[1e999]|\"a\nb\"|\"\\x\"|\"\\ud83\"|\"\\ud83d\\x\"|\"\\ud83d|\"\xC3\x28\"|"
+        "\"\xED\xA0\x80\"";
+    QByteArrayList none = broken.split('|');
+    none += {QByteArray("\"a\0b\"", 5), QByteArray("{}\0", 3), QByteArray(512, '\0'),
+             '[' + deep + QByteArray(64, ']') + ']', QByteArray(1'000'000, '[')};
     for (const QByteArray& bytes : none)
         EXPECT_TRUE(failure(bytes).startsWith(QStringLiteral("not valid JSON: "))) << bytes.left(80).constData();
 }

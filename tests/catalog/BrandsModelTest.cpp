@@ -80,33 +80,6 @@ protected:
 const char* const filter = "CollectionProducts";
 const char* const walk = "Products";
 
-TEST_F(BrandsModelTest, TheStoresFilterNamesThemAndWhatIsShownSurvivesAFailure)
-{
-    answer(filter, Answer::body("", 404));
-    model->load();
-    settle(1);
-    EXPECT_EQ(model->phase(), BrandsModel::Phase::Failed);
-    answer(filter, filtered(R"([{"id": "1", "label": "Tallis", "count": 3, "input": "{\"productVendor\":\"Tallis\"}"},
-        {"id": "2", "label": "Gone", "count": 0, "input": "{\"productVendor\":\"Gone\"}"},
-        {"id": "3", "label": "Aldine", "count": 1, "input": "{\"productVendor\":\"Aldine\"}"}])"));
-    model->reload();
-    settle(2);
-    EXPECT_EQ(written(model->sections()), "A: Aldine T: Tallis");
-    EXPECT_EQ(model->phase(), BrandsModel::Phase::Loaded);
-    model->setFilter(QStringLiteral("TAL"));
-    EXPECT_EQ(model->letters(), QStringList(QStringLiteral("T")));
-    EXPECT_EQ(model->brandCount(), 2);
-    model->setFilter({});
-    EXPECT_EQ(written(model->sections()), "A: Aldine T: Tallis");
-
-    answer(filter, Answer::body("", 404));
-    answer("Countries", Answer::body("", 404));
-    market.setLanguage(AppLanguage::French);
-    settle(4);
-    EXPECT_EQ(model->phase(), BrandsModel::Phase::Loaded);
-    EXPECT_FALSE(model->errorText().isEmpty());
-}
-
 TEST_F(BrandsModelTest, AStoreWithoutTheFilterIsWalkedThroughOnceADay)
 {
     const Answer none = filtered("[]");

@@ -34,11 +34,6 @@ void expectAll(std::initializer_list<Row> rows)
         EXPECT_EQ(described(QString::fromUtf8(row.html)), row.expected) << row.html;
 }
 
-QString repeated(const char* piece, qsizetype length)
-{
-    return QString::fromUtf8(piece).repeated(length / static_cast<qsizetype>(qstrlen(piece)));
-}
-
 } // namespace
 
 TEST(DescriptionSectionsTest, HeadingsAndDetailsDivideADescription)
@@ -51,13 +46,10 @@ TEST(DescriptionSectionsTest, HeadingsAndDetailsDivideADescription)
         {"<h3>Fit</h3><p>Close.</p><details><summary>Care</summary>By hand.</details><p>After.</p>",
          "# Fit\nClose.\n+ Care\nBy hand.\n#\nAfter."},
         {"<details><summary><h3>Care</h3></summary><h3>Silk</h3><p>By hand.</p></details>", "+ Care\nSilk\nBy hand."},
-        {"<details>No summary.</details>", "#\nNo summary."},
         {"<details><summary>Nothing inside</summary></details>", "# Nothing inside"},
-        {"<h3><strong>Two</strong><br>lines</h3>x", "# Two lines\nx"},
         {"<h3>&nbsp;</h3><p>Under an empty heading.</p>", "#\nUnder an empty heading."},
         {"<h2>Not a section</h2><summary>Nor this</summary><h30>or that</h30>", "#\nNot a section\nNor this\nor that"},
         {"", ""},
-        {" <p> </p><div><br></div>", ""},
     });
 }
 
@@ -65,7 +57,6 @@ TEST(DescriptionSectionsTest, TextOutsideParagraphsIsKeptLineByLine)
 {
     expectAll({
         {"Bare <b>bold</b>, <i>it</i>alic", "#\nBare bold, italic"},
-        {"One\nline<br/>another<div>third</div>fourth", "#\nOne line\nanother\nthird\nfourth"},
         {"<h3>Details</h3><ul><li>Silk</li><li><p>Lined</p><p>in silk</p></li><li></li></ul>After",
          "# Details\n• Silk\n• Lined\nin silk\nAfter"},
         {"<table><tr><th>Shell</th><td>Silk</td></tr><tr><td>Lining</td></tr></table>", "#\nShell Silk\nLining"},
@@ -79,7 +70,6 @@ TEST(DescriptionSectionsTest, FinalSaleIsLeftToTheServiceClass)
         {"<p><b>Final Sale:</b> no returns.</p><p>Not a final sale: this.</p>",
          "#\nno returns.\nNot a final sale: this."},
         {"<details><summary>Care</summary>\n FINAL SALE: \nBy hand.</details>", "+ Care\nBy hand."},
-        {"<p>Final sale:</p><p>Final sale</p>", "#\nFinal sale"},
     });
 }
 
@@ -88,8 +78,6 @@ TEST(DescriptionSectionsTest, ReferencesAreDecodedOnceAndAsText)
     expectAll({
         {"Cr&ecirc;pe &amp; wool&nbsp;&#8211;&#x2014; &euro;5 &frac12; &yuml;", "#\nCrêpe & wool –— €5 ½ ÿ"},
         {"&lt;script&gt; &amp;lt;b&amp;gt;", "#\n<script> &lt;b&gt;"},
-        {"it&#146;s &#x96; old", "#\nit’s – old"},
-        {"&#128512;", "#\n😀"},
         {"&#0; &#xD800; &#x110000; &#99999999999;", "#\n� � � �"},
         {"&; &# ; &#x; &#-5; &#5 ; &#xg; &#x0x41; &unknown; A&B; &amp",
          "#\n&; &# ; &#x; &#-5; &#5 ; &#xg; &#x0x41; &unknown; A&B; &amp"},
@@ -102,13 +90,11 @@ TEST(DescriptionSectionsTest, WhatIsNoTextOfThePageNeverShows)
         {"a<script>evil('<p>')</script>b<STYLE type=x>p{}</STYLE >c<!-- <p>no</p> -->d<noscript>n</noscript>e",
          "#\nabcde"},
         {"a<script>x</scripture>y</script\n>b", "#\nab"},
-        {"a<scripts>b</scripts></script>c", "#\nabc"},
         {"a<!-->b<!---->c<!doctype x>d<?xml y?>e</ p>f", "#\nabcdef"},
         {"a<p title=\"1 > 0\" data-x='\">'>b</p>", "#\na\nb"},
         {"a<p title=\"never closed>b</p>c", "#\na\nb\nc"},
         {"a<p it's>b</p><i it's>c", "#\na\nb\nc"},
         {"kept<script>lost", "#\nkept"},
-        {"kept<!-- lost", "#\nkept"},
         {"kept<p class=lost", "#\nkept"},
         {"a\u202e\u2066b\u200fc\ufeff&#8238;&#7;d\u2028e", "#\nab\u200fcd e"},
     });
@@ -119,12 +105,9 @@ TEST(DescriptionSectionsTest, TagsThatAreNotClosedLoseNoText)
     expectAll({
         {"<p>One<p>Two</p>", "#\nOne\nTwo"},
         {"<h3>Fit<p>Close.</p><h3>Care</h3>By hand.", "# Fit\nClose.\n# Care\nBy hand."},
-        {"<h3>Fit<p>Close.</p>", "#\nFit\nClose."},
         {"<details><summary>Care</summary>By hand.<h3>Fit</h3>Close.", "#\nCare\nBy hand.\n# Fit\nClose."},
         {"<details><summary>Care<p>By hand.</p></details>", "+ Care\nBy hand."},
         {"<details><summary>A</summary>b<details><summary>C</summary>d</details>e</details>", "+ A\nb\nC\nd\n#\ne"},
-        {"<ul><li></ul><h3>Fit</h3>Close.", "# Fit\nClose."},
-        {"</p></details></h3>Text</summary>", "#\nText"},
         {"<h3>Fit</h3>Close.</details>Snug.", "# Fit\nClose.\nSnug."},
     });
 }
@@ -134,34 +117,15 @@ TEST(DescriptionSectionsTest, HostileInputTakesNoTime)
     constexpr qsizetype length = 1'000'000;
     QElapsedTimer timer;
     timer.start();
-    for (const char* piece : {"<p",
-                              "<p ",
-                              "<p>",
-                              "<",
-                              "</",
-                              "<!--",
-                              "<!",
-                              "&",
-                              "&#",
-                              "<details",
-                              "<details>",
-                              "<h3>",
-                              "<a b=\"",
-                              "<a b='>'>\"",
-                              "<a b=\">\"",
-                              "<script>",
-                              "<script></script",
-                              "<li>",
-                              "final sale:",
-                              "<details><summary>",
-                              "a<h3>b</h3>",
-                              "\n",
-                              "\xc2\xa0"}) {
-        const QList<DescriptionSection> sections = descriptionSections(repeated(piece, length));
+    const QString pieces =
+        QStringLiteral("<p|<p |<p>|<|</|<!--|<!|&|&#|<details|<details>|<h3>|<a b=\"|<a b='>'>\"|<a b=\">\"|"
+                       "<script>|<script></script|<li>|final sale:|<details><summary>|a<h3>b</h3>|\n|\u00a0");
+    for (const QString& piece : pieces.split(u'|')) {
+        const QList<DescriptionSection> sections = descriptionSections(piece.repeated(length / piece.size()));
         qsizetype paragraphs = 0;
         for (const DescriptionSection& section : sections)
             paragraphs += 1 + section.paragraphs.size();
-        EXPECT_LE(paragraphs, 1001) << piece;
+        EXPECT_LE(paragraphs, 1001) << piece.toStdString();
     }
     // A second for each would be far too much; the sanitizers and a busy machine are allowed for.
     EXPECT_LT(timer.elapsed(), 20'000);

@@ -23,19 +23,6 @@ std::optional<MarketSample> sample(double sum, const char* currency)
 
 } // namespace
 
-TEST(MarketRateTest, ARateHoldsForItsCountryForTwelveHours)
-{
-    struct Row {
-        const char* country;
-        int age; ///< seconds
-        bool isUsable;
-    };
-    for (const Row& row : {Row{"DE", 0, true}, Row{"DE", 43199, true}, Row{"DE", 43200, false}, Row{"DE", 90000, false},
-                           Row{"DE", -60, false}, Row{"AT", 0, false}, Row{"de", 0, false}, Row{"", 0, false}})
-        EXPECT_EQ(rateOf(0.9).isUsable(QLatin1String(row.country), now.addSecs(row.age)), row.isUsable)
-            << row.country << ' ' << row.age;
-}
-
 TEST(MarketRateTest, ARateFollowsFromTwoSamplesInTwoCurrencies)
 {
     struct Row {
@@ -77,19 +64,6 @@ TEST(MarketRateTest, DollarsAreConvertedToTheCent)
         EXPECT_EQ(convertUSDollars(row.amount, rate),
                   (ConvertedAmount{QLatin1String(row.text), rate ? QStringLiteral("EUR") : QStringLiteral("USD")}));
     }
-}
-
-TEST(MarketRateTest, AStoredRateComesBackAndAnythingElseDoesNot)
-{
-    const QJsonObject stored = toJson(rateOf(0.9125));
-    EXPECT_EQ(bytes(stored),
-              R"({"country":"DE","currency":"EUR","rate":0.9125,"sampledAt":"2025-03-09T08:07:06.000Z"})");
-    EXPECT_EQ(*decodeJson(bytes(stored), decodeStoredRate), rateOf(0.9125));
-    for (const auto& [path, value] :
-         {std::pair("currency", "null"), std::pair("currency", "\"\""), std::pair("rate", "0"), std::pair("rate", "-1"),
-          std::pair("rate", "null"), std::pair("rate", "\"0.9\""), std::pair("sampledAt", "\"today\""),
-          std::pair("country", "7")})
-        EXPECT_FALSE(decodeJson(bytes(changed(stored, QLatin1String(path), json(value))), decodeStoredRate)) << value;
 }
 
 } // namespace loom

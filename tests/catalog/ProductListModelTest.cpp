@@ -98,29 +98,6 @@ TEST_F(ProductListModelTest, RowsComeAndGoWithoutAReset)
     }
 }
 
-TEST_F(ProductListModelTest, ARowTellsWhatACardShows)
-{
-    ProductListItem item = *decodeJson(bytes(cardJson(QStringLiteral("silk"))), decodeListItem);
-    model.replace({item});
-    EXPECT_EQ(data(ProductListModel::ItemRole).value<ProductListItem>(), item);
-    EXPECT_EQ(data(ProductListModel::PriceRole), QStringLiteral("$248.50"));
-    EXPECT_EQ(data(ProductListModel::FormerPriceRole), QStringLiteral("$310.00"));
-    EXPECT_EQ(data(ProductListModel::LabelRole), QStringLiteral("New"));
-    EXPECT_EQ(data(ProductListModel::SoldOutRole), false);
-    EXPECT_FALSE(model.data(model.index(0), Qt::DisplayRole).isValid());
-    EXPECT_FALSE(model.data(model.index(1), ProductListModel::TitleRole).isValid());
-    EXPECT_EQ(model.rowCount(model.index(0)), 0);
-
-    item.availableForSale = false;
-    item.compareAtPrice.reset();
-    model.replace({item});
-    EXPECT_EQ(data(ProductListModel::SoldOutRole), true);
-    EXPECT_EQ(data(ProductListModel::FormerPriceRole), QString());
-    item.availableForSale.reset(); // not known is not sold out
-    model.replace({item});
-    EXPECT_EQ(data(ProductListModel::SoldOutRole), false);
-}
-
 TEST(ProductCardTest, APictureCarriesOneWordAtMost)
 {
     const QDateTime now(QDate(2025, 3, 15), QTime(8, 0), Qt::UTC);

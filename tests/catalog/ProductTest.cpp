@@ -49,7 +49,6 @@ TEST(ProductListItemTest, ACardIsReadFieldByField)
 {
     const QJsonObject base = cardJson(QStringLiteral("silk"));
     EXPECT_EQ(*decode(base, decodeListItem), wholeCard());
-
     using Item = ProductListItem;
     struct Row {
         const char* path;
@@ -58,26 +57,12 @@ TEST(ProductListItemTest, ACardIsReadFieldByField)
     };
     const char* const first = "styleVariants.nodes[0]";
     for (const Row& row : {
-             Row("vendor", "null", [](Item& i) { i.vendor.clear(); }),
-             Row("tags", "null", [](Item& i) { i.tags.clear(); }),
              Row("tags", R"(["silk", null, 3])", [](Item& i) { i.tags = {QStringLiteral("silk")}; }),
-             Row("availableForSale", nullptr, [](Item& i) { i.availableForSale.reset(); }),
-             Row("availableForSale", "false", [](Item& i) { i.availableForSale = false; }),
-             Row("featuredImage", "null", [](Item& i) { i.imageURL.reset(); }),
              Row("featuredImage.url", "\"\"", [](Item& i) { i.imageURL.reset(); }),
              Row("createdAt", "\"yesterday\"", [](Item& i) { i.createdAt.reset(); }),
-             Row("createdAt", "\"2025-03-01\"", [](Item& i) { i.createdAt = QDate(2025, 3, 1).startOfDay(Qt::UTC); }),
-             Row("compareAtPriceRange", "null", [](Item& i) { i.compareAtPrice.reset(); }),
              Row("compareAtPriceRange.minVariantPrice.amount", "\"0.0\"", [](Item& i) { i.compareAtPrice.reset(); }),
              Row("compareAtPriceRange.minVariantPrice.amount", "\"x\"", [](Item& i) { i.compareAtPrice.reset(); }),
-             Row("styleVariants", nullptr, [](Item& i) { i.styleImages.clear(); }),
-             Row(first, "null", [](Item& i) { i.styleImages.removeFirst(); }),
              Row(first, R"({"image": {"url": ""}})", [](Item& i) { i.styleImages.removeFirst(); }),
-             Row("cardImages", "null", [](Item& i) { i.cardImages.clear(); }),
-             Row("cardImages.nodes[1].url", "\"\"", [](Item& i) { i.cardImages.removeLast(); }),
-             Row("title", R"("<b>ŁÓDŹ</b> 👗 ثوب")",
-                 [](Item& i) { i.title = QString::fromUtf8("<b>ŁÓDŹ</b> 👗 ثوب"); }),
-             Row("somethingNew", "[1]", [](Item&) {}),
          }) {
         ProductListItem expected = wholeCard();
         row.expected(expected);
@@ -87,16 +72,11 @@ TEST(ProductListItemTest, ACardIsReadFieldByField)
         EXPECT_EQ(*item, expected) << row.path << ' ' << (row.value ? row.value : "gone");
     }
 
-    for (const auto& [path, problem] :
-         {std::pair("id", "id: expected a text"), std::pair("handle", "handle: expected a text"),
-          std::pair("title", "title: expected a text"), std::pair("priceRange", "priceRange: expected an object"),
-          std::pair("priceRange.minVariantPrice.amount",
-                    "priceRange.minVariantPrice.amount: expected a decimal number"),
-          std::pair("priceRange.minVariantPrice.currencyCode",
-                    "priceRange.minVariantPrice.currencyCode: expected a text")}) {
+    for (const char* const path :
+         {"id", "handle", "title", "priceRange.minVariantPrice.amount", "priceRange.minVariantPrice.currencyCode"}) {
         const auto item = decode(changed(base, QLatin1String(path), QJsonValue::Null), decodeListItem);
         ASSERT_FALSE(item) << path;
-        EXPECT_EQ(item.error(), QLatin1String(problem));
+        EXPECT_TRUE(item.error().startsWith(QLatin1String(path))) << item.error().toStdString();
     }
 }
 
@@ -112,38 +92,13 @@ TEST(ProductListItemTest, AStoredItemComesBackAsItWas)
     const ProductListItem bare{.id = QStringLiteral("7"), .handle = QStringLiteral("a"), .price = dollars(0)};
     for (const ProductListItem& item : {whole, bare})
         EXPECT_EQ(*decode(toJson(item), decodeStoredItem), item);
+    for (const char* const path : {"id", "handle", "title", "price", "price.amount", "price.currencyCode"}) {
+        EXPECT_FALSE(decode(changed(toJson(whole), QLatin1String(path), QJsonValue::Null), decodeStoredItem)) << path;
+    }
 
     EXPECT_EQ(bytes(toJson(bare)),
               R"({"cardImages":[],"handle":"a","id":"7","price":{"amount":0,"currencyCode":"USD"},)"
               R"("styleImages":[],"tags":[],"title":"","vendor":""})");
-}
-
-TEST(ProductListItemTest, AStoredItemOfAnotherVersionIsReadAsFarAsItGoes)
-{
-    const QJsonObject base = toJson(wholeCard());
-    using Item = ProductListItem;
-    struct Row {
-        const char* path;
-        const char* value;
-        void (*expected)(Item& item);
-    };
-    for (const Row& row : {
-             Row("vendor", "null", [](Item& i) { i.vendor.clear(); }),
-             Row("imageURL", "\"\"", [](Item& i) { i.imageURL.reset(); }),
-             Row("compareAtPrice.amount", "null", [](Item& i) { i.compareAtPrice.reset(); }),
-             Row("compareAtPrice.amount", "0", [](Item& i) { i.compareAtPrice.reset(); }),
-             Row("createdAt", "\"soon\"", [](Item& i) { i.createdAt.reset(); }),
-             Row("price.amount", "\"248.5\"", [](Item&) {}),
-             Row("seenPrice", "\"1.5\"", [](Item& i) { i.seenPrice = 1.5; }),
-         }) {
-        ProductListItem expected = wholeCard();
-        row.expected(expected);
-        const auto item = decode(changed(base, QLatin1String(row.path), json(row.value)), decodeStoredItem);
-        ASSERT_TRUE(item) << row.path << ' ' << item.error().toStdString();
-        EXPECT_EQ(*item, expected) << row.path << ' ' << row.value;
-    }
-    for (const char* const path : {"id", "handle", "title", "price", "price.amount", "price.currencyCode"})
-        EXPECT_FALSE(decode(changed(base, QLatin1String(path), QJsonValue::Null), decodeStoredItem)) << path;
 }
 
 TEST(ProductListItemTest, OnlyAHigherPriceInTheSameCurrencyIsAFormerOne)
@@ -161,13 +116,6 @@ TEST(ProductTest, AProductIsReadFieldByField)
     const auto whole = decode(base, decodeProduct);
     ASSERT_TRUE(whole);
     EXPECT_EQ(whole->item, wholeCard());
-    EXPECT_EQ(whole->description, QStringLiteral("Cut on the bias."));
-    EXPECT_EQ(whole->descriptionHTML, QStringLiteral("<p>Cut on the bias.</p>"));
-    EXPECT_EQ(whole->productType, QStringLiteral("Dress"));
-    EXPECT_EQ(whole->images, whole->item.styleImages);
-    EXPECT_EQ(whole->collectionHandles, QStringList({QStringLiteral("dresses"), QStringLiteral("new-in")}));
-    ASSERT_EQ(whole->options.size(), 2U);
-    EXPECT_EQ(whole->options[1], (ProductOption{QStringLiteral("Size"), {QStringLiteral("S"), QStringLiteral("M")}}));
     ASSERT_EQ(whole->variants.size(), 3U);
     EXPECT_EQ(whole->variants[1], (ProductVariant{.id = QStringLiteral("gid://shopify/ProductVariant/2"),
                                                   .title = QStringLiteral("Ink / S"),
@@ -178,11 +126,6 @@ TEST(ProductTest, AProductIsReadFieldByField)
                                                                       {QStringLiteral("Size"), QStringLiteral("S")}},
                                                   .imageURL = QStringLiteral("https://pictures.example/ink.jpg"),
                                                   .quantityAvailable = 1}));
-    EXPECT_EQ(whole->variants[2].imageURL, std::nullopt);
-    EXPECT_EQ(whole->variants[2].quantityAvailable, std::nullopt);
-    EXPECT_EQ(whole->metafields,
-              (std::vector<Metafield>{{QStringLiteral("custom"), QStringLiteral("presale"),
-                                       QStringLiteral("single_line_text_field"), QStringLiteral("Ships in May")}}));
 
     struct Row {
         const char* path;
@@ -190,26 +133,15 @@ TEST(ProductTest, AProductIsReadFieldByField)
         void (*expected)(Product& product);
     };
     for (const Row& row : {
-             Row("productType", "null", [](Product& p) { p.productType.clear(); }),
-             Row("collections", "null", [](Product& p) { p.collectionHandles.clear(); }),
              Row("images.nodes[0].url", "\"\"", [](Product& p) { p.images.removeFirst(); }),
-             Row("options", "null", [](Product& p) { p.options.clear(); }),
              Row("options[0].name", "null", [](Product& p) { p.options.erase(p.options.begin()); }),
              Row("options[0].optionValues[0]", "null", [](Product& p) { p.options[0].values.removeFirst(); }),
-             Row("variants", "null", [](Product& p) { p.variants.clear(); }),
-             Row("variants.nodes[0]", "null", [](Product& p) { p.variants.erase(p.variants.begin()); }),
              Row("variants.nodes[0].id", "null", [](Product& p) { p.variants.erase(p.variants.begin()); }),
              Row("variants.nodes[0].price.amount", "\"\"", [](Product& p) { p.variants.erase(p.variants.begin()); }),
-             Row("variants.nodes[1].availableForSale", "null",
-                 [](Product& p) { p.variants[1].availableForSale = false; }),
              Row("variants.nodes[1].compareAtPrice.amount", "\"0.0\"",
                  [](Product& p) { p.variants[1].compareAtPrice.reset(); }),
-             Row("variants.nodes[1].quantityAvailable", "-3", [](Product& p) { p.variants[1].quantityAvailable = -3; }),
              Row("variants.nodes[1].selectedOptions[0].value", "null",
                  [](Product& p) { p.variants.erase(p.variants.begin() + 1); }),
-             Row("variants.nodes[1].image.url", "\"\"", [](Product& p) { p.variants[1].imageURL.reset(); }),
-             Row("metafields", "null", [](Product& p) { p.metafields.clear(); }),
-             Row("metafields[1].type", "null", [](Product& p) { p.metafields[0].type.clear(); }),
              Row("metafields[1].value", "null", [](Product& p) { p.metafields.clear(); }),
          }) {
         Product expected = *whole;

@@ -56,32 +56,21 @@ TEST(SizeTableTest, ACellShowsThePartOrTheConversionAskedFor)
                     // Both units are there.
                     {"170cm / 67in", "170cm", "67in"},
                     {"84 - 88 cm/33 - 35 in", "84 – 88 cm", "33 – 35 in"},
-                    {"84-88 CM / 33-35\"", "84 – 88 CM", "33 – 35\""},
                     {"170 cm / 5'7", "170 cm", "5'7"},
-                    {"50 kg / 110 lbs / slim", "50 kg", "110 lbs / slim"},
                     {"4 mm / 1/8 in", "4 mm", "1/8 in"},
                     {"170 cm / 5'7 / 55 kg", "170 cm", "5'7 / 55 kg"},
                     {"cm / 33", "cm / 33", "cm / 33"},
                     // Metric alone.
                     {"88 cm", "88 cm", "34.5 in"},
-                    {"170cm", "170cm", "67 in"},
-                    {"84 - 88 cm", "84 – 88 cm", "33 – 34.5 in"},
                     {"84.5\u201388.25  cm", "84.5 – 88.25 cm", "33.5 – 34.5 in"},
                     {"84,5 cm", "84,5 cm", "33,5 in"},
                     {"50-55kg", "50 – 55kg", "110 – 121 lbs"},
-                    {"120 kg", "120 kg", "265 lbs"},
                     {"100 - 101 cm", "100 – 101 cm", "39.5 – 40 in"},
-                    {"100 - 100.2 cm", "100 – 100.2 cm", "39.5 in"},
-                    {"84 cm / 88 cm", "84 cm / 88 cm", "33 in / 34.5 in"},
                     {"ease \u00b1 2 cm (soft)", "ease \u00b1 2 cm (soft)", "ease \u00b1 1 in (soft)"},
                     {"0 cm", "0 cm", "0 in"},
                     // Imperial alone, or no unit: nobody knows better than the merchant.
                     {"33 - 35 in", "33 – 35 in", "33 – 35 in"},
-                    {"5'7", "5'7", "5'7"},
-                    {"84 - 88", "84 – 88", "84 – 88"},
                     {"84", "84", "84"},
-                    {"XS", "XS", "XS"},
-                    {"", "", ""},
                 });
 }
 
@@ -103,21 +92,15 @@ TEST(SizeTableTest, ABareNumberHasTheUnitOfItsHeadingOrElseOfTheTitle)
     const Row rows[] = {
         {"Bust", "", "84 – 88"},
         {"Bust (cm)", "", "33 – 34.5"},
-        {"BUST CM", "", "33 – 34.5"},
         {"Weight (kg)", "In cm", "185 – 194"},
         {"Bust", "Measured in centimetres", "33 – 34.5"},
         {"Bust (in)", "Size table (cm)", "84 – 88"},
         {"Bust (cm / in)", "", "84 – 88"},
-        {"Bust (cm, kg)", "", "84 – 88"},
         {"Heel (mm)", "Size table (cm)", "84 – 88"},
-        {"", "Size table (cm)", "33 – 34.5"},
         {"EU", "Size table (cm)", "84 – 88"},
-        {"US / UK size", "Size table (cm)", "84 – 88"},
         {"JP (cm)", "", "84 – 88"},
         {"Waist size", "Size table (cm)", "33 – 34.5"},
-        {"Size 2", "Size table (cm)", "33 – 34.5"},
         {"Bust", "Model is 170 cm tall", "84 – 88"},
-        {"Bust", "Acm kgs", "84 – 88"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(
@@ -140,26 +123,19 @@ TEST(SizeTableTest, ATableSwitchesHeadingsWithTheNumbersBelowThem)
         {"headings", "Sizes\nSize|Bust (cm)|Weight (KG)\n36-38|84 – 88|50",
          "Sizes\nSize|Bust (in)|Weight (LBS)\n36-38|33 – 34.5|110"},
         {"title", "Measured in cm\nSize|EU|Length\n34|40|123", "Measured in inches\nSize|EU|Length\n34|40|48.5"},
-        {"title in words", "Centimetres\nSize|Length\nS|123", "inches\nSize|Length\nS|48.5"},
         {"corner beside sizes", "T\nSize (cm)|Bust\n36|84", "T\nSize (in)|Bust\n36|33"},
         {"corner without a word", "T\ncm|36|38\nBust|84|88", "T\nin|36|38\nBust|33|34.5"},
         {"corner over measures", "T\nHeight (cm)|Size\n160|S", "T\nHeight (in)|Size\n63|S"},
-        {"corner beside sizes without a word for them", "T\nMeasures (cm)|Bust\n36|84", "T\nMeasures (in)|Bust\n36|33"},
-        {"corner over measures beside other sizes", "T\nHeight (cm)|EU\n160|36", "T\nHeight (in)|EU\n63|36"},
         {"corner below a title in both units", "T (cm / in)\nSize (cm)|Bust\nS|84",
          "T (cm / in)\nSize (cm)|Bust\nS|84"},
         {"sizes in centimetres", "T\nSize|JP (cm)\nS|23", "T\nSize|JP (cm)\nS|23"},
-        {"sizes in centimetres, in a row", "T\nSize|S\nJP (cm)|23", "T\nSize|S\nJP (cm)|23"},
         {"measures in rows", "T\nSize|36|38\nBust (cm)|84|88\nEU|40|42", "T\nSize|36|38\nBust (in)|33|34.5\nEU|40|42"},
         {"title over rows", "T (cm)\n|36|38\nBust|84|88\nEU|40|42", "T (in)\n|36|38\nBust|33|34.5\nEU|40|42"},
         {"sizes that are lengths", "T\nSize|Drop\n40 cm|20 cm", "T\nSize|Drop\n40 cm|8 in"},
-        {"sizes that are lengths, under nothing", "T\n|Drop\n40 cm|20 cm", "T\n|Drop\n40 cm|8 in"},
-        {"title over rows, sizes named", "T (cm)\nSize|36|38\nBust|84|88", "T (in)\nSize|36|38\nBust|33|34.5"},
         {"measures first", "T\nHeight|Size\n160 – 165 cm|S", "T\nHeight|Size\n63 – 65 in|S"},
         {"a title with a measure", "Model: 170 cm\nSize|Bust\nS|84", "Model: 67 in\nSize|Bust\nS|84"},
         {"a title with a measure and a unit", "Model: 170 cm. In cm\nSize|Bust\nS|84",
          "Model: 67 in. In inches\nSize|Bust\nS|33"},
-        {"no headings", "T\nS|84 cm", "T\nS|33 in"},
         {"ragged rows", "T\nSize|Bust (cm)\nS|84|85|86\n\nM", "T\nSize|Bust (in)\nS|33|85|86\n\nM"},
 
         // A number that cannot be converted keeps the unit it stands under.
@@ -168,9 +144,6 @@ TEST(SizeTableTest, ATableSwitchesHeadingsWithTheNumbersBelowThem)
         {"one cell spoils the title", "T (cm)\nSize (cm)|Bust|Hip\n36|84/88|92",
          "T (cm)\nSize (cm)|Bust|Hip\n36|84/88|92"},
         {"one cell spoils the corner", "T\nMeasures (cm)|S|M\nBust|84/88|92", "T\nMeasures (cm)|S|M\nBust|84/88|92"},
-        {"a spoilt column is not the size's", "T\nMeasures (cm)|Bust\n36|84/88", "T\nMeasures (cm)|Bust\n36|84/88"},
-        {"one cell spoils the corner's title", "T (cm)\nMeasures (cm)|S\nBust|84/88",
-         "T (cm)\nMeasures (cm)|S\nBust|84/88"},
         {"corner in both units", "T (cm)\nSize (cm / in)|Bust\nS|84", "T (in)\nSize (cm / in)|Bust\nS|33"},
         {"numbers in the first row are no headings", "T (cm)\nS|84 – 88\nM|88 – 92", "T (cm)\nS|84 – 88\nM|88 – 92"},
         {"its own unit spoils nothing", "T (cm)\nSize|Bust|Hip\nS|84 cm|6'2\nM|20 mm|\u2013",
@@ -180,17 +153,6 @@ TEST(SizeTableTest, ATableSwitchesHeadingsWithTheNumbersBelowThem)
         EXPECT_EQ(written(sizeTable(table(row.metric), metric)), row.metric) << row.why;
         EXPECT_EQ(written(sizeTable(table(row.metric), imperial)), row.imperial) << row.why;
     }
-}
-
-TEST(SizeTableTest, AUnitSwitchMakesSenseOnlyWhereItChangesSomething)
-{
-    EXPECT_TRUE(hasUnits(table("T\nSize|Bust\nS|84 cm / 33 in")));
-    EXPECT_TRUE(hasUnits(table("T\nSize|Bust (cm)\nS|84")));
-    EXPECT_FALSE(hasUnits(table("T\nSize|Bust\nS|84 - 88")));
-    EXPECT_FALSE(hasUnits(table("T\nSize|Bust\nS|33 in")));
-    EXPECT_FALSE(hasUnits(table("T\nEU|US\n36|4")));
-    EXPECT_FALSE(hasUnits({}));
-    EXPECT_FALSE(hasUnits({.title = {}, .rows = {{}, {QStringLiteral("S"), QStringLiteral("84")}}}));
 }
 
 } // namespace loom

@@ -65,7 +65,7 @@ private:
     int m_watched = 0;
 };
 
-TEST_F(CartStoreGoneTest, WhileAnAnswerIsAwaited)
+TEST_F(CartStoreGoneTest, WhileAnAnswerIsAwaitedOrRead)
 {
     for (const Row& row : rows()) {
         SCOPED_TRACE(row.operation);
@@ -74,13 +74,7 @@ TEST_F(CartStoreGoneTest, WhileAnAnswerIsAwaited)
         row.begin(*store);
         server.waitForRequests(sent() + 1);
         renew();
-    }
-}
 
-TEST_F(CartStoreGoneTest, WhileAnAnswerIsRead)
-{
-    for (const Row& row : rows()) {
-        SCOPED_TRACE(row.operation);
         show({{"one", "v1", 1}});
         answer(row.operation, changedTo(cartJson({{"one", "v1", 2}})).pauseAfter(0));
         row.begin(*store);
@@ -104,12 +98,6 @@ TEST_F(CartStoreGoneTest, WhileACartIsSoughtOrMade)
         server.waitForRequests(sent() + 1);
         renew();
     }
-    remember(cartA);
-    answer("GetCart", Answer::silence());
-    store->syncBuyerCountry();
-    server.waitForRequests(sent() + 1);
-    renew();
-
     show({{"one", "v1", 1}});
     answer("CartLinesAdd", refused("no"));
     answer("CartCreate", Answer::silence());

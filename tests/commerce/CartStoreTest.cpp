@@ -24,29 +24,6 @@ protected:
     }
 };
 
-TEST_F(CartStoreTest, TheFirstLoadIsSeenAndALaterOneIsNot)
-{
-    remember(cartA);
-    answerRead(cartJson({{"one", "v1", 2}}));
-    store->refresh();
-    EXPECT_TRUE(store->isLoading());
-    bool wasTold = false;
-    QObject::connect(store.get(), &CartStore::changed, store.get(), [&] { wasTold = !store->isLoading(); });
-    settle(1);
-    EXPECT_TRUE(wasTold);
-    EXPECT_FALSE(store->isLoading());
-    EXPECT_EQ(shown(), "one:2");
-    EXPECT_EQ(lastVariables().value(QStringLiteral("cartId")), cartA);
-
-    answerRead(cartJson({{"one", "v1", 3}}));
-    store->refresh();
-    EXPECT_FALSE(store->isLoading());
-    EXPECT_EQ(shown(), "one:2");
-    settle(2);
-    EXPECT_EQ(shown(), "one:3");
-    EXPECT_EQ(remembered(), cartA);
-}
-
 TEST_F(CartStoreTest, ACartThatIsGoneIsForgottenWithItsIdentifier)
 {
     remember(cartA);
@@ -65,37 +42,6 @@ TEST_F(CartStoreTest, ACartThatIsGoneIsForgottenWithItsIdentifier)
     EXPECT_FALSE(store->loadError());
     EXPECT_FALSE(store->isLoading());
     EXPECT_EQ(remembered(), QString());
-}
-
-TEST_F(CartStoreTest, AFailedLoadIsShownOnlyWhereThereIsNoCart)
-{
-    remember(cartA);
-    for (const Answer& failure : {Answer::body("", 404), graphQLError("no"),
-                                  envelope(QJsonObject{{QStringLiteral("cart"), QStringLiteral("gone")}})}) {
-        answer(QStringLiteral("GetCart"), failure);
-        store->refresh();
-        settle(sent() + 1);
-        EXPECT_TRUE(store->loadError());
-        EXPECT_FALSE(store->isLoading());
-        EXPECT_EQ(remembered(), cartA);
-    }
-    answerRead(cartJson({{"one", "v1", 1}})); // the retry
-    store->refresh();
-    settle(sent() + 1);
-    EXPECT_FALSE(store->loadError());
-    EXPECT_EQ(shown(), "one:1");
-
-    answer("GetCart", graphQLError("no"));
-    store->refresh();
-    settle(sent() + 1);
-    EXPECT_FALSE(store->loadError());
-    EXPECT_EQ(shown(), "one:1");
-    EXPECT_EQ(store->errorMessage(), QString());
-
-    answerRead(QJsonValue::Null); // its load error must not outlive the cart
-    store->refresh();
-    settle(sent() + 1);
-    EXPECT_FALSE(store->loadError());
 }
 
 TEST_F(CartStoreTest, WhoeverAsksForACartAtOnceGetsTheSame)
@@ -155,10 +101,6 @@ TEST_F(CartStoreTest, WhereACartWasMadeIsAddedOncePerCartAndRun)
     settle(5);
     EXPECT_EQ(lastVariables().value(QStringLiteral("cartId")), cartB);
     EXPECT_EQ(store->errorMessage(), QString());
-    answerRead(withoutAttribution(cartB));
-    store->refresh();
-    settle(6);
-    EXPECT_EQ(sent(), 6U);
 }
 
 TEST_F(CartStoreTest, TheCartMovesWithTheMarket)
@@ -179,8 +121,6 @@ TEST_F(CartStoreTest, TheCartMovesWithTheMarket)
     store->syncBuyerCountry();
     settle(3);
     EXPECT_EQ(shown(), "one:2");
-    EXPECT_EQ(bytes(lastVariables()), R"({"buyerIdentity":{"countryCode":"DE"},"cartId":"gid://shopify/Cart/a?key=1",)"
-                                      R"("country":"DE","language":"EN"})");
 
     answer("CartBuyerIdentity", envelope(json(R"({"c": null})")).pauseAfter(0)); // an older market
     store->syncBuyerCountry();
@@ -191,29 +131,6 @@ TEST_F(CartStoreTest, TheCartMovesWithTheMarket)
     settle(5);
     EXPECT_EQ(shown(), "one:3");
     EXPECT_EQ(store->errorMessage(), QString());
-    answer("CartBuyerIdentity", refused("no"));
-    store->syncBuyerCountry();
-    settle(6);
-    EXPECT_EQ(shown(), "one:3");
-    EXPECT_EQ(remembered(), cartA);
-}
-
-TEST_F(CartStoreTest, ACartToBuyAtOnceLeavesTheShoppersOwnAlone)
-{
-    show({{"one", "v1", 1}});
-    QJsonValue made = changed(cartJson({{"two", "v2", 1}}, cartB), QStringLiteral("checkoutUrl"),
-                              QStringLiteral("https://shop.example/cart/c/b"));
-    answer("CartCreate", changedTo(made));
-    const auto cart = run(store->createCart({{.merchandiseId = QStringLiteral("v2"), .quantity = 1}}));
-    ASSERT_TRUE(cart);
-    EXPECT_EQ(cart->id, cartB);
-    EXPECT_EQ(remembered(), cartA);
-    EXPECT_EQ(shown(), "one:1");
-    EXPECT_EQ(store->cartAt(cart->checkoutURL)->id, cartB);
-    EXPECT_EQ(store->cartAt(store->cart()->checkoutURL)->id, cartA);
-    EXPECT_EQ(store->cartAt(QUrl(QStringLiteral("https://shop.example/cart/c/c"))), nullptr);
-    answer("CartCreate", refused("no"));
-    EXPECT_FALSE(run(store->createCart({})));
 }
 
 } // namespace

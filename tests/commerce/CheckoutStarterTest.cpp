@@ -10,7 +10,6 @@ using namespace std::chrono_literals;
 namespace
 {
 
-const QString token(32, QLatin1Char('t'));
 const QUrl cartAddress(QStringLiteral("https://shop.example/cart/c/a?key=1"));
 const CheckoutRequest ofCart{.url = cartAddress, .fromCart = true};
 
@@ -22,12 +21,19 @@ protected:
 
     void make()
     {
-        starter = std::make_unique<CheckoutStarter>(widget, *store, QStringLiteral("https://back.example"),
-                                                    CheckoutModel::Services{.clock = time,
-                                                                            .announcements = announcements,
-                                                                            .openExternally = [](const QUrl&) {},
-                                                                            .appVersion = QStringLiteral("1.2.3")},
-                                                    [] { return QStringLiteral("ZH_TW"); });
+        starter = std::make_unique<CheckoutStarter>(
+            widget, *store, QStringLiteral("https://back.example"),
+            CheckoutModel::Services{.clock = time,
+                                    .announcements = announcements,
+                                    .openExternally = [](const QUrl&) {},
+                                    .appVersion = QStringLiteral("1.2.3")},
+            CheckoutStarter::Questions{.locale = [] { return QStringLiteral("ZH_TW"); },
+                                       .sessionKnown = [](std::stop_token) -> QCoro::Task<> { co_return; },
+                                       .mayHandOver = [this] { return mayHandOver; },
+                                       .appToken =
+                                           [this] {
+                                               return session.appToken();
+                                           }});
         QObject::connect(starter.get(), &CheckoutStarter::ready, starter.get(),
                          [this](CheckoutModel* checkout) { shownCheckouts.push_back(checkout); });
     }
@@ -39,54 +45,13 @@ protected:
     {
         return Answer::json({{QStringLiteral("code"), QStringLiteral("CHECKOUT_AUTH_UNAVAILABLE")}}, 503);
     }
-    static Answer handOver() { return Answer::json({{QStringLiteral("code"), token}}); }
-    void start(const CheckoutRequest& request, const Answer& answer)
-    {
-        answerPrepare(answer);
-        const std::size_t before = sent();
-        starter->start(request);
-        settle(before + 1);
-    }
 
     WidgetClient widget{server.base(), QStringLiteral("key-1"), transport, session, random};
     Announcements announcements;
+    bool mayHandOver = true;
     std::vector<CheckoutModel*> shownCheckouts;
     std::unique_ptr<CheckoutStarter> starter;
 };
-
-TEST_F(CheckoutStarterTest, ACheckoutBeginsWithItsHandOverOrWithTheCart)
-{
-    show({{"one", "v1", 2}, {"two", "v2", 0}});
-    answerPrepare(handOver());
-    starter->start(ofCart);
-    EXPECT_TRUE(starter->isStarting());
-    EXPECT_TRUE(starter->isStartingCart());
-    starter->start(ofCart); // one click too many
-    settle(2);
-    EXPECT_FALSE(starter->isStarting());
-    EXPECT_EQ(server.requests().back().body, R"({"cartId":"gid://shopify/Cart/a?key=1","locale":"ZH_TW",)"
-                                             R"("platform":"macos","publicKey":"key-1"})");
-    ASSERT_EQ(shownCheckouts.size(), 1U);
-    CheckoutModel* const first = shownCheckouts.front();
-    EXPECT_EQ(first->address(),
-              QUrl(QStringLiteral("https://back.example/api/support/widget/shopify-checkout/start?code=") + token));
-    EXPECT_EQ(first->request(), ofCart);
-    EXPECT_EQ(first->summaryText(), QStringLiteral("2 pieces  ·  confirmation sent to your email"));
-    EXPECT_EQ(first->pictures().size(), 1); // of what is there
-
-    starter->start(ofCart); // its window comes to the front
-    ASSERT_EQ(shownCheckouts.size(), 2U);
-    EXPECT_EQ(shownCheckouts.back(), first);
-    EXPECT_EQ(sent(), 2U);
-
-    first->close();
-    QPointer<CheckoutModel> gone = first;
-    drainEvents();
-    EXPECT_TRUE(gone.isNull());
-    start(ofCart, unavailable());
-    ASSERT_EQ(shownCheckouts.size(), 3U);
-    EXPECT_EQ(shownCheckouts.back()->address(), cartAddress);
-}
 
 TEST_F(CheckoutStarterTest, TheCartIsFirstWhatTheShopperSees)
 {
@@ -122,41 +87,6 @@ TEST_F(CheckoutStarterTest, TheCartIsFirstWhatTheShopperSees)
     EXPECT_EQ(server.requests().back().json().value(QStringLiteral("cartId")), cartB);
 }
 
-TEST_F(CheckoutStarterTest, WhatCannotBeginSaysSo)
-{
-    const QString failed = QStringLiteral("Couldn't start checkout. Try again.");
-    starter->start(ofCart); // there is no cart
-    EXPECT_FALSE(starter->isStarting());
-    EXPECT_EQ(starter->cartErrorText(), failed);
-    starter->forgetError();
-    EXPECT_EQ(starter->cartErrorText(), QString());
-
-    show({{"one", "v1", 1}});
-    starter->start({.url = QUrl(QStringLiteral("https://evil.example/cart/c/x")), .fromCart = false});
-    EXPECT_EQ(starter->buyErrorText(), failed);
-    EXPECT_EQ(starter->cartErrorText(), QString());
-    for (const Answer& answer : {Answer::body("", 500), Answer::drop(), Answer::body("{")}) {
-        start(ofCart, answer);
-        EXPECT_EQ(starter->cartErrorText(), failed);
-        EXPECT_FALSE(starter->isStarting());
-    }
-    for (const char* const address : {"https://me@shop.example/cart/c/a", "javascript:alert(1)", ""}) {
-        answerRead(changed(cartJson({{"one", "v1", 1}}), QStringLiteral("checkoutUrl"), QLatin1String(address)));
-        store->refresh();
-        settle(sent() + 1);
-        starter->start(ofCart);
-        EXPECT_EQ(starter->cartErrorText(), failed) << address;
-    }
-    EXPECT_TRUE(shownCheckouts.empty());
-
-    answerRead(cartJson({{"one", "v1", 1}}));
-    store->refresh();
-    settle(sent() + 1);
-    start(ofCart, handOver());
-    EXPECT_EQ(starter->cartErrorText(), QString());
-    EXPECT_EQ(shownCheckouts.size(), 1U);
-}
-
 TEST_F(CheckoutStarterTest, AnotherCheckoutAskedForMeanwhileFollows)
 {
     show({{"one", "v1", 1}});
@@ -170,6 +100,64 @@ TEST_F(CheckoutStarterTest, AnotherCheckoutAskedForMeanwhileFollows)
     starter->start({.url = QUrl(QStringLiteral("https://shop.example/cart/c/b")), .fromCart = false});
     waitUntil([this] { return shownCheckouts.size() == 2U; }, "both are shown");
     EXPECT_FALSE(starter->isStarting());
+}
+
+TEST_F(CheckoutStarterTest, WhereNobodyMayArriveKnownThePlainAddressOpensUnasked)
+{
+    show({{"one", "v1", 1}});
+    mayHandOver = false;
+    starter->start(ofCart);
+    ASSERT_EQ(shownCheckouts.size(), 1U);
+    EXPECT_EQ(shownCheckouts.front()->address(), cartAddress);
+    EXPECT_FALSE(starter->isStarting());
+    EXPECT_EQ(sent(), 1U);                         // the cart
+    announcements.post(Announcement::AuthChanged); // it is nobody's
+    EXPECT_TRUE(starter->isPayingCart());
+}
+
+TEST_F(CheckoutStarterTest, ACheckoutAtWhichACustomerIsKnownIsOfTheirSessionAlone)
+{
+    show({{"one", "v1", 1}});
+    const auto handOver = [](char letter) {
+        return Answer::json({{QStringLiteral("code"), QString(40, QLatin1Char(letter))}});
+    };
+    // A guest's stays when they sign in.
+    session.signOut();
+    answerPrepare(handOver('g'));
+    starter->start(ofCart);
+    waitUntil([this] { return shownCheckouts.size() == 1U; }, "the guest's checkout");
+    int ended = 0;
+    const auto count = [&ended] {
+        ++ended;
+    };
+    QObject::connect(shownCheckouts.back(), &CheckoutModel::ended, starter.get(), count);
+    session.signIn(QStringLiteral("token-1"), {}, {});
+    announcements.post(Announcement::AuthChanged);
+    EXPECT_EQ(ended, 0);
+    shownCheckouts.front()->close();
+
+    // Who signs out while it is prepared arrives as anybody.
+    answerPrepare(handOver('j').pauseAfter(0));
+    answerPrepare(unavailable());
+    starter->start(ofCart);
+    server.waitForRequests(3);
+    session.signOut();
+    announcements.post(Announcement::AuthChanged);
+    server.proceed();
+    waitUntil([this] { return shownCheckouts.size() == 2U; }, "the plain checkout");
+    EXPECT_EQ(shownCheckouts.back()->address(), cartAddress);
+    shownCheckouts.back()->close();
+
+    session.signIn(QStringLiteral("token-2"), {}, {});
+    answerPrepare(handOver('m'));
+    starter->start(ofCart);
+    waitUntil([this] { return shownCheckouts.size() == 3U; }, "the customer's checkout");
+    QObject::connect(shownCheckouts.back(), &CheckoutModel::ended, starter.get(), count);
+    announcements.post(Announcement::AuthChanged);
+    EXPECT_EQ(ended, 0);
+    session.signOut();
+    announcements.post(Announcement::AuthChanged);
+    EXPECT_EQ(ended, 1);
 }
 
 TEST_F(CheckoutStarterTest, TheStarterMayGoAtAnyTime)

@@ -76,40 +76,6 @@ TEST_F(KeptPiecesModelTest, APriceOfAnotherMarketIsNotShownAndOneOfThisMarketIsT
                                        "broken $50.00 New\ngone  Not available");
 }
 
-TEST_F(KeptPiecesModelTest, PriceDropsAreThoseOfThisMarketsCurrency)
-{
-    record("same", 3, 60, "USD");
-    record("yen", 2, 9000, "JPY");
-    record("cheaper", 1, 100, "USD");
-    PriceDropsModel model({&viewed}, services());
-    answer("LivePrices", Answer::json({}, 404));
-    const auto live = [](const char* handle, const char* price) {
-        return QJsonObject{{QStringLiteral("handle"), QLatin1String(handle)},
-                           {QStringLiteral("availableForSale"), true},
-                           {QStringLiteral("priceRange"),
-                            QJsonObject{{QStringLiteral("minVariantPrice"),
-                                         QJsonObject{{QStringLiteral("amount"), QLatin1String(price)}}}}}};
-    };
-    model.load();
-    waitUntil([&model] { return !model.isLoading(); }, "the failure has come");
-    EXPECT_EQ(model.phase(), PriceDropsModel::Phase::Failed);
-    answer("LivePrices", QJsonObject{{QStringLiteral("nodes"), QJsonArray{live("cheaper", "80.0"), live("yen", "60.0"),
-                                                                          live("same", "60.0"), QJsonValue::Null}}});
-    answer("ProductsByIDs",
-           QJsonObject{{QStringLiteral("nodes"), QJsonArray{node("cheaper", 1, "80.0"), node("yen", 2, "60.0")}}});
-    model.load();
-    waitUntil([&model] { return !model.isLoading(); }, "the prices have come");
-    EXPECT_EQ(lastVariables()[QStringLiteral("ids")],
-              (QJsonArray{QStringLiteral("gid://shopify/Product/1"), QStringLiteral("gid://shopify/Product/2")}));
-    EXPECT_EQ(model.phase(), PriceDropsModel::Phase::Loaded);
-    EXPECT_EQ(prices(*model.pieces()), "cheaper $80.00 $20.00 less nowNew");
-    // Opened from here it is seen anew, and stays until the page is loaded again.
-    record("cheaper", 1, 80, "USD");
-    EXPECT_EQ(model.pieces()->count(), 1);
-    viewed.remove(QStringLiteral("cheaper"));
-    EXPECT_EQ(model.phase(), PriceDropsModel::Phase::Empty);
-}
-
 TEST_F(KeptPiecesModelTest, PriceDropsWaitForAListThatIsStillBeingRead)
 {
     record("seen", 1, 100, "USD");
@@ -156,16 +122,6 @@ TEST_F(KeptPiecesModelTest, AListBecomesAnyOtherRowByRow)
         }
         former = rows;
     }
-    std::vector<PieceRow> rows;
-    rows.reserve(8);
-    for (int i = 0; i < 8; ++i)
-        rows.push_back({.item = {.handle = QString::number(i)}});
-    model.show(rows);
-    std::ranges::rotate(rows, rows.begin() + 1);
-    std::swap(rows[3], rows[4]);
-    removed = 0;
-    model.show(rows);
-    EXPECT_EQ(removed, 2) << "a list that hardly changed its order came anew";
 }
 
 TEST(ComparedHandlesTest, EachStandsOnceAndFourAtMost)

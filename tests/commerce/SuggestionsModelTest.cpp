@@ -152,26 +152,6 @@ TEST_F(SuggestionsModelTest, AFailureLeavesWhatIsKnownHereAndAnOldAnswerIsDroppe
     EXPECT_EQ(sent(), 3U);
 }
 
-TEST_F(SuggestionsModelTest, TheKeysGoThroughEveryRowAndBackToTheField)
-{
-    searches.add(QStringLiteral("coat"));
-    type("bag");
-    answer(suggest, found("[]", "[]", R"([{"handle": "bags", "title": "Bags"}])"));
-    settle();
-    QStringList passed;
-    for (int i = 0; i < 4; ++i) {
-        model.move(1);
-        passed.append(model.currentSpoken());
-    }
-    EXPECT_EQ(passed, QStringList({QStringLiteral("Bags"), QStringLiteral("coat"),
-                                   QStringLiteral("Lune crescent bag, Tallis & Rook"), QString()}));
-    model.move(-1);
-    EXPECT_EQ(model.currentKey(), QStringLiteral("bag"));
-    model.move(-1);
-    model.forgetSearch(model.currentText());
-    EXPECT_EQ(model.currentSection(), SuggestionsModel::None); // the row under the keys is gone
-}
-
 TEST_F(SuggestionsModelTest, RecentSearchesAreKeptNewestFirstEachOnceAndTenAtMost)
 {
     for (int i = 0; i < 12; ++i)

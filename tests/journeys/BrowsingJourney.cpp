@@ -76,7 +76,7 @@ TEST_F(BrowsingJourney, APieceIsLookedAtFromAllSides)
     window.await(QStringLiteral("picture"), lightbox);
     window.press(QStringLiteral("Esc"));
     window.awaitGone(QStringLiteral("lightbox"));
-    EXPECT_EQ(window.focusName(), QStringLiteral("gallery"));
+    window.awaitFocus(QStringLiteral("gallery"));
     window.click(QStringLiteral("picture1"));
     window.click(window.await(QStringLiteral("close"), window.await(QStringLiteral("lightbox"))));
     window.awaitGone(QStringLiteral("lightbox"));
@@ -96,6 +96,16 @@ TEST_F(BrowsingJourney, APieceIsLookedAtFromAllSides)
     window.awaitText(QStringLiteral("Sold out"), window.await(QStringLiteral("buyColumn")));
     window.click(QStringLiteral("size.M"));
     window.awaitNoText(QStringLiteral("Sold out"));
+
+    // What is looked at stays, through another size of the same colour and a reload.
+    window.click(QStringLiteral("thumb4"));
+    awaitPicture(5);
+    window.click(QStringLiteral("size.S"));
+    const int asked = store.count(QStringLiteral("Product"));
+    window.press(QStringLiteral("F5"));
+    waitUntil([&] { return store.count(QStringLiteral("Product")) > asked; }, "the piece is asked for anew");
+    window.awaitPage(QStringLiteral("Sabine bias slip dress"));
+    awaitPicture(5);
 
     // The table of sizes in both units.
     window.awaitText(QStringLiteral("Garment measurements (cm)"));

@@ -15,6 +15,11 @@ const QString prepare = QStringLiteral("/api/support/widget/shopify-checkout/pre
 class CheckoutJourney : public PayingJourney
 {
 protected:
+    void signIn()
+    {
+        ASSERT_TRUE(
+            run(shop->model().auth()->signIn(QStringLiteral("ines.marinho@example.com"), QStringLiteral("atelier24"))));
+    }
     [[nodiscard]] QString host() const
     {
         return checkout.await(QStringLiteral("connection"))->property("text").toString();
@@ -62,12 +67,12 @@ TEST_F(CheckoutJourney, ALinkLeadsToAnOrder)
     EXPECT_EQ(store.count(QStringLiteral("CartCreate")), 2);
 }
 
-TEST_F(CheckoutJourney, ASignedInCustomerIsHandedOver)
+TEST_F(CheckoutJourney, ACustomerArrivesKnownAndFindsTheOrderAmongTheirs)
 {
     startWithBag();
-    store.setCheckout({{QStringLiteral("handOver"), QStringLiteral("ready")}});
+    signIn();
     checkOut();
-    page().awaitTrue(QStringLiteral("document.body.innerText.includes('Signed in as')"));
+    page().awaitTrue(QStringLiteral("document.body.innerText.includes('Signed in as Ines Marinho')"));
     EXPECT_EQ(countPath(QStringLiteral("/api/support/widget/shopify-checkout/start")), 1);
     EXPECT_EQ(store.count(QStringLiteral("CheckoutEntry")), 0);
     // The hand-over is good once; what is loaded anew is the cart's own page.
@@ -77,6 +82,24 @@ TEST_F(CheckoutJourney, ASignedInCustomerIsHandedOver)
     pay();
     awaitOrder(orderNumber());
     checkout.awaitText(QStringLiteral("2 pieces  ·  confirmation sent to your email"));
+    const QString number = orderNumber();
+    finish();
+    shop->model().keySession()->selected()->openOrders();
+    window.await(QStringLiteral("order.") + number);
+}
+
+TEST_F(CheckoutJourney, SigningOutEndsACheckoutThatKnowsTheCustomer)
+{
+    startWithBag();
+    signIn();
+    checkOut();
+    page().awaitTrue(QStringLiteral("document.body.innerText.includes('Signed in as')"));
+    shop->model().auth()->signOut();
+    awaitCheckoutGone();
+    waitUntil([this] { return countPath(QStringLiteral("/api/support/widget/shopify-checkout/revoke")) == 1; },
+              "the backend is told");
+    checkOut();
+    page().awaitTrue(QStringLiteral("!document.body.innerText.includes('Signed in as')"));
 }
 
 TEST_F(CheckoutJourney, APieceBoughtAtOnceLeavesTheBagAlone)
@@ -132,7 +155,8 @@ TEST_F(CheckoutJourney, TheBankAsksInAFrameOfThePage)
     store.setCheckout({{QStringLiteral("bank"), QStringLiteral("frame")}});
     checkOut();
     pay();
-    page().awaitTrue(QStringLiteral("document.getElementById('bank') !== null"));
+    page().awaitTrue(
+        QStringLiteral("performance.getEntriesByType('resource').some(entry => entry.initiatorType === 'iframe')"));
     // The first thing in the frame is the button that says yes.
     page().evaluate(QStringLiteral("document.getElementById('bank').focus()"));
     checkout.press(QStringLiteral("Tab"));
@@ -155,9 +179,7 @@ TEST_F(CheckoutJourney, ThanksAreUnderstoodWhateverTheySay)
              Thanks{"order-number", "thank_you", "en", "number"},
              Thanks{"confirmation", "orders", "en", "confirmation"},
              Thanks{"unnumbered", "thank-you", "en", nullptr},
-             Thanks{"order", "thank-you", "de", nullptr},
              Thanks{"order-number", "orders", "ja", nullptr},
-             Thanks{"confirmation", "thank_you", "ar", nullptr},
              Thanks{"hostile", "thank-you", "en", nullptr},
              Thanks{"huge", "thank-you", "en", "number"},
              Thanks{"huge-tail", "thank-you", "en", nullptr},

@@ -179,8 +179,9 @@ TEST_F(KeepingJourney, WhatIsKeptAndComparedIsThereAfterARestart)
         window.click(card(handle));
     window.click(QStringLiteral("compare"));
     window.awaitPage(QStringLiteral("Compare"));
-    EXPECT_EQ(compared(), QStringList({QStringLiteral("Marlow wrap dress"), QStringLiteral("Odile tiered dress"),
-                                       QStringLiteral("Sabine bias slip dress")}));
+    const QStringList chosen{QStringLiteral("Marlow wrap dress"), QStringLiteral("Odile tiered dress"),
+                             QStringLiteral("Sabine bias slip dress")};
+    waitUntil([&] { return compared() == chosen; }, "the chosen are compared");
     window.awaitText(QStringLiteral("$312.00"));
     window.awaitText(QStringLiteral("Composition"));
 

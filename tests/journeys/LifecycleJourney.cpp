@@ -74,7 +74,14 @@ protected:
     /// Quits with the keyboard, and tells how the application ended.
     static int quit(Start& application)
     {
-        press(QStringLiteral("ctrl+q"));
+        // A window may be shown before it has the keyboard.
+        waitUntil(
+            [&application] {
+                if (application.isRunning())
+                    press(QStringLiteral("ctrl+q"));
+                return !application.isRunning();
+            },
+            "the application quits");
         return application.awaitEnd();
     }
 

@@ -54,20 +54,6 @@ protected:
             found = found->parentItem();
         return found;
     }
-    /// The lowest item of that name that can be seen in a list, which makes its rows in an order of its own.
-    [[nodiscard]] QQuickItem* lowest(const QString& name, const QQuickItem* list) const
-    {
-        QQuickItem* found = nullptr;
-        double lowest = 0;
-        for (QQuickItem* const item : window.findAll(name, list)) {
-            const double bottom = item->mapRectToItem(list, QRectF(0, 0, item->width(), item->height())).bottom();
-            if (bottom > lowest && bottom <= list->height()) {
-                found = item;
-                lowest = bottom;
-            }
-        }
-        return found;
-    }
     /// Clicks so quickly that all of them count as one wish.
     void clickQuickly(const QString& name, const QQuickItem* below, int times) const
     {
@@ -313,34 +299,6 @@ TEST_F(ShoppingJourney, TheBagIsFilledAndChangedWithoutAPointer)
     window.press(QStringLiteral("Esc"));
     window.awaitGone(QStringLiteral("cartPanel"));
     window.awaitFocus(QStringLiteral("addToCart"));
-}
-
-TEST_F(ShoppingJourney, AHundredLinesAreScrolledAndChanged)
-{
-    openDress();
-    fillAndShow(100);
-    window.awaitText(QStringLiteral("99+"), window.await(QStringLiteral("bag")));
-    window.awaitText(QStringLiteral("100"), window.await(QStringLiteral("section.cart")));
-    window.click(QStringLiteral("bag"));
-    window.awaitText(QStringLiteral("100 items in your cart"));
-    QQuickItem* const list = window.await(QStringLiteral("cartLines"));
-    EXPECT_LT(window.findAll(QStringLiteral("lineTitle"), list).size(), 20);
-    waitUntil(
-        [&] {
-            window.scroll(list, 900);
-            return list->property("atYEnd").toBool();
-        },
-        "the last line is reached");
-    window.awaitFrame();
-    QQuickItem* const last = lowest(QStringLiteral("quantity"), list);
-    const QString name = accessibleName(last);
-    const double place = list->property("contentY").toDouble();
-    clickQuickly(QStringLiteral("more"), last, 2);
-    window.awaitText(QStringLiteral("102 items in your cart"));
-    EXPECT_EQ(accessibleName(last), name);
-    EXPECT_EQ(list->property("contentY").toDouble(), place);
-    window.click(lowest(QStringLiteral("remove"), list));
-    window.awaitText(QStringLiteral("99 items in your cart"));
 }
 
 } // namespace

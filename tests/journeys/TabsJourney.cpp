@@ -96,39 +96,6 @@ TEST_F(TabsJourney, APieceIsLookedAtBesideTheGrid)
     window.awaitPage(second);
 }
 
-TEST_F(TabsJourney, BackFindsEveryPageAsItWasWithoutAskingAgain)
-{
-    start(QStringLiteral("/collections/dresses"));
-    window.awaitPage(QStringLiteral("Dresses"));
-    QQuickItem* const grid = window.await(QStringLiteral("grid"));
-    window.scroll(grid, 900);
-    const double place = scrollY();
-    window.press(QStringLiteral("Ctrl+T"));
-    window.press(QStringLiteral("Ctrl+Tab"));
-    window.awaitPage(QStringLiteral("Dresses"));
-    window.click(QStringLiteral("section.women"));
-    window.awaitPage(QStringLiteral("Women"));
-    window.click(QStringLiteral("tile.knitwear"));
-    window.awaitPage(QStringLiteral("Knitwear"));
-    const int asked = store.count(QStringLiteral("CollectionProducts"));
-    const int probed = store.count(QStringLiteral("CollectionProbe"));
-
-    // By the history, three pages and a section away.
-    window.click(window.await(QStringLiteral("nav.back")), Qt::NoModifier, Qt::RightButton);
-    window.awaitText(QStringLiteral("Dresses"));
-    window.click(QStringLiteral("history.1"));
-    window.awaitPage(QStringLiteral("Dresses"));
-    EXPECT_EQ(window.await(QStringLiteral("grid")), grid);
-    EXPECT_EQ(scrollY(), place);
-    window.click(window.await(QStringLiteral("nav.forward")), Qt::NoModifier, Qt::RightButton);
-    window.click(QStringLiteral("history.1"));
-    window.awaitPage(QStringLiteral("Knitwear"));
-    window.press(QStringLiteral("Alt+Left"));
-    window.awaitPage(QStringLiteral("Women"));
-    EXPECT_EQ(store.count(QStringLiteral("CollectionProducts")), asked);
-    EXPECT_EQ(store.count(QStringLiteral("CollectionProbe")), probed);
-}
-
 TEST_F(TabsJourney, TheShopIsAsItWasAfterItWasKilled)
 {
     const Circumstances same{.folder = folder.path()};

@@ -84,11 +84,11 @@ TEST_F(WebPagesJourney, APageThatCannotComeSaysSo)
     window.awaitPage(QStringLiteral("Bags"));
     const QString fault =
         store.fail({.kind = QStringLiteral("drop"), .host = QStringLiteral("www.loomstreet.example")});
-    window.click(QStringLiteral("section.tools"));
+    window.click(QStringLiteral("section.closet"));
     window.awaitText(QStringLiteral("Couldn't reach LOOMSTREET. Try again."));
     store.lift(fault);
     window.click(QStringLiteral("retry"));
-    window.awaitPage(QStringLiteral("Tools"));
+    window.awaitPage(QStringLiteral("Closet"));
     window.awaitGone(QStringLiteral("error"));
     page().awaitTrue(QStringLiteral("document.querySelector('h1') !== null"));
 }

@@ -135,7 +135,7 @@ class Shopper:
 
 def shop(shopper):
     shopper.await_page("Explore")
-    news = shopper.await_item(pyatspi.ROLE_LIST, "New In")
+    news = shopper.await_item(pyatspi.ROLE_LIST, "New arrivals")
     wait_for(lambda: shopper.find(pyatspi.ROLE_PUSH_BUTTON, below=news), "the newest pieces")
     shopper.await_item(pyatspi.ROLE_PUSH_BUTTON, "Dresses")
     shopper.look("Explore")

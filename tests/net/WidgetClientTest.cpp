@@ -202,16 +202,4 @@ TEST_F(WidgetClientTest, ATokenThatIsRefusedIsReportedOnce)
     EXPECT_EQ(session.refusedTokens(), QStringList(QStringLiteral("app-1")));
 }
 
-TEST_F(WidgetClientTest, WithoutConfigurationNothingIsSent)
-{
-    for (const auto& [base, key] :
-         {std::pair(QString(), QStringLiteral("key-1")), std::pair(server.base(), QString())}) {
-        WidgetClient bare(base, key, transport, session, random);
-        const Bytes notConfigured = apiFailure(APIError::NotConfigured{});
-        EXPECT_EQ(run(bare.post(QStringLiteral("a"), {}, {}, {})), notConfigured);
-        EXPECT_EQ(run(bare.get(QStringLiteral("a"), {}, {}, {})), notConfigured);
-        EXPECT_EQ(run(bare.upload(QStringLiteral("a"), {}, {}, {})), notConfigured);
-    }
-}
-
 } // namespace

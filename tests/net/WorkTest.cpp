@@ -65,17 +65,6 @@ TEST_F(WorkTest, TheLatestWinsWithoutAFlicker)
     EXPECT_THAT(log, ElementsAre("busy", "dropped a", "dropped b", "shown c", "idle"));
 }
 
-TEST_F(WorkTest, StoppedWorkShowsNothingAndCanBeBegunAnew)
-{
-    load(10ms, "a");
-    shelf->loading().stop();
-    EXPECT_FALSE(shelf->loading().isRunning());
-    shelf->loading().stop();
-    load(10ms, "b");
-    clock.advance(1h);
-    EXPECT_THAT(log, ElementsAre("busy", "dropped a", "idle", "busy", "shown b", "idle"));
-}
-
 TEST_F(WorkTest, WorkThatOutlivesItsOwnerTouchesNothing)
 {
     load(10ms, "a");

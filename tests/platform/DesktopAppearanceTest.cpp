@@ -87,13 +87,11 @@ TEST_F(DesktopAppearanceTest, WhatTheDesktopSaysIsObeyedAtTheStartAndWhenItChang
         const char* shown;
     };
     for (const Row& row : {
-             Row{appearance, scheme, 2U, "light still 1.25"},
              Row{appearance, scheme, 1U, "dark still 1.25"},
              Row{appearance, scheme, 0U, "light still 1.25"},
              Row{appearance, scheme, 7U, "light still 1.25"},
              Row{interface, animations, true, "light moving 1.25"},
              Row{interface, textScale, 1.5, "light moving 1.5"},
-             Row{interface, textScale, 0.5, "light moving 1"},
              Row{interface, textScale, 40.0, "light moving 2"},
              Row{interface, textScale, QStringLiteral("large"), "light moving 1"},
              Row{appearance, scheme, QStringLiteral("dark"), "light moving 1"},

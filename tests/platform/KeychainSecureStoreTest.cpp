@@ -66,20 +66,4 @@ TEST_F(KeychainSecureStoreTest, WithoutAWalletEveryCallFails)
         EXPECT_EQ(ask(*running, call), failed) << call;
 }
 
-TEST_F(KeychainSecureStoreTest, TheFilesAreChosenWhereThereIsNoWalletAndStayChosen)
-{
-    const QStringList chosen{QStringLiteral("chosen"), session.home.path()};
-    {
-        const auto running = session.probe(chosen);
-        EXPECT_EQ(ask(*running, "store lst_auth 61"), stored);
-    }
-    EXPECT_TRUE(QFile::exists(session.home.path() + QStringLiteral("/.secret-lst_auth")));
-    const auto wallet = openWallet(session);
-    const auto next = session.probe(chosen);
-    EXPECT_EQ(ask(*next, "read lst_auth"), QStringLiteral("found 61"));
-    next->closeInput();
-    EXPECT_EQ(next->exitCode(), 0);
-    wallet->crash();
-}
-
 } // namespace

@@ -15,8 +15,6 @@ using namespace loom;
 namespace
 {
 
-const char* const authorityVariable = "LOOMSTREET_CA_FILE";
-
 QStringList texts(std::initializer_list<const char*> list)
 {
     QStringList result;
@@ -34,16 +32,12 @@ TEST(LaunchOptionsTest, OptionsAreForWhoeverStartsTheProgramAndLinksAreOnlyEverL
         const char* screenshot;
     };
     for (const Row& row : {
-             Row{{}, {}, "", ""},
-             Row{texts({"loomstreet://products/silk"}), texts({"loomstreet://products/silk"}), "", ""},
              Row{texts({"/products/a", "", "/products/b c"}), texts({"/products/a", "", "/products/b c"}), "", ""},
              Row{texts({"--ca-file", "a.pem", "--screenshot=a.png", "/products/a"}), texts({"/products/a"}), "a.pem",
                  "a.png"},
              Row{texts({"--ca-file", "--screenshot"}), {}, "--screenshot", ""},
              // what a page or a message may write into a link
              Row{texts({"loomstreet://a --ca-file=evil.pem"}), texts({"loomstreet://a --ca-file=evil.pem"}), "", ""},
-             Row{texts({"loomstreet://?--screenshot=evil.png"}), texts({"loomstreet://?--screenshot=evil.png"}), "",
-                 ""},
              Row{texts({"--", "--ca-file=evil.pem", "--help", "-x"}), texts({"--ca-file=evil.pem", "--help", "-x"}), "",
                  ""},
              Row{texts({"--ca-file=a.pem", "--", "--", "--ca-file=evil.pem"}), texts({"--", "--ca-file=evil.pem"}),
@@ -54,10 +48,6 @@ TEST(LaunchOptionsTest, OptionsAreForWhoeverStartsTheProgramAndLinksAreOnlyEverL
         EXPECT_EQ(options.authorityFile, QLatin1String(row.authority)) << testing::PrintToString(row.arguments);
         EXPECT_EQ(options.screenshotFile, QLatin1String(row.screenshot)) << testing::PrintToString(row.arguments);
     }
-    const LaunchOptions reports =
-        readLaunchOptions(texts({"loomstreet", "--start-report", "start.json", "--event-loop-report", "turns.json"}));
-    EXPECT_EQ(reports.startReportFile, QStringLiteral("start.json"));
-    EXPECT_EQ(reports.eventLoopReportFile, QStringLiteral("turns.json"));
 }
 
 TEST(LaunchOptionsTest, WhatFollowsTheDashesIsKeptFromTheLibrariesToo)
@@ -71,16 +61,6 @@ TEST(LaunchOptionsTest, WhatFollowsTheDashesIsKeptFromTheLibrariesToo)
     EXPECT_EQ(WindowActivation::timeOf(QStringLiteral("a_TIME1-host_TIME4294967295")), 4294967295U);
     for (const char* const id : {"", "host-77", "host_TIME", "host_TIME-1", "host_TIME4294967296", "host_TIME1x"})
         EXPECT_EQ(WindowActivation::timeOf(QLatin1String(id)), 0U) << id;
-}
-
-TEST(LaunchOptionsTest, TheAuthorityMayBeNamedByTheEnvironment)
-{
-    qputenv(authorityVariable, "environment.pem");
-    EXPECT_EQ(readLaunchOptions(texts({"loomstreet"})).authorityFile, QStringLiteral("environment.pem"));
-    EXPECT_EQ(readLaunchOptions(texts({"loomstreet", "--ca-file=option.pem"})).authorityFile,
-              QStringLiteral("option.pem"));
-    qunsetenv(authorityVariable);
-    EXPECT_EQ(readLaunchOptions(texts({"loomstreet"})).authorityFile, QString());
 }
 
 TEST(LaunchOptionsTest, WhatIsNoOptionEndsTheProcess)

@@ -6,10 +6,6 @@
 #include "platform/LaunchOptions.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemLocaleReading.h"
-#include "storage/ChosenSecureStore.h"
-#include "storage/DataFolder.h"
-#include "storage/FileSecureStore.h"
-#include "storage/Preferences.h"
 
 #include <QGuiApplication>
 #include <QJsonArray>
@@ -18,6 +14,7 @@
 #include <qcoro/qcorotask.h>
 
 #include <cstdio>
+#include <span>
 #include <unistd.h>
 
 // What the libraries below the platform leave behind at the end of a program is not ours.
@@ -132,16 +129,6 @@ int runSecrets()
     return runUntilTold([&store](const QStringList& words) { static_cast<void>(obey(&store, words)); });
 }
 
-/// chosen FOLDER: the same, with files where the wallet does not work
-int runChosen(const QString& path)
-{
-    DataFolder folder(path);
-    Preferences preferences(folder);
-    ChosenSecureStore store(preferences, std::make_unique<KeychainSecureStore>(),
-                            std::make_unique<FileSecureStore>(path));
-    return runUntilTold([&store](const QStringList& words) { static_cast<void>(obey(&store, words)); });
-}
-
 /// options [argument…]
 int runOptions(QStringList arguments)
 {
@@ -173,8 +160,6 @@ int main(int argc, char** argv)
         return runInstance(arguments);
     if (what == QByteArrayView("secrets"))
         return runSecrets();
-    if (what == QByteArrayView("chosen"))
-        return runChosen(arguments.value(0));
     if (what == QByteArrayView("options"))
         return runOptions(arguments);
     if (what == QByteArrayView("locale"))

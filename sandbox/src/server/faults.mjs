@@ -98,7 +98,8 @@ function answerStatus({ status, body }, exchange) {
   else exchange.sendJson(status, body ?? {});
 }
 
-function wait(milliseconds, exchange) {
+/** Waits, but not for a caller who is gone. */
+export function wait(milliseconds, exchange) {
   return new Promise((resolve) => {
     const timer = setTimeout(resolve, milliseconds);
     exchange.onClose(() => {

@@ -15,6 +15,7 @@ import { productPage } from './pages/product.mjs';
 import { railPage } from './pages/rail.mjs';
 import { searchPage } from './pages/search.mjs';
 import { starlookPage } from './pages/starlook.mjs';
+import { lookbookPage, outfitIdeasPage, studioPage } from './pages/styling.mjs';
 import { toolsPage } from './pages/tools.mjs';
 import { vessaPage } from './pages/vessa.mjs';
 import { wishlistPage } from './pages/wishlist.mjs';
@@ -26,7 +27,11 @@ const sections = {
   mira: miraPage,
   wishlist: wishlistPage,
   tools: toolsPage,
+  'size-advice': toolsPage,
   closet: closetPage,
+  studio: studioPage,
+  lookbook: lookbookPage,
+  'outfit-ideas': outfitIdeasPage,
   following: followingPage,
   notifications: notificationsPage,
   'image-search': imageSearchPage,

@@ -58,5 +58,5 @@ function closed(schema) {
   if (Array.isArray(schema)) return schema.map(closed);
   if (schema === null || typeof schema !== 'object') return schema;
   const copy = Object.fromEntries(Object.entries(schema).map(([key, value]) => [key, closed(value)]));
-  return copy.type === 'object' ? { ...copy, additionalProperties: false } : copy;
+  return copy.type === 'object' ? { additionalProperties: false, ...copy } : copy;
 }

@@ -47,6 +47,8 @@ Item {
         anchors { right: parent.right; rightMargin: 2; verticalCenter: parent.verticalCenter }
         iconName: "expand"
         iconSize: 16
+        // A stop for the Tab key only where its card is one.
+        focusPolicy: bar.card.activeFocusOnTab ? Qt.StrongFocus : Qt.ClickFocus
         text: qsTranslate("Loomstreet", "Open full page")
         onClicked: bar.card.openFull()
     }

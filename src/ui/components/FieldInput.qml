@@ -13,6 +13,8 @@ FocusScope {
     property alias maximumLength: input.maximumLength
     property alias readOnly: input.readOnly
     property alias validator: input.validator
+    // Where the typing goes: what stands beside it may have had the focus last.
+    readonly property alias textInput: input
     property string label
     property string message
     property string error

@@ -62,6 +62,7 @@ Item {
         fillMode: Image.PreserveAspectCrop
         verticalAlignment: Image.AlignTop
         asynchronous: true
+        enabled: false
         // The address asks for these pixels, and a server that does not listen cannot make us hold more of them.
         sourceSize.width: shownWidth
         sourceSize.height: shownHeight
@@ -70,6 +71,7 @@ Item {
     Rectangle {
         objectName: "ground"
         anchors.fill: parent
+        enabled: false // it only shows, and the wheel need not ask it
         visible: !picture.ready || front.opacity < 1
         color: picture.loading ? Theme.skeleton : picture.ready ? picture.backdrop : Theme.sunken
     }
@@ -106,6 +108,7 @@ Item {
     Icon {
         objectName: "instead"
         anchors.centerIn: parent
+        enabled: false
         visible: name !== "" && picture.width >= 32
         name: picture.missing ? "hanger" : picture.broken ? "photo" : ""
         size: picture.width >= 120 ? 28 : 20
@@ -119,6 +122,7 @@ Item {
     Rectangle {
         objectName: "dim"
         anchors.fill: parent
+        enabled: false
         visible: picture.ready && Theme.alphaPictureDim < 1
         color: "black"
         opacity: 1 - Theme.alphaPictureDim
@@ -127,6 +131,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         anchors.margins: -1
+        enabled: false
         visible: picture.radius > 0
         radius: picture.radius + 1
         color: "transparent"

@@ -23,7 +23,10 @@ Item {
     property bool saved: false
     property color backdrop: Theme.paper
 
-    readonly property bool hovered: hover.hovered
+    // It goes by under a pointer that does not mean it.
+    property bool passing: false
+
+    readonly property bool hovered: hover.hovered && !passing
     // Decoded, or known never to be.
     readonly property bool pictureSettled: picture.ready || picture.broken || picture.missing
     readonly property bool reached: activeFocus || heart.activeFocus || (bar.item as CardBar)?.reached === true
@@ -43,6 +46,11 @@ Item {
     signal openFull()
     signal saveToggled()
 
+    function showSecond(): void {
+        if (hovered && pictures.length > 1 && second.status === Loader.Null)
+            second.setSource("CardSecond.qml", { card: card })
+    }
+
     implicitWidth: Theme.cardMinimumWidth
     implicitHeight: pictureHeight + Theme.cardTextGap + words.height
     activeFocusOnTab: true
@@ -60,9 +68,11 @@ Item {
     }
 
     // What lies over the picture comes into being when it is first wanted, and stays.
-    onHoveredChanged: {
-        if (hovered && pictures.length > 1 && second.status === Loader.Null)
-            second.setSource("CardSecond.qml", { card: card })
+    onHoveredChanged: showSecond()
+    // Given another piece, it forgets the second picture of the former.
+    onTitleChanged: {
+        second.source = ""
+        showSecond()
     }
     onLivelyChanged: {
         if (lively && bar.status === Loader.Null)
@@ -95,19 +105,23 @@ Item {
 
             objectName: "second"
             anchors.fill: parent
+            enabled: false
         }
         SelectionOutline {
             objectName: "previewed"
             visible: card.previewed
+            enabled: false
         }
         FocusRing {
             target: card
+            enabled: false
             controlRadius: Theme.radiusPicture
             clearance: card.previewed ? 2 * Theme.strokeSelected : 0
         }
         PictureLabel {
             objectName: "label"
             anchors { left: parent.left; top: parent.top; margins: Theme.space1 }
+            enabled: false
             width: Math.min(implicitWidth, parent.width - 2 * Theme.space1 - (heart.visible ? 40 : 0))
             text: card.picturedLabel
         }
@@ -135,6 +149,8 @@ Item {
 
         anchors { left: parent.left; right: parent.right; top: picture.bottom; topMargin: Theme.cardTextGap }
         spacing: 1
+        // As all that is disabled here it only shows: every step of the wheel would ask each of them whether it was meant.
+        enabled: false
 
         TextLabel {
             objectName: "designer"

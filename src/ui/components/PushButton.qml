@@ -5,16 +5,19 @@ import Loomstreet.Theme
 Pressable {
     id: control
 
-    property string kind: "secondary" // or "primary", "quiet"
+    property string kind: "secondary" // or "primary", "quiet", "danger"
     property string size: "regular" // or "primary", "small"
     property string iconName
     property bool busy: false
     // Where what it opens is already open, as with the stylist.
     property bool on: false
 
-    readonly property bool filled: kind === "primary"
+    readonly property bool dangerous: kind === "danger"
+    readonly property bool filled: kind === "primary" || dangerous
     readonly property color ink: filled ? Theme.primaryInk : on ? Theme.accent : Theme.ink
     readonly property color fill: {
+        if (dangerous)
+            return down ? Qt.darker(Theme.danger, 1.2) : hovered && !busy ? Qt.darker(Theme.danger, 1.1) : Theme.danger
         if (filled)
             return down ? Theme.primaryPressed : hovered && !busy ? Theme.primaryHover : Theme.primary
         if (down)

@@ -10,6 +10,8 @@ Pressable {
     text: saved ? qsTranslate("Loomstreet", "Remove from wishlist") : qsTranslate("Loomstreet", "Save to wishlist")
 
     contentItem: Item {
+        enabled: false
+
         Icon {
             objectName: "icon"
             anchors.centerIn: parent

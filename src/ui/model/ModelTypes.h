@@ -9,6 +9,34 @@
 // Declares to pages the types they receive from the application model. None of them is made in QML. Written out,
 // because moc expands no macro that holds Q_GADGET.
 
+struct AccountContentForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AccountContent)
+    QML_NAMED_ELEMENT(AccountContent)
+    QML_UNCREATABLE("the kinds of it are made by the application model")
+};
+
+struct AccountRemovalForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AccountRemoval)
+    QML_NAMED_ELEMENT(AccountRemoval)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct AlertsModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AlertsModel)
+    QML_NAMED_ELEMENT(AlertsModel)
+    QML_UNCREATABLE("made by the alerts")
+};
+
+struct AlertsStoreForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AlertsStore)
+    QML_NAMED_ELEMENT(AlertsStore)
+    QML_UNCREATABLE("made by the application model")
+};
+
 struct AppModelForQml {
     Q_GADGET
     QML_FOREIGN(loom::AppModel)
@@ -41,6 +69,69 @@ struct AppSettingsForQml {
     Q_GADGET
     QML_FOREIGN(loom::AppSettings)
     QML_NAMED_ELEMENT(AppSettings)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct AuthStoreForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AuthStore)
+    QML_NAMED_ELEMENT(AuthStore)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct BrandCountersForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::BrandCounters)
+    QML_NAMED_ELEMENT(BrandCounters)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct HomeModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::HomeModel)
+    QML_NAMED_ELEMENT(HomeModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct NotInterestedForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::NotInterested)
+    QML_NAMED_ELEMENT(NotInterested)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct ProductCompanionsForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::ProductCompanions)
+    QML_NAMED_ELEMENT(ProductCompanions)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct RecoCardsForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::RecoCards)
+    QML_NAMED_ELEMENT(RecoCards)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct RecoRailForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::RecoRail)
+    QML_NAMED_ELEMENT(RecoRail)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct RemoteConfigForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::RemoteConfig)
+    QML_NAMED_ELEMENT(RemoteConfig)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct ToolsModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::ToolsModel)
+    QML_NAMED_ELEMENT(ToolsModel)
     QML_UNCREATABLE("made by the application model")
 };
 
@@ -156,10 +247,38 @@ QML_FOREIGN_NAMESPACE(loom::OpenModes)
 QML_NAMED_ELEMENT(OpenModes)
 } // namespace OpenModeForQml
 
+struct ProductAlertsForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::ProductAlerts)
+    QML_NAMED_ELEMENT(ProductAlerts)
+    QML_UNCREATABLE("made by the application model")
+};
+
 struct ProductPreviewForQml {
     Q_GADGET
     QML_FOREIGN(loom::ProductPreview)
     QML_VALUE_TYPE(productPreview)
+};
+
+struct OrderModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::OrderModel)
+    QML_NAMED_ELEMENT(OrderModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct OrdersModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::OrdersModel)
+    QML_NAMED_ELEMENT(OrdersModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct OrdersStoreForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::OrdersStore)
+    QML_NAMED_ELEMENT(OrdersStore)
+    QML_UNCREATABLE("made by the application model")
 };
 
 namespace PageKindForQml
@@ -210,6 +329,13 @@ struct ProductModelForQml {
     QML_UNCREATABLE("made by the application model")
 };
 
+struct ProfileStoreForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::ProfileStore)
+    QML_NAMED_ELEMENT(ProfileStore)
+    QML_UNCREATABLE("made by the application model")
+};
+
 struct RecentlyViewedStoreForQml {
     Q_GADGET
     QML_FOREIGN(loom::RecentlyViewedStore)
@@ -228,6 +354,13 @@ struct SearchModelForQml {
     Q_GADGET
     QML_FOREIGN(loom::SearchModel)
     QML_NAMED_ELEMENT(SearchModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct SignInModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::SignInModel)
+    QML_NAMED_ELEMENT(SignInModel)
     QML_UNCREATABLE("made by the application model")
 };
 
@@ -257,6 +390,13 @@ struct TabsModelForQml {
     QML_FOREIGN(loom::TabsModel)
     QML_NAMED_ELEMENT(TabsModel)
     QML_UNCREATABLE("made by a window session")
+};
+
+struct TrackingModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::TrackingModel)
+    QML_NAMED_ELEMENT(TrackingModel)
+    QML_UNCREATABLE("made by the application model")
 };
 
 struct WishlistStoreForQml {

@@ -10,6 +10,8 @@ Column {
 
     property AppModel app
     property ProductModel product
+    property WindowSession session
+    property ProductCompanions companions: null
     // The way to buy the piece stands elsewhere.
     property bool buysElsewhere: false
 
@@ -57,13 +59,30 @@ Column {
             }
         }
     }
-    PriceLabel {
-        objectName: "price"
-        anchors.left: parent.left
-        price: box.product.price
-        formerPrice: box.product.formerPrice
-        type: Theme.type.priceLarge
-        room: box.width
+    // Beside the price, so that nothing moves when it comes.
+    Item {
+        width: parent.width
+        height: prices.height
+
+        PriceLabel {
+            id: prices
+
+            objectName: "price"
+            anchors.left: parent.left
+            price: box.product.price
+            formerPrice: box.product.formerPrice
+            type: Theme.type.priceLarge
+            room: box.width
+        }
+        TextLabel {
+            objectName: "sold"
+            anchors { right: parent.right; bottom: prices.bottom; bottomMargin: (prices.height - height) / 3 }
+            visible: (box.companions?.unitsSold ?? 0) > 0 && prices.width + Theme.space2 + implicitWidth <= box.width
+            text: qsTranslate("Loomstreet", "%1 sold").arg(box.companions?.unitsSold ?? 0)
+            type: Theme.type.small
+            figures: true
+            color: Theme.muted
+        }
     }
     FactRow {
         objectName: "presale"
@@ -103,19 +122,32 @@ Column {
         visible: !box.buysElsewhere
         app: box.app
         product: box.buysElsewhere ? null : box.product
+        session: box.session
         onAdded: box.added()
     }
-    PushButton {
-        id: compare
+    Flow {
+        id: ways
 
-        objectName: "compareProduct"
-        anchors { left: parent.left; leftMargin: -compare.leftPadding } // its icon stands below the others
-        size: "small"
-        kind: "quiet"
-        iconName: "square.grid.2x2"
-        text: qsTranslate("Loomstreet", "Compare")
-        Accessible.description: qsTranslate("Loomstreet", "Beside pieces you saved or viewed")
-        onClicked: box.compareAsked()
+        x: LayoutMirroring.enabled ? 0 : -compare.leftPadding // the icons stand below those of the others
+        width: parent.width + compare.leftPadding
+        spacing: Theme.spaceHalf
+
+        PushButton {
+            id: compare
+
+            objectName: "compareProduct"
+            size: "small"
+            kind: "quiet"
+            iconName: "square.grid.2x2"
+            text: qsTranslate("Loomstreet", "Compare")
+            Accessible.description: qsTranslate("Loomstreet", "Beside pieces you saved or viewed")
+            onClicked: box.compareAsked()
+        }
+        PriceAlert {
+            app: box.app
+            product: box.product
+            session: box.session
+        }
     }
     Column {
         width: parent.width

@@ -9,6 +9,7 @@ Column {
 
     property AppModel app
     property ProductModel product
+    property WindowSession session
 
     // Only into the cart.
     property bool brief: false
@@ -16,11 +17,20 @@ Column {
     readonly property BuyModel buying: app && product ? app.makeBuying(product, product) : null
     readonly property bool isPaying: buying?.isBuying || (paid && app.checkout.isStarting && !app.checkout.isStartingCart)
     property bool paid: false
+    // In the place of what cannot be bought.
+    readonly property ProductAlerts alerts: app && product ? app.makeProductAlerts(product, product) : null
+    readonly property bool restocks: alerts?.offersRestock ?? false
+    readonly property bool awaited: restocks && alerts.isRestockSet
 
     signal added()
 
     spacing: Theme.space1
 
+    AlertSignIn {
+        visible: false
+        alerts: buttons.alerts
+        session: buttons.session
+    }
     Connections {
         target: buttons.buying
         function onAdded(): void { buttons.added() }
@@ -37,15 +47,26 @@ Column {
             objectName: "addToCart"
             anchors.left: parent.left
             width: parent.width - heart.width - Theme.space1
-            kind: "primary"
+            kind: buttons.awaited ? "secondary" : "primary"
+            on: buttons.awaited
             size: "primary"
-            enabled: buttons.buying?.canBuy ?? false
+            enabled: buttons.restocks || (buttons.buying?.canBuy ?? false)
             busy: buttons.buying?.isAdding ?? false
-            iconName: buttons.buying?.wasAdded ? "checkmark" : ""
-            text: buttons.buying?.wasAdded ? qsTranslate("Loomstreet", "Added")
+            iconName: buttons.awaited || buttons.buying?.wasAdded ? "checkmark" : buttons.restocks ? "bell" : ""
+            text: buttons.awaited ? qsTranslate("Loomstreet", "We'll email you when it's back")
+                : buttons.restocks ? qsTranslate("Loomstreet", "Notify me when it's back")
+                : buttons.buying?.wasAdded ? qsTranslate("Loomstreet", "Added")
                 : buttons.product?.isSoldOut ? qsTranslate("Loomstreet", "Sold out")
                                              : qsTranslate("Loomstreet", "Add to Cart")
-            onClicked: buttons.buying.add()
+            onClicked: buttons.restocks ? buttons.alerts.toggleRestock() : buttons.buying.add()
+
+            Accessible.checkable: buttons.restocks
+            Accessible.checked: buttons.awaited
+
+            HoverToolTip {
+                control: add
+                text: buttons.awaited && buttons.brief ? qsTranslate("Loomstreet", "Press to withdraw") : "" // else the note says so
+            }
         }
         IconButton {
             id: heart
@@ -66,10 +87,20 @@ Column {
             Accessible.checked: saved
         }
     }
+    // As tall as the button in whose place it stands.
+    RestockNote {
+        objectName: "restockNote"
+        width: parent.width
+        height: Math.max(buyNow.height, implicitHeight)
+        visible: !buttons.brief && buttons.restocks
+        alerts: buttons.alerts
+    }
     PushButton {
+        id: buyNow
+
         objectName: "buyNow"
         width: parent.width
-        visible: !buttons.brief
+        visible: !buttons.brief && !buttons.restocks
         size: "primary"
         enabled: buttons.buying?.canBuy ?? false
         busy: buttons.isPaying
@@ -83,7 +114,7 @@ Column {
     CartNotice {
         objectName: "buyMessage"
         width: parent.width
-        sentence: buttons.buying?.message || (buttons.paid ? buttons.app.checkout.buyErrorText : "")
+        sentence: buttons.alerts?.message || buttons.buying?.message || (buttons.paid ? buttons.app.checkout.buyErrorText : "")
         iconName: "warning"
         tone: Theme.danger
     }

@@ -1,19 +1,27 @@
 import QtQuick
 import Loomstreet.Model
 
-// The pieces of a collection.
+// The pieces of a collection. That of a designer tells how many of them are new.
 ListingPage {
     id: page
 
     readonly property CollectionModel collection: context.model
-
-    title: phase === ProductListing.Missing ? qsTranslate("Loomstreet", "Not available")
-         : collection?.title || (phase === ProductListing.Failed ? qsTranslate("Loomstreet", "Collection") : "")
-    note: {
-        const count = collection ? collection.totalCount : -1
+    readonly property DesignerCount designer: DesignerCount {
+        context: page.context
+        listing: page.collection
+        name: page.title
+    }
+    readonly property string counted: {
+        const total = collection ? collection.totalCount : -1
+        const count = total >= 0 ? total : designer.items > 0 ? designer.items : -1
         return count < 0 ? "" : count === 1 ? qsTranslate("Loomstreet", "1 piece")
                                             : qsTranslate("Loomstreet", "%1 pieces").arg(count)
     }
+
+    title: phase === ProductListing.Missing ? qsTranslate("Loomstreet", "Not available")
+         : collection?.title || (phase === ProductListing.Failed ? qsTranslate("Loomstreet", "Collection") : "")
+    note: designer.newItems > 0 && counted !== ""
+          ? qsTranslate("Loomstreet", "%1 · %2 new in the last 30 days").arg(counted).arg(designer.newItems) : counted
 
     words: ListingWords {
         missingTitle: qsTranslate("Loomstreet", "This collection isn't available")

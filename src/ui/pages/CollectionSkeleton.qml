@@ -13,6 +13,8 @@ Item {
     property bool narrow: false
     // Below a head that is there already.
     property bool headless: false
+    // A line stands below the name.
+    property bool lined: false
 
     readonly property int room: width - 2 * padding
     readonly property int columns: Math.max(1, Math.floor((room + Theme.cardGapX) / (Theme.cardMinimumWidth + Theme.cardGapX)))
@@ -52,6 +54,7 @@ Item {
         // As tall as the head that comes in its place.
         readonly property int headHeight: 2 * Theme.space2 + Theme.space1_5 + Theme.targetMinimum
             + (skeleton.narrow ? Theme.type.heading.line : Theme.type.title.line)
+            + (skeleton.lined ? Theme.space1_5 + Theme.type.body.line : 0)
 
         anchors { left: parent.left; leftMargin: skeleton.padding; top: parent.top; topMargin: skeleton.headless ? 0 : headHeight }
         columns: skeleton.columns

@@ -4,67 +4,75 @@ import Loomstreet.Components
 import Loomstreet.Model
 import Loomstreet.Theme
 
-// The way into the shop: what is new, what is reduced, and the collections of every department.
+// The home: what concerns the shopper now, the promotion, what is recommended to them, and the collections of every
+// department.
 PageBase {
     id: page
 
-    readonly property CollectionTilesModel collections: context.model
-    property CollectionModel newIn: null
-    property CollectionModel finalSale: null
-    // Of the department the shopper browses.
-    property CollectionModel department: null
+    readonly property HomeModel home: context.model
+    property CollectionTilesModel collections: null
 
-    readonly property bool hasContent: news.count > 0 || sale.count > 0 || (collections ? collections.count > 0 : false)
-    readonly property bool loading: !newIn || !finalSale || !collections
-                                    || newIn.isLoading || finalSale.isLoading || collections.isLoading
-    readonly property string errorText: newIn?.errorText || finalSale?.errorText || collections?.errorText || ""
-    readonly property bool failed: !hasContent && !loading && errorText !== ""
+    readonly property int tileCount: collections?.count ?? 0
+    readonly property bool hasContent: (home?.count ?? 0) > 0 || tileCount > 0
+    readonly property bool loading: !home || home.isLoading || !collections || collections.isLoading
+    readonly property bool failed: !hasContent && !loading && home.phase === HomeModel.Failed
     // The store has none of what this page is made of.
-    readonly property bool empty: !hasContent && errorText === "" && hasNothing(newIn) && hasNothing(finalSale)
-                                  && (collections ? collections.isLoaded : false)
+    readonly property bool empty: !hasContent && !loading && home.phase === HomeModel.Empty
+    // The rails are known, so that what stands below them need not move.
+    property bool complete: false
 
     title: qsTranslate("Loomstreet", "Explore")
-    settled: (news.visible ? news.settled : sale.settled || tiles.decoded > 0) || failed || empty
+    settled: rails.settled || (rails.count === 0 && tiles.decoded > 0) || failed || empty
     flickable: flick
 
-    function hasNothing(collection: CollectionModel): bool {
-        return collection !== null && (collection.phase === CollectionModel.Missing || collection.phase === CollectionModel.Empty)
-    }
     function takeFocus(): void { flick.forceActiveFocus() }
     function reload(): void {
+        home.reload()
         collections.reload()
-        newIn.reload()
-        finalSale.reload()
-        department.reload()
+        dashboard.reload()
     }
     function begin(): void {
         if (!shown)
             return
-        if (newIn === null) {
-            newIn = app.makeRail(page, "new-in")
-            finalSale = app.makeRail(page, "final-sale")
-        }
-        if (department?.handle !== app.market.department)
-            department = app.makeRail(page, app.market.department)
-        newIn.load()
-        finalSale.load()
-        department.load()
+        if (collections === null)
+            collections = app.makeDepartment(page, "")
+        home.load()
         collections.load()
+    }
+    function noteOf(rail: RecoRail): string {
+        switch (rail?.kind) {
+        case "for-you": return qsTranslate("Loomstreet", "Based on what you love")
+        case "new-arrivals": return qsTranslate("Loomstreet", "New this week")
+        default: return rail?.label ?? ""
+        }
     }
 
     onShownChanged: begin()
+    onLoadingChanged: if (!loading) complete = true
     Component.onCompleted: begin()
+
+    // A store that keeps one waiting does not keep one from its collections.
+    Timer {
+        interval: 2500
+        running: page.shown && !page.complete
+        onTriggered: page.complete = true
+    }
 
     OfflineStrip {
         id: strip
 
+        // Also of what is shown from the last time, which begins at the first rail.
+        readonly property string failure: page.home?.errorText
+            || ((page.home?.count ?? 0) > 0 ? page.home.data(page.home.index(0, 0), HomeModel.RailRole).errorText : "")
+
         objectName: "strip"
-        offline: (page.collections?.isOffline || page.newIn?.isOffline || page.finalSale?.isOffline) ?? false
+        offline: page.home?.isOffline ?? false
         canRetry: true
         onRetry: page.reload()
         width: parent.width
-        visible: page.hasContent && text !== ""
-        text: page.errorText
+        visible: page.hasContent && (offline || failure !== "")
+        text: failure !== "" ? failure
+                             : qsTranslate("Loomstreet", "You appear to be offline. Check your connection and try again.")
     }
     Flickable {
         id: flick
@@ -72,35 +80,87 @@ PageBase {
         objectName: "flick"
         anchors { left: parent.left; right: parent.right; top: strip.visible ? strip.bottom : parent.top; bottom: parent.bottom }
         visible: !page.failed && !page.empty
-        contentHeight: column.height + Theme.space4 + Theme.space8
+        contentHeight: column.height + column.y + Theme.space8
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {}
 
         FocusFollower { flickable: flick }
+        ColumnAnchor {
+            flickable: flick
+            column: column
+        }
 
         Column {
             id: column
 
-            anchors { left: parent.left; right: parent.right; top: parent.top; leftMargin: page.padding; rightMargin: page.padding; topMargin: Theme.space3 }
-            spacing: Theme.space5
+            x: page.padding
+            y: Theme.space1
+            width: flick.width - 2 * page.padding
+            spacing: Theme.space4
 
-            ProductRail {
-                id: news
-
-                objectName: "newIn"
+            Column {
                 width: parent.width
-                title: qsTranslate("Loomstreet", "New In")
-                note: qsTranslate("Loomstreet", "The latest pieces")
-                collection: page.newIn
-                onOpened: (handle, item, mode) => page.router.openPiece(handle, item, mode)
-                previewed: page.previewed
-                wishlist: page.app.wishlist
-                onAllAsked: page.router.selectItem(1)
+                visible: dashboard.filled || promo.filled
+                spacing: Theme.space1
+
+                DashboardStrip {
+                    id: dashboard
+
+                    objectName: "dashboard"
+                    width: parent.width
+                    app: page.app
+                    session: page.session
+                    router: page.router
+                    live: page.shown && page.settled
+                }
+                PromoBanner {
+                    id: promo
+
+                    objectName: "promotion"
+                    width: parent.width
+                    narrow: page.narrow
+                    promo: page.app.remoteConfig.promo
+                    onOpened: page.router.openLink(promo.promo.link)
+                }
+            }
+            Repeater {
+                id: rails
+
+                // The first one shows what it is about to.
+                property bool settled: false
+
+                model: page.home
+
+                ProductRail {
+                    id: shown
+
+                    required property int index
+                    required property RecoRail rail
+
+                    objectName: "rail." + rail?.kind + (rail?.handle ? "." + rail.handle : "")
+                    width: column.width
+                    title: rail?.title ?? ""
+                    note: page.noteOf(rail)
+                    products: rail?.pieces ?? null
+                    waiting: rail?.phase === RecoRail.Loading
+                    hideable: true
+                    wishlist: page.app.wishlist
+                    previewed: page.previewed
+                    onOpened: (handle, item, mode) => page.router.openPiece(handle, item, mode)
+                    onHideAsked: (handle, title) => page.app.notInterested.hide(handle, title)
+                    onAllAsked: page.router.openRail(rail.kind, rail.handle, rail.title)
+                    onSettledChanged: rails.settled = rails.settled || settled
+                    // Once made its cards stay.
+                    near: false
+                    readonly property bool reached: index * height < flick.contentY + 1.5 * flick.height
+                    onReachedChanged: near = near || reached
+                    Component.onCompleted: near = reached
+                }
             }
             Column {
                 width: parent.width
+                visible: page.complete && (tiles.waiting || page.tileCount > 0)
                 spacing: Theme.space2
-                visible: tiles.waiting || (page.collections ? page.collections.count > 0 : false)
 
                 SectionHeader {
                     width: parent.width
@@ -115,30 +175,6 @@ PageBase {
                     onOpened: (handle, title) => page.router.openCollection(handle, title)
                 }
             }
-            ProductRail {
-                objectName: "department"
-                width: parent.width
-                title: page.app.market.department === "men" ? qsTranslate("Loomstreet", "Men") : qsTranslate("Loomstreet", "Women")
-                note: qsTranslate("Loomstreet", "The department you browse")
-                collection: page.department
-                onOpened: (handle, item, mode) => page.router.openPiece(handle, item, mode)
-                previewed: page.previewed
-                wishlist: page.app.wishlist
-                onAllAsked: page.router.selectItem(page.app.market.department === "men" ? 3 : 2)
-            }
-            ProductRail {
-                id: sale
-
-                objectName: "finalSale"
-                width: parent.width
-                title: qsTranslate("Loomstreet", "Final Sale")
-                note: qsTranslate("Loomstreet", "Last pieces, reduced")
-                collection: page.finalSale
-                onOpened: (handle, item, mode) => page.router.openPiece(handle, item, mode)
-                previewed: page.previewed
-                wishlist: page.app.wishlist
-                onAllAsked: page.router.selectItem(7)
-            }
         }
     }
     ErrorState {
@@ -146,7 +182,7 @@ PageBase {
         anchors.centerIn: parent
         visible: page.failed
         width: Math.min(parent.width, 480)
-        sentence: page.errorText
+        sentence: page.home?.errorText ?? ""
         takesFocus: page.shown
         onRetry: page.reload()
     }

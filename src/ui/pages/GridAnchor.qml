@@ -1,73 +1,55 @@
 import QtQuick
 
-// Keeps what is looked at in its place while the columns of a grid change around it: the current card while it is in
-// view, else the first one that is. It asks the grid where its cards are, which moves its origin as it likes.
+// Keeps what is looked at in its place while the columns of a grid, or their width, change around it: the current
+// piece while it is in view, else the first one that is.
 Item {
     id: anchor
 
-    required property GridView grid
-    required property int columns
+    required property var grid // a ProductGrid, which has one of these
 
-    property int index: -1
+    readonly property real cellHeight: grid.cellHeight
+    readonly property int columns: grid.columns
+
+    property int place: -1
     property real offset: 0 // of its row from the top of the view
-    property bool placing: false
-    property int columnsBefore: columns
+    // Where it brought the grid itself, which is no other place.
+    property real kept: 0
 
-    // The grid is to lay out its rows now.
-    signal layoutWanted()
-
-    function isInView(item: Item): bool {
-        const top = item === null ? -grid.cellHeight : item.y - grid.contentY
-        return top > -grid.cellHeight / 2 && top < grid.height - grid.cellHeight / 2
+    function isInView(place: int): bool {
+        const top = grid.rowY(place) - grid.contentY
+        return place >= 0 && top > -cellHeight / 2 && top < grid.height - cellHeight / 2
     }
     function note(): void {
-        if (placing || columns !== columnsBefore)
-            return
-        index = isInView(grid.currentItem) ? grid.currentIndex : grid.indexAt(grid.cellWidth / 2, grid.contentY + grid.cellHeight / 2)
-        const item = grid.itemAtIndex(index)
         // At the top it stays at the top.
-        if (item === null || grid.contentY <= grid.originY)
-            index = -1
+        if (grid.contentY <= 0)
+            place = -1
         else
-            offset = item.y - grid.contentY
+            place = isInView(grid.currentIndex) ? grid.currentIndex : columns * Math.round(grid.contentY / cellHeight)
+        offset = grid.rowY(place) - grid.contentY
+        kept = NaN
     }
-
-    function place(): void {
-        if (index >= 0) {
-            layoutWanted()
-            grid.positionViewAtIndex(index, GridView.Beginning)
-            grid.contentY = Math.max(grid.originY - grid.topMargin, grid.contentY - offset)
-        }
-        columnsBefore = columns
-        placing = false
-        note()
+    function keep(): void {
+        if (place < 0)
+            return
+        grid.scrollTo(grid.rowY(place) - offset)
+        kept = grid.contentY
     }
 
     visible: false
-    onColumnsChanged: placing = true
+    onColumnsChanged: keep()
+    onCellHeightChanged: keep()
 
-    // Once the grid has laid out its rows anew.
+    Connections {
+        target: anchor.grid
+        // Later: in the middle of a change of columns nothing is where it belongs. A piece that becomes the current one
+        // may change them itself.
+        function onContentYChanged(): void { later.start() }
+        function onCurrentIndexChanged(): void { anchor.note() }
+    }
     Timer {
         id: later
 
         interval: 0
-        onTriggered: {
-            // A grid that is hidden does not know its rows.
-            if (anchor.placing && anchor.grid.visible)
-                anchor.place()
-        }
-    }
-    Connections {
-        target: anchor.grid
-        function onContentHeightChanged(): void {
-            if (anchor.placing)
-                later.restart()
-        }
-        function onVisibleChanged(): void {
-            if (anchor.placing)
-                later.restart()
-        }
-        function onContentYChanged(): void { anchor.note() }
-        function onCurrentIndexChanged(): void { anchor.note() }
+        onTriggered: if (anchor.grid.contentY !== anchor.kept) anchor.note()
     }
 }

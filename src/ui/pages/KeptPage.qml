@@ -25,16 +25,13 @@ PageBase {
     property var picked: [] // handles
 
     settled: grid.settled || empty
-    flickable: grid
+    flickable: grid.flickable
 
     function takeFocus(): void { (empty ? nothing : grid).forceActiveFocus() }
     function reload(): void { list.reload() }
     function look(): void {
-        if (shown && list && grid.count > 0) {
-            const first = Math.floor((grid.contentY - grid.originY) / grid.cellHeight) * grid.columns
-            const rows = Math.ceil(grid.height / grid.cellHeight) + 1
-            list.look(Math.max(0, first), Math.max(0, first) + rows * grid.columns - 1)
-        }
+        if (shown && list && grid.count > 0)
+            list.look(grid.firstSeen, grid.lastSeen)
     }
     function endPicking(): void {
         picking = false
@@ -179,12 +176,6 @@ PageBase {
                 onChosen: index => { page.list.sort = index }
             }
         }
-        removeDisplaced: Transition {
-            NumberAnimation { properties: "x,y"; duration: Theme.durationHover }
-        }
-        ScrollBar.vertical: ScrollBar {}
-
-        FocusFollower { flickable: grid }
     }
     EmptyState {
         id: nothing

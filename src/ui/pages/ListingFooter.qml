@@ -1,13 +1,13 @@
 import QtQuick
 import Loomstreet.Components
-import Loomstreet.Model
 import Loomstreet.Theme
 
 // The end of a list: more on its way, more that did not come, or no more.
 Item {
     id: footer
 
-    property ProductListing listing
+    property var listing: null // a ProductListing, or what loads on like one
+    property int count: listing ? listing.products.count : 0
 
     signal focusFreed()
 
@@ -44,7 +44,7 @@ Item {
         objectName: "end"
         anchors.centerIn: parent
         visible: footer.listing ? !footer.listing.hasNextPage && !footer.listing.isLoadingMore : false
-        text: qsTranslate("Loomstreet", "You've seen all ") + (footer.listing ? footer.listing.products.count : "")
+        text: qsTranslate("Loomstreet", "You've seen all ") + footer.count
         type: Theme.type.small
         figures: true
         color: Theme.muted

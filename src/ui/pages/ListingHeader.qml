@@ -11,6 +11,9 @@ Item {
     property ProductListing listing
     property string title
     property string note
+    // A sentence about what is listed. Its line is there also while it is empty, so that nothing moves when it comes or goes.
+    property string summary
+    property bool lined: false
     property var collections: []
     property bool narrow: false
     property alias filtersOpen: bar.filtersOpen
@@ -84,6 +87,16 @@ Item {
                     }
                 }
             }
+        }
+        TextLabel {
+            objectName: "summary"
+            anchors.left: parent.left
+            width: Math.min(implicitWidth, parent.width)
+            height: type.line
+            visible: header.lined
+            text: header.summary
+            color: Theme.muted
+            Accessible.ignored: text === ""
         }
         FilterBar {
             id: bar

@@ -13,6 +13,9 @@ PageBase {
 
     property string heading: title
     property string note
+    // A sentence about what is listed, on a line of its own that is kept for it.
+    property string summary
+    property bool lined: false
     property var collections: []
     // There is nothing to list at all, as for a search without words.
     property bool blank: false
@@ -27,13 +30,13 @@ PageBase {
 
     settled: grid.settled || (phase !== ProductListing.Loading && phase !== ProductListing.Idle
                               && phase !== ProductListing.Loaded)
-    flickable: grid
+    flickable: grid.flickable
 
     function takeFocus(): void { (phase === ProductListing.Loaded ? grid : page).forceActiveFocus() }
     // What had the focus goes: the list takes it, which may only be on its way, at the piece that was seen last.
     function focusList(): void {
         if (phase === ProductListing.Loaded)
-            grid.currentIndex = grid.count - 1
+            grid.select(grid.count - 1)
         grid.forceActiveFocus(Qt.OtherFocusReason)
     }
     function reload(): void { listing.reload() }
@@ -116,6 +119,8 @@ PageBase {
             listing: page.listing
             title: page.heading
             note: page.note
+            summary: page.summary
+            lined: page.lined
             collections: page.collections
             narrow: page.narrow
             filtersOpen: page.filtersOpen
@@ -147,9 +152,6 @@ PageBase {
                 headless: true
             }
         }
-        ScrollBar.vertical: ScrollBar {}
-
-        FocusFollower { flickable: grid }
     }
 
     CollectionSkeleton {
@@ -158,6 +160,7 @@ PageBase {
         padding: page.padding
         title: page.title
         narrow: page.narrow
+        lined: page.lined
     }
     ListingEnd {
         anchors.fill: parent

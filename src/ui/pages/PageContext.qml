@@ -12,6 +12,8 @@ QtObject {
     required property var entry
     // What the page is of; the host keeps it while the page itself comes and goes.
     property var model: null
+    // What else it shows that stays as the model does.
+    property var beside: null
     // On top of the selected tab.
     property bool shown: false
 }

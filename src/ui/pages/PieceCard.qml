@@ -7,7 +7,6 @@ import Loomstreet.Theme
 ProductCard {
     id: card
 
-    required property int index
     required property var item
     required property string handle
     required property var colourPictures
@@ -27,10 +26,11 @@ ProductCard {
     property bool picked: false
     // It can be taken out of its list.
     property bool removable: false
+    property string removeText: qsTranslate("Loomstreet", "Remove from the list")
 
     signal opened(string handle, var item, int mode)
     signal pickToggled(string handle)
-    signal removeAsked(string handle)
+    signal removeAsked(string handle, string title)
 
     objectName: "card." + handle
     activeFocusOnTab: false // one card of a list is a stop, and the arrows move on from it
@@ -63,7 +63,8 @@ ProductCard {
         anchors { right: parent.right; top: parent.top; rightMargin: Theme.space1; topMargin: 2 * Theme.space1 + Theme.targetIcon }
         active: card.removable && !card.picking && card.lively
         sourceComponent: RemoveButton {
-            onClicked: card.removeAsked(card.handle) // qmllint disable unqualified
+            text: card.removeText // qmllint disable unqualified
+            onClicked: card.removeAsked(card.handle, card.title) // qmllint disable unqualified
         }
     }
 }

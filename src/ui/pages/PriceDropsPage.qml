@@ -13,7 +13,7 @@ PageBase {
 
     title: qsTranslate("Loomstreet", "Price drops")
     settled: grid.settled || (!loaded && phase !== PriceDropsModel.Loading && phase !== PriceDropsModel.Idle)
-    flickable: grid
+    flickable: grid.flickable
 
     function takeFocus(): void { (loaded ? grid : page).forceActiveFocus() }
     function reload(): void { drops.reload() }
@@ -52,9 +52,6 @@ PageBase {
             note: grid.count === 1 ? qsTranslate("Loomstreet", "1 piece costs less than when you saw it")
                                    : qsTranslate("Loomstreet", "%1 pieces cost less than when you saw them").arg(grid.count)
         }
-        ScrollBar.vertical: ScrollBar {}
-
-        FocusFollower { flickable: grid }
     }
     CollectionSkeleton {
         anchors.fill: parent

@@ -13,6 +13,8 @@ PageBase {
     readonly property int phase: product ? product.phase : ProductModel.Idle
     // A card it was opened from is enough to begin with.
     readonly property bool hasContent: product ? product.title !== "" && phase !== ProductModel.Missing : false
+    readonly property ProductCompanions companions: context.beside
+    readonly property bool companionsNear: left.visible && left.contentY + 2 * left.height > body.y + rails.y
     readonly property int gap: narrow ? Theme.layoutPagePaddingNarrow : Theme.layoutPagePaddingBesidePane
 
     title: phase === ProductModel.Missing ? qsTranslate("Loomstreet", "Not available") : product?.title ?? ""
@@ -25,10 +27,34 @@ PageBase {
         if (Window.activeFocusItem === page)
             gallery.forceActiveFocus()
     }
-    function reload(): void { product.reload() }
+    function reload(): void {
+        product.reload()
+        if (companions.isLoaded)
+            companions.reload()
+    }
+    function begin(): void {
+        if (!shown || !product)
+            return
+        product.load()
+        if (context.beside === null)
+            context.beside = app.makeCompanions(context, product.handle)
+        companions.loadSold()
+        approach()
+    }
+    // Nobody waits for what is far below, and the piece itself comes first.
+    function approach(): void {
+        if (shown && companions && companionsNear && product.isComplete)
+            companions.load()
+    }
 
-    onShownChanged: if (shown && product) product.load()
-    Component.onCompleted: if (shown && product) product.load()
+    onShownChanged: begin()
+    onCompanionsNearChanged: approach()
+    Component.onCompleted: begin()
+
+    Connections {
+        target: page.product
+        function onProductChanged(): void { page.approach() }
+    }
 
     OfflineStrip {
         id: strip
@@ -108,6 +134,18 @@ PageBase {
                     onPictureOpened: (pictures, index) => page.session.openLightbox(pictures, index, page.product.title)
                 }
             }
+            CompanionRails {
+                id: rails
+
+                width: parent.width
+                topPadding: Theme.space2
+                visible: page.product ? page.product.isComplete : false
+                companions: page.companions
+                previewed: page.previewed
+                wishlist: page.app.wishlist
+                onOpened: (handle, item, mode) => page.router.openPiece(handle, item, mode)
+                onHideAsked: (handle, title) => page.app.notInterested.hide(handle, title)
+            }
         }
     }
 
@@ -139,6 +177,8 @@ PageBase {
         width: parent.width
         app: page.app
         product: page.product
+        companions: page.companions
+        session: page.session
         onAdded: page.session.isCartOpen = true
         onCompareAsked: page.router.openCompare([page.product.handle])
     }

@@ -8,25 +8,31 @@ import Loomstreet.Theme
 Column {
     id: rail
 
-    property CollectionModel collection
+    property var products: null // a model with the roles of a PieceCard
+    // The first of them are on their way.
+    property bool waiting: false
+    // Its cards are made; where it is far from what is looked at they need not be.
+    property bool near: true
     property string title
     property string note
+    property string allText: qsTranslate("Loomstreet", "See all")
+    // The shopper can say that a piece does not interest them.
+    property bool hideable: false
+    // Where the hearts of its cards keep them.
+    property WishlistStore wishlist: null
+    // The piece that is shown beside the page.
+    property string previewed
     // Pictures of the first cards that have been decoded.
     property int decoded: 0
 
     readonly property int perView: Math.max(1, Math.floor((width + Theme.cardGapX) / (Theme.cardRailMinimumWidth + Theme.cardGapX)))
     readonly property real cardWidth: Math.floor((width + Theme.cardGapX) / perView) - Theme.cardGapX
-    readonly property bool waiting: collection ? collection.phase === CollectionModel.Loading || collection.phase === CollectionModel.Idle : true
-    readonly property int count: collection ? collection.products.count : 0
+    readonly property int count: products ? products.count : 0
     readonly property bool settled: count > 0 && decoded >= Math.min(count, perView)
-
-    // Where the hearts of its cards keep them.
-    property WishlistStore wishlist: null
-    // The piece that is shown beside the page.
-    property string previewed
 
     signal opened(string handle, var item, int mode)
     signal allAsked()
+    signal hideAsked(string handle, string title)
 
     // Brings the card with this number to the start, as far as there are cards behind it.
     function show(index: int): void {
@@ -40,7 +46,7 @@ Column {
         width: parent.width
         title: rail.title
         note: rail.note
-        actionText: qsTranslate("Loomstreet", "See all")
+        actionText: rail.waiting ? "" : rail.allText
         paged: true
         hasPrevious: row.currentIndex > 0
         hasNext: row.currentIndex + rail.perView < rail.count
@@ -63,7 +69,7 @@ Column {
         }
 
         width: parent.width
-        height: measure.implicitHeight
+        height: measure.height
         Keys.onLeftPressed: move(LayoutMirroring.enabled ? 1 : -1)
         Keys.onRightPressed: move(LayoutMirroring.enabled ? -1 : 1)
 
@@ -85,14 +91,23 @@ Column {
             preferredHighlightEnd: rail.cardWidth
             highlightMoveDuration: Theme.durationPanel
             highlightMoveVelocity: -1
-            model: rail.collection ? rail.collection.products : null
-            // A list that fills after it was made has no card at its start yet.
-            onCountChanged: if (count > 0) rail.show(currentIndex)
+            model: rail.near ? rail.products : null
+            // A list that fills after it was made has no card at its start yet, and one that empties has fewer.
+            onCountChanged: {
+                if (count === 0)
+                    return
+                cards.focused = Math.min(cards.focused, count - 1)
+                rail.show(currentIndex)
+            }
 
             delegate: PieceCard {
+                required property int index
+
                 width: rail.cardWidth
                 wishlist: rail.wishlist
                 previewed: handle === rail.previewed
+                removable: rail.hideable
+                removeText: qsTranslate("Loomstreet", "Not interested")
                 focus: index === cards.focused
                 activeFocusOnTab: index === cards.focused
                 // Beyond the rail's edges a card is out of sight, not cut.
@@ -102,10 +117,15 @@ Column {
                     cards.focused = index
                     rail.opened(handle, item, mode)
                 }
+                onRemoveAsked: (handle, title) => rail.hideAsked(handle, title)
+                Keys.onDeletePressed: if (removable) rail.hideAsked(handle, title)
                 onPictureSettledChanged: if (pictureSettled) ++rail.decoded
                 Component.onCompleted: if (pictureSettled) ++rail.decoded
 
                 Behavior on opacity { NumberAnimation { duration: Theme.durationPanel } }
+            }
+            displaced: Transition {
+                NumberAnimation { property: "x"; duration: Theme.durationHover }
             }
         }
         Row {
@@ -119,12 +139,10 @@ Column {
                 CardSkeleton { width: rail.cardWidth }
             }
         }
-        // What a card measures at this width; never shown.
-        ProductCard {
+        CardMeasure {
             id: measure
 
             width: rail.cardWidth
-            visible: false
         }
     }
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import Loomstreet.Model
 
-// What a search has found.
+// What a search has found, and in a sentence how it was understood.
 ListingPage {
     id: page
 
@@ -9,6 +9,22 @@ ListingPage {
     readonly property string query: search?.query ?? ""
     // The curly marks of a quotation, which stay as they are in every language.
     readonly property string quoted: "“" + query + "”"
+    readonly property DesignerCount designer: DesignerCount {
+        context: page.context
+        listing: page.search
+        name: page.query
+    }
+    // What came of the search, once it is known.
+    property string outcome
+
+    function tell(): void {
+        if (search.isLoading || (phase !== ProductListing.Loaded && phase !== ProductListing.Empty))
+            outcome = ""
+        else if (phase === ProductListing.Loaded)
+            outcome = summary === "" ? heading : heading + ". " + summary
+        else
+            outcome = search.filters.selectedCount > 0 ? words.filteredTitle : words.emptyTitle
+    }
 
     title: blank ? qsTranslate("Loomstreet", "Search") : quoted
     blank: query === ""
@@ -17,6 +33,9 @@ ListingPage {
         return count < 0 ? quoted : count === 1 ? qsTranslate("Loomstreet", "1 result for “") + query + "”"
                                                 : qsTranslate("Loomstreet", "%1 results for “").arg(count) + query + "”"
     }
+    note: designer.newItems > 0 ? qsTranslate("Loomstreet", "%1 new in the last 30 days").arg(designer.newItems) : ""
+    lined: !blank
+    summary: search?.summary ?? ""
     collections: search ? search.collections : []
 
     words: ListingWords {
@@ -30,5 +49,18 @@ ListingPage {
             { text: qsTranslate("Loomstreet", "New In"), go: () => page.router.selectItem(1) },
             { text: qsTranslate("Loomstreet", "Explore"), go: () => page.router.selectItem(0) }
         ]
+    }
+
+    Connections {
+        target: page.search
+        function onChanged(): void { page.tell() }
+    }
+    // Said to those who do not see that results have come.
+    Item {
+        objectName: "outcome"
+        visible: page.shown && page.outcome !== ""
+
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: page.outcome
     }
 }

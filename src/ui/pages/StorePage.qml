@@ -11,6 +11,8 @@ PageBase {
     readonly property var view: holder.item
     property real keptScrollY: 0
     property bool live: false
+    // What a page of the store knows of an account it knows no longer than the application does.
+    readonly property string account: app.auth.email
 
     function reload(): void {
         if (view)
@@ -34,6 +36,10 @@ PageBase {
             wake()
         else
             keptScrollY = scrollY
+    }
+    onAccountChanged: {
+        live = false
+        wake()
     }
     Component.onCompleted: wake()
 

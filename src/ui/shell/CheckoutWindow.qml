@@ -43,6 +43,7 @@ Window {
     Connections {
         target: window.checkout
         function onAddressChanged(): void { window.makePage() }
+        function onEnded(): void { window.close() }
         function onChanged(): void {
             if (window.phase === CheckoutModel.Completed && done.status === Loader.Null)
                 done.setSource("CheckoutDone.qml", { checkout: window.checkout })

@@ -36,6 +36,7 @@ FocusScope {
 
     Shortcut {
         sequence: "F10"
+        enabled: holder.enabled
         onActivated: holder.open ? holder.hide() : holder.show()
     }
     Loader {

@@ -20,7 +20,12 @@ Window {
     property bool wasSeen: false
     // The page on top has what it needs to be looked at.
     readonly property bool settled: pages.settled
+    // Something lies over everything that keys would reach.
+    readonly property bool covered: session.lightbox !== undefined || session.isSignInPresented || isInSheet(activeFocusItem)
 
+    function isInSheet(item: Item): bool {
+        return item !== null && (item instanceof Sheet || isInSheet(item.parent))
+    }
     function applyStyle(): void {
         color = Qt.binding(() => Theme.paper)
     }
@@ -90,7 +95,7 @@ Window {
     }
     CommandShortcuts {
         commands: window.commands
-        enabled: window.session.lightbox === undefined
+        enabled: !window.covered
     }
 
     Item {
@@ -119,6 +124,7 @@ Window {
         CommandMenuBar {
             id: menuBar
 
+            enabled: !window.covered
             anchors { left: parent.left; right: parent.right; top: strip.bottom }
             commands: window.commands
         }
@@ -219,6 +225,14 @@ Window {
             onWantedChanged: showPanel()
             Component.onCompleted: showPanel()
         }
+        // Signing in lies over all of them.
+        SignInLoader {
+            anchors.fill: parent
+            app: window.app
+            narrow: window.narrow
+            open: window.session.isSignInPresented
+            onCloseAsked: window.session.isSignInPresented = false
+        }
         // Over panels, too, and in the window that is worked in.
         Column {
             anchors { left: sidebar.right; right: parent.right; top: strip.bottom; topMargin: Theme.space1_5 }
@@ -237,6 +251,10 @@ Window {
                 anchors.horizontalCenter: parent.horizontalCenter
                 kept: window.app.recentlyViewed
                 listName: qsTranslate("Loomstreet", "Recently viewed")
+            }
+            NotInterestedToast {
+                anchors.horizontalCenter: parent.horizontalCenter
+                hidden: window.app.notInterested
             }
         }
         Loader {

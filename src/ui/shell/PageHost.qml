@@ -40,7 +40,9 @@ FocusScope {
     }
     function makeModel(): QtObject {
         switch (entry.kind) {
-        case PageKind.Explore: return app.makeDepartment(host, "")
+        case PageKind.Explore: return app.makeHome(host)
+        case PageKind.Rail: return app.makeRecommendations(host, entry.handles[0], entry.handles[1], entry.title)
+        case PageKind.Tools: return app.makeTools(host)
         case PageKind.Department: return app.makeDepartment(host, entry.handle)
         case PageKind.Brands: return app.makeBrands(host)
         case PageKind.Collection: return app.makeCollection(host, entry.handle, entry.title)
@@ -50,12 +52,17 @@ FocusScope {
         case PageKind.RecentlyViewed: return app.makeRecentlyViewed(host)
         case PageKind.PriceDrops: return app.makePriceDrops(host)
         case PageKind.Compare: return app.makeCompare(host, entry.handles)
+        case PageKind.Orders: return app.makeOrders(host, entry.handle)
+        case PageKind.Order: return app.makeOrder(host, entry.handle)
+        case PageKind.Package: return app.makeTracking(host, entry.handle, entry.title)
+        case PageKind.Tracking: return app.makeTracking(host, "", "")
         default: return null
         }
     }
     function pageFor(kind: int): string {
         switch (kind) {
         case PageKind.Explore: return "ExplorePage"
+        case PageKind.Rail: return "RailPage"
         case PageKind.Department: return "DepartmentPage"
         case PageKind.Collection: return "CollectionPage"
         case PageKind.Product: return "ProductPage"
@@ -66,7 +73,16 @@ FocusScope {
         case PageKind.RecentlyViewed: return "RecentlyViewedPage"
         case PageKind.PriceDrops: return "PriceDropsPage"
         case PageKind.Compare: return "ComparePage"
+        case PageKind.Account: return "AccountPage"
+        case PageKind.Orders: return "OrdersPage"
+        case PageKind.Order: return "OrderPage"
+        case PageKind.Package: return "PackagePage"
+        case PageKind.Tracking: return "TrackingPage"
+        case PageKind.Profile: return "ProfilePage"
+        case PageKind.Alerts: return "AlertsPage"
+        case PageKind.Tools: return "ToolsPage"
         case PageKind.StorePage: return "StorePage"
+        case PageKind.Paused: return "PausedPage"
         default: return "UnknownPage"
         }
     }

@@ -17,6 +17,7 @@ FocusScope {
     readonly property var request: session.isPreviewShown ? router.preview : null
     readonly property string handle: request?.handle ?? ""
     property ProductModel product: null
+    property ProductCompanions companions: null
     property QtObject owner: null
 
     readonly property int phase: product ? product.phase : ProductModel.Idle
@@ -28,10 +29,13 @@ FocusScope {
         const former = owner
         owner = ownerOfModel.createObject(pane)
         product = app.makeProduct(owner, handle, request.item)
+        companions = app.makeCompanions(owner, handle)
         product.load()
+        companions.loadSold()
         if (box.status === Loader.Null) {
             const product = Qt.binding(() => pane.product)
-            box.setSource("qrc:/qt/qml/Loomstreet/Pages/BuyBox.qml", { app: app, product: product, buysElsewhere: true })
+            const companions = Qt.binding(() => pane.companions)
+            box.setSource("qrc:/qt/qml/Loomstreet/Pages/BuyBox.qml", { app: app, product: product, companions: companions, session: session, buysElsewhere: true })
         }
         content.contentY = 0
         if (former)
@@ -171,6 +175,7 @@ FocusScope {
             anchors { left: parent.left; right: parent.right; margins: Theme.space3; verticalCenter: parent.verticalCenter }
             app: pane.app
             product: pane.product
+            session: pane.session
             brief: true
             onAdded: pane.session.isCartOpen = true
         }

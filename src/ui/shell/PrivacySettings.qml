@@ -1,8 +1,9 @@
 import QtQuick
 import Loomstreet.Components
 import Loomstreet.Model
+import Loomstreet.Theme
 
-// What the store learns of the shopper.
+// What the store learns of the shopper, and what stays here.
 SettingsPage {
     id: page
 
@@ -13,9 +14,40 @@ SettingsPage {
     SwitchRow {
         objectName: "sharesUsage"
         width: page.width
-        text: qsTranslate("Loomstreet", "Tell the store which pages are looked at")
-        note: qsTranslate("Loomstreet", "Without your name; it helps the store choose what to show. Off, only what is essential is sent.")
+        text: qsTranslate("Loomstreet", "Help the store choose what to show")
+        note: qsTranslate("Loomstreet", "Tells it which pages and pieces are looked at, put in the bag and bought, without your name. Off, only what is essential is sent.")
         checked: page.settings.sharesUsage
         onToggled: page.settings.sharesUsage = checked
+    }
+    Column {
+        width: page.width
+
+        TextLabel {
+            width: parent.width
+            height: Theme.layoutSidebarHeading
+            verticalAlignment: Text.AlignVCenter
+            text: qsTranslate("Loomstreet", "Either way")
+            type: Theme.type.overline
+            color: Theme.muted
+            Accessible.role: Accessible.Heading
+        }
+        FactRow {
+            width: parent.width
+            iconName: "globe"
+            title: qsTranslate("Loomstreet", "Essential is what you ask for")
+            note: qsTranslate("Loomstreet", "The pages you open, your searches, your bag and your orders have to reach the store.")
+        }
+        FactRow {
+            width: parent.width
+            iconName: "heart"
+            title: qsTranslate("Loomstreet", "What you keep stays on this computer")
+            note: qsTranslate("Loomstreet", "Your wishlist, what you viewed and what you searched for, until you clear it.")
+        }
+        FactRow {
+            width: parent.width
+            iconName: "lock"
+            title: qsTranslate("Loomstreet", "Your sign-in lies in the keyring")
+            note: qsTranslate("Loomstreet", "Where there is none, in a file that only you can read. It ends after 60 days, and whenever you sign out.")
+        }
     }
 }

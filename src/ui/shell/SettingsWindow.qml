@@ -14,6 +14,7 @@ Window {
     readonly property AppSettings settings: app.settings
     readonly property var pages: [
         { id: "general", title: qsTranslate("Loomstreet", "General"), icon: "gear" },
+        { id: "account", title: qsTranslate("Loomstreet", "Account"), icon: "person.crop.circle" },
         { id: "appearance", title: qsTranslate("Loomstreet", "Appearance"), icon: "sun" },
         { id: "privacy", title: qsTranslate("Loomstreet", "Privacy"), icon: "lock" }
     ]
@@ -39,7 +40,13 @@ Window {
         system: window.systemAppearance
     }
     Shortcut {
-        sequences: ["Ctrl+W", "Esc"]
+        sequence: "Ctrl+W"
+        onActivated: window.close()
+    }
+    // It closes what lies over the page first.
+    Shortcut {
+        sequence: "Esc"
+        enabled: !account.asking && !signIn.open
         onActivated: window.close()
     }
     Shortcut {
@@ -104,7 +111,7 @@ Window {
             Item {
                 id: sheet
 
-                readonly property Item shown: [general, appearance, privacy][window.current]
+                readonly property Item shown: [general, account, appearance, privacy][window.current]
 
                 anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.space4; topMargin: Theme.space3 }
                 height: shown.implicitHeight
@@ -115,6 +122,14 @@ Window {
                     width: parent.width
                     visible: sheet.shown === this
                     app: window.app
+                }
+                AccountSettings {
+                    id: account
+
+                    width: parent.width
+                    visible: sheet.shown === this
+                    app: window.app
+                    onSignInAsked: signIn.open = true
                 }
                 AppearanceSettings {
                     id: appearance
@@ -131,6 +146,14 @@ Window {
                     settings: window.settings
                 }
             }
+        }
+        SignInLoader {
+            id: signIn
+
+            anchors.fill: parent
+            app: window.app
+            narrow: true
+            onCloseAsked: open = false
         }
     }
 }

@@ -7,11 +7,13 @@ FocusScope {
     id: row
 
     required property int index
-    required property string title
+    required property var model
     required property string symbol
-    required property string heading
     required property bool hasLine
     required property string rawValue
+    // Asked of the model each time: the store's own texts may replace those of the window.
+    readonly property string title: model.title
+    readonly property string heading: model.heading
     property bool rail: false
     property bool selected: false
     property int count: 0

@@ -115,6 +115,18 @@ Item {
             shortcut: "Ctrl Shift B"
             onClicked: bar.session.isCartOpen = !bar.session.isCartOpen
         }
+        AccountButton {
+            objectName: "account"
+            anchors.verticalCenter: parent.verticalCenter
+            auth: bar.app.auth
+            on: bar.session.isSignInPresented
+            onClicked: {
+                if (bar.app.auth.isSignedIn)
+                    bar.router.openAccount()
+                else
+                    bar.session.isSignInPresented = true
+            }
+        }
         IconButton {
             id: menuButton
 

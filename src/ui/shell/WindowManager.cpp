@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QQmlComponent>
+#include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickWindow>
 
@@ -24,13 +25,28 @@ QUrl addressOf(const QString& type)
 QQuickWindow* createWindow(QQmlEngine& engine, const QString& type, const QVariantMap& properties)
 {
     QQmlComponent component(&engine, addressOf(type));
-    QObject* const object = component.isReady() ? component.createWithInitialProperties(properties) : nullptr;
+    auto context = std::make_unique<QQmlContext>(engine.rootContext());
+    QObject* const object =
+        component.isReady() ? component.createWithInitialProperties(properties, context.get()) : nullptr;
     auto* const window = qobject_cast<QQuickWindow*>(object);
     if (!window) {
         qCCritical(logApp) << component.errors();
         delete object;
+        return nullptr;
     }
+    context.release()->setParent(window);
     return window;
+}
+
+/// Evaluates every binding of a window anew. The engine does so only with those that look a text up themselves, and
+/// many show one that a model has looked up for them. A context does it with all below it when it is given an object,
+/// even none.
+void evaluateAgain(QQuickWindow* window)
+{
+    if (!window)
+        return;
+    if (auto* const context = window->findChild<QQmlContext*>({}, Qt::FindDirectChildrenOnly))
+        context->setContextObject(nullptr);
 }
 
 void applyStyle(QQuickWindow* window)
@@ -143,6 +159,16 @@ void WindowManager::applyWindowStyle()
     for (const auto& window : std::as_const(m_checkouts))
         applyStyle(window);
     applyStyle(m_settings);
+}
+
+void WindowManager::retranslate()
+{
+    m_engine.retranslate();
+    for (const auto& window : std::as_const(m_windows))
+        evaluateAgain(window);
+    for (const auto& window : std::as_const(m_checkouts))
+        evaluateAgain(window);
+    evaluateAgain(m_settings);
 }
 
 QQuickWindow* WindowManager::windowOf(const WindowSession& session) const

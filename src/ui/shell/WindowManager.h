@@ -36,6 +36,9 @@ public:
     [[nodiscard]] bool hasVisibleWindow() const override;
     void applyWindowStyle() override;
 
+    /// What the windows say may be said otherwise now.
+    void retranslate();
+
     /// How windows ask to come to the front, where the desktop wants to know more than that they do.
     void setActivate(std::function<void(QWindow& window)> activate) { m_activate = std::move(activate); }
 

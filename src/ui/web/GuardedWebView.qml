@@ -9,6 +9,8 @@ WebEngineView {
     settings.localContentCanAccessRemoteUrls: false
     settings.localContentCanAccessFileUrls: false
     settings.screenCaptureEnabled: false
+    // The desktop would open what the page names, and hand a sign-in's way back to the application.
+    settings.unknownUrlSchemePolicy: WebEngineSettings.DisallowUnknownUrlSchemes
 
     onFeaturePermissionRequested: (securityOrigin, feature) => grantFeaturePermission(securityOrigin, feature, false)
     // There is nobody to ask before a page is left, and nothing to tell a page that asks.

@@ -63,6 +63,16 @@ void Sandbox::setCheckout(const QJsonObject& settings)
     tell(QStringLiteral("/checkout"), settings);
 }
 
+void Sandbox::setConfig(const QJsonObject& changes)
+{
+    tell(QStringLiteral("/config"), changes);
+}
+
+void Sandbox::setReco(const QJsonObject& settings)
+{
+    tell(QStringLiteral("/reco"), settings);
+}
+
 void Sandbox::expireCarts()
 {
     tell(QStringLiteral("/carts/expire"), {});
@@ -81,6 +91,26 @@ void Sandbox::setStock(const QString& variantID, int stock)
 void Sandbox::setPrice(const QString& handle, double price)
 {
     tell(QStringLiteral("/price"), {{QStringLiteral("piece"), handle}, {QStringLiteral("price"), price}});
+}
+
+QString Sandbox::code(const QString& email)
+{
+    return ask("GET", QStringLiteral("/codes"))[email].toString();
+}
+
+void Sandbox::setAuth(const QJsonObject& settings)
+{
+    tell(QStringLiteral("/auth"), settings);
+}
+
+QUrl Sandbox::redirectOf(const QUrl& page)
+{
+    QNetworkRequest request(page);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    QNetworkAccessManager browser; // which goes through the proxy
+    const std::unique_ptr<QNetworkReply> reply(browser.get(request));
+    waitUntil([&reply] { return reply->isFinished(); }, "the page answers");
+    return reply->header(QNetworkRequest::LocationHeader).toUrl();
 }
 
 QJsonArray Sandbox::orders()

@@ -45,6 +45,16 @@ public:
     void setStock(const QString& variantID, int stock);
     /// What a piece costs from now on, in US dollars.
     void setPrice(const QString& handle, double price);
+    /// The code that an address was last sent.
+    [[nodiscard]] QString code(const QString& email);
+    /// Has signing in behave in another way, by the settings that the store's README names.
+    void setAuth(const QJsonObject& settings);
+    /// Changes what the store says of the application, and how recommending behaves, by the settings that its README
+    /// names.
+    void setConfig(const QJsonObject& changes);
+    void setReco(const QJsonObject& settings);
+    /// Where a page of the store sends a browser on to.
+    [[nodiscard]] QUrl redirectOf(const QUrl& page);
     [[nodiscard]] QJsonArray orders();
     [[nodiscard]] QJsonArray carts();
     /// The summaries of the wishlist that it was told, oldest first.

@@ -47,7 +47,6 @@ Shop::Shop(const Sandbox& sandbox, const Circumstances& circumstances)
               {.clock = circumstances.clock ? *circumstances.clock : m_systemClock,
                .random = m_random,
                .network = m_network,
-               .features = m_features,
                .dataFolder = m_dataFolder,
                .locale = {.language = QStringLiteral("en"), .script = {}, .region = circumstances.region},
                .openExternally = [this](const QUrl& url) { m_openedInBrowser.append(url); },

@@ -23,15 +23,10 @@ class FakeAppearance final : public SystemAppearance
 {
 public:
     [[nodiscard]] bool isDark() const override { return false; }
-    [[nodiscard]] bool reducesMotion() const override { return m_reducesMotion; }
+    [[nodiscard]] bool reducesMotion() const override { return true; }
     [[nodiscard]] bool isRightToLeft() const override { return m_isRightToLeft; }
     [[nodiscard]] double textScale() const override { return 1; }
 
-    void setReducesMotion(bool reduces)
-    {
-        m_reducesMotion = reduces;
-        Q_EMIT changed();
-    }
     void setRightToLeft(bool isRightToLeft)
     {
         m_isRightToLeft = isRightToLeft;
@@ -39,7 +34,6 @@ public:
     }
 
 private:
-    bool m_reducesMotion = true;
     bool m_isRightToLeft = false;
 };
 
@@ -76,7 +70,6 @@ public:
     [[nodiscard]] std::vector<ProductVariant> variants(const QString& handle);
 
     [[nodiscard]] AppModel& model() { return m_model; }
-    [[nodiscard]] QQmlEngine& engine() { return m_engine; }
     [[nodiscard]] WindowManager& windows() { return m_windows; }
     [[nodiscard]] FakeNetworkStatus& network() { return m_network; }
     [[nodiscard]] FakeAppearance& appearance() { return m_appearance; }
@@ -88,7 +81,6 @@ private:
     SystemClock m_systemClock;
     FakeRandom m_random;
     FakeNetworkStatus m_network;
-    AllFeatures m_features;
     FakeAppearance m_appearance;
     QList<QUrl> m_openedInBrowser;
     PictureLoading m_pictures;

@@ -10,6 +10,7 @@ namespace
 
 QMutex mutex;
 QStringList collected;
+QStringList all;
 QtMessageHandler usual = nullptr;
 
 void collect(QtMsgType type, const QMessageLogContext& context, const QString& message)
@@ -18,10 +19,10 @@ void collect(QtMsgType type, const QMessageLogContext& context, const QString& m
     // The application's own telling of a failure, and Qt's of a connection that the store was made to drop.
     const bool isExpected =
         category.startsWith(QLatin1String("loomstreet.")) || category == QLatin1String("qt.network.http2");
-    if (!isExpected && type != QtDebugMsg && type != QtInfoMsg) {
-        const QMutexLocker locker(&mutex);
+    const QMutexLocker locker(&mutex);
+    all.append(message);
+    if (!isExpected && type != QtDebugMsg && type != QtInfoMsg)
         collected.append(message);
-    }
     usual(type, context, message);
 }
 
@@ -36,6 +37,12 @@ QStringList takeWarnings()
 {
     const QMutexLocker locker(&mutex);
     return std::exchange(collected, {});
+}
+
+QStringList takeLog()
+{
+    const QMutexLocker locker(&mutex);
+    return std::exchange(all, {});
 }
 
 } // namespace loom

@@ -12,4 +12,7 @@ void collectWarnings();
 /// The complaints since the last call.
 [[nodiscard]] QStringList takeWarnings();
 
+/// Everything that was logged since the last call, as it was before anything in it was replaced.
+[[nodiscard]] QStringList takeLog();
+
 } // namespace loom

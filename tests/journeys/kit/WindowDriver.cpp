@@ -251,6 +251,7 @@ void WindowDriver::tabTo(const QString& name, const QString& key) const
     QStringList stops;
     while (focusName() != name) {
         press(key);
+        drainEvents(); // what the last action brings may still be on its way
         stops.append(focusName());
         if (stops.size() > manyStops)
             throw std::runtime_error("no " + key.toStdString() + " leads to " + name.toStdString() + ", only to " +

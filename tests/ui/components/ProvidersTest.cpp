@@ -69,13 +69,6 @@ TEST_F(IconProviderTest, EveryIconDrawsSomethingAndKeepsWithinItsGrid)
     EXPECT_EQ(warnings, QStringList());
 }
 
-TEST_F(IconProviderTest, AnUnknownNameDrawsNothingAndIsReportedOnce)
-{
-    for (const char* id : {"no.such.icon/000000", "no.such.icon/FFFFFF", "no.such.icon/000000"})
-        EXPECT_TRUE(isEmpty(draw(QLatin1String(id)))) << id;
-    EXPECT_EQ(warnings, QStringList{QStringLiteral("There is no icon named \"no.such.icon\".")});
-}
-
 TEST_F(IconProviderTest, AnIdThatIsNoIconReachesNoFile)
 {
     for (const char* id : {"", "/", "house", "house/", "house/nocolour", "../icons/house/000000", "/house/000000"})

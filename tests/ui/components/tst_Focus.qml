@@ -38,19 +38,6 @@ TestCase {
         verify(ringOf(first).visible, "what has the focus is shown as soon as a key is used")
     }
 
-    function test_aFieldIsLabelledAndSaysItsErrorAndGivesTheFocusToItsText() {
-        compare(AccessibleProbe.name(findChild(field, "input")), "Email")
-        field.error = "That is not an address."
-        compare(AccessibleProbe.description(findChild(field, "input")), "That is not an address.")
-        compare(findChild(field, "message").color, Theme.danger)
-        compare(findChild(field, "input").background.border.color, Theme.danger)
-        field.forceActiveFocus(Qt.TabFocusReason)
-        keyClick("a")
-        compare(field.text, "a")
-        field.error = ""
-        field.clear()
-    }
-
     Component { id: icon; IconButton { x: 200; y: 200; iconName: "bag"; text: "Bag"; shortcut: "Ctrl B" } }
     function test_anIconIsExplainedUnderThePointerAndUnderTheKeyboard() {
         let button = createTemporaryObject(icon, test)
@@ -118,17 +105,6 @@ TestCase {
         tryCompare(panel, "visible", false)
     }
 
-    function test_aPressBesideAPanelAsksToCloseItAndOneInsideDoesNot() {
-        const scene = createTemporaryObject(panels, test)
-        const panel = findChild(scene, "panel")
-        panel.open = true
-        tryCompare(panel, "progress", 1)
-        mouseClick(panel, panel.width - 100, 200)
-        verify(panel.open)
-        mouseClick(panel, 20, 200)
-        verify(!panel.open)
-    }
-
     function test_aPanelLeavesTheFocusWithWhoeverTookItMeanwhile() {
         const scene = createTemporaryObject(panels, test)
         const panel = findChild(scene, "panel")
@@ -137,36 +113,5 @@ TestCase {
         second.forceActiveFocus()
         panel.open = false
         verify(second.activeFocus)
-    }
-    Component { id: toast; Toast { title: "Order placed"; actionText: "Open"; duration: 300 } }
-    SignalSpy { id: dismissals; signalName: "dismissed" }
-
-    function test_aBannerNeverTakesTheFocusAndThePointerHoldsIt() {
-        first.forceActiveFocus()
-        const banner = createTemporaryObject(toast, test, { y: 100 })
-        dismissals.target = banner
-        mouseMove(banner, 20, 20)
-        banner.open = true
-        verify(first.activeFocus)
-        tryCompare(banner, "progress", 1)
-        mouseMove(banner, 22, 22)
-        verify(banner.held)
-        wait(400)
-        compare(dismissals.count, 0)
-        mouseClick(findChild(banner, "action"))
-        verify(first.activeFocus, "not even when its button is pressed")
-        mouseMove(test, 490, 390)
-        tryCompare(dismissals, "count", 1)
-    }
-
-    Component { id: failure; ErrorState { width: 400; height: 300; title: "Couldn't load your cart" } }
-
-    function test_anotherTryHasTheFocusUnlessTheShopperIsTyping() {
-        first.forceActiveFocus()
-        let state = createTemporaryObject(failure, test)
-        verify(findChild(state, "retry").activeFocus)
-        field.forceActiveFocus()
-        state = createTemporaryObject(failure, test)
-        verify(findChild(field, "input").activeFocus)
     }
 }

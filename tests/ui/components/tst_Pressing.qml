@@ -96,40 +96,4 @@ TestCase {
         keyClick(Qt.Key_Space)
         compare(clicks.count, 1)
     }
-
-    function test_switchesTurnOncePerPressHoweverTheyArePressed() {
-        const row = createTemporaryObject(switchRow, test, { width: 300 })
-        mouseClick(row, 10, row.height / 2) // far from the switch itself
-        verify(row.checked)
-        row.forceActiveFocus(Qt.TabFocusReason)
-        keyClick(Qt.Key_Space)
-        verify(!row.checked)
-        keyClick(Qt.Key_Return)
-        verify(row.checked)
-        verify(AccessibleProbe.checked(row))
-        AccessibleProbe.press(row)
-        verify(!row.checked)
-        verify(!AccessibleProbe.checked(row))
-    }
-
-    Component {
-        id: radios
-
-        Column {
-            RadioRow { objectName: "first"; width: 200; text: "Standard"; checked: true }
-            RadioRow { objectName: "second"; width: 200; text: "Express" }
-        }
-    }
-    function test_aRadioRowIsChosenAndNeverUnchosen() {
-        const group = createTemporaryObject(radios, test)
-        const first = findChild(group, "first")
-        const second = findChild(group, "second")
-        AccessibleProbe.press(second)
-        verify(second.checked && !first.checked)
-        AccessibleProbe.press(second)
-        verify(second.checked)
-        second.forceActiveFocus(Qt.TabFocusReason)
-        keyClick(Qt.Key_Return)
-        verify(second.checked && !first.checked)
-    }
 }

@@ -50,14 +50,6 @@ protected:
             throw std::runtime_error("no window came to the front");
         return *window;
     }
-    static QQuickWindow& settings()
-    {
-        for (QWindow* const window : QGuiApplication::topLevelWindows()) {
-            if (window->objectName() == QLatin1String("settings"))
-                return *qobject_cast<QQuickWindow*>(window);
-        }
-        throw std::runtime_error("no settings");
-    }
     static const QQuickItem* find(const QString& name, const QQuickItem* below)
     {
         if (below->objectName() == name)
@@ -67,11 +59,6 @@ protected:
                 return found;
         }
         return nullptr;
-    }
-    static void activate(QWindow& window)
-    {
-        window.requestActivate();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
     PlainAppearance appearance;
@@ -120,42 +107,6 @@ TEST_F(WindowManagerTest, AWindowAndItsSessionAgreeOnTheFullScreen)
     window.hide();
     expectFullScreen(true);
     EXPECT_FALSE(window.isVisible());
-}
-
-TEST_F(WindowManagerTest, AWindowThatComesToTheFrontHasTheApplicationsStyle)
-{
-    QQuickWindow& main = open({});
-    windows->showSettings();
-    QQuickWindow& other = settings();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-    const QColor paper = main.color();
-    const QColor surface = other.color();
-    const auto spoil = [&] {
-        main.setColor(Qt::magenta);
-        other.setColor(Qt::magenta);
-    };
-    spoil();
-    activate(main);
-    EXPECT_EQ(main.color(), paper);
-    EXPECT_EQ(other.color(), QColor(Qt::magenta));
-    activate(other);
-    EXPECT_EQ(other.color(), surface);
-    spoil();
-    windows->applyWindowStyle();
-    EXPECT_EQ(main.color(), paper);
-    EXPECT_EQ(other.color(), surface);
-}
-
-TEST_F(WindowManagerTest, APageIsRefreshedInItsPlace)
-{
-    const QQuickWindow& window = open({.section = SidebarItem::NewIn});
-    const auto times = [this] {
-        return asked.filter(QStringLiteral("CollectionProducts new-in")).size();
-    };
-    waitUntil([&] { return window.property("settled").toBool() && clock.sleepers() <= 1; }, "the page is there");
-    const qsizetype before = times();
-    model->keySession()->selected()->softReload();
-    waitUntil([&] { return times() == before + 1 && clock.sleepers() <= 1; }, "the page asks again");
 }
 
 } // namespace

@@ -56,12 +56,6 @@ bool AccessibleProbe::checked(QObject* item) const
     return state(item).checked;
 }
 
-bool AccessibleProbe::exposed(QObject* item) const
-{
-    const QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(item);
-    return seen && seen->isValid() && seen->role() != QAccessible::NoRole && !seen->state().invisible;
-}
-
 bool AccessibleProbe::press(QObject* item) const
 {
     return act(item, QAccessibleActionInterface::pressAction());

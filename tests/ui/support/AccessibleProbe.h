@@ -20,7 +20,6 @@ public:
     Q_INVOKABLE int role(QObject* item) const;
     Q_INVOKABLE bool focusable(QObject* item) const;
     Q_INVOKABLE bool checked(QObject* item) const;
-    Q_INVOKABLE bool exposed(QObject* item) const;
     Q_INVOKABLE bool press(QObject* item) const;
     Q_INVOKABLE bool increase(QObject* item) const;
 };

@@ -72,32 +72,6 @@ TEST_F(FontsTest, LettersBesideFiguresAreIntersAndArabicAndHanHaveTheirOwn)
     EXPECT_EQ(familiesOf(QString::fromUtf8("東京"), used), QStringList{QStringLiteral("Noto Sans CJK SC")});
 }
 
-TEST_F(FontsTest, FiguresInTitlesStandOnTheLine)
-{
-    const QRawFont raw = QRawFont::fromFont(font(display, 100, 400));
-    EXPECT_EQ(raw.familyName(), display);
-    const double capital = -raw.boundingRect(raw.glyphIndexesForString(QStringLiteral("H")).first()).top();
-    for (const QChar digit : QStringLiteral("0123456789")) {
-        const QRectF box = raw.boundingRect(raw.glyphIndexesForString(QString(digit)).first());
-        EXPECT_NEAR(-box.top(), capital, 8) << digit.toLatin1();
-        EXPECT_LT(box.bottom(), 8) << digit.toLatin1();
-    }
-}
-
-/// TypeScale.qml lays lines out by these numbers.
-TEST_F(FontsTest, TheMeasuresThatLinesAreLaidOutByAreTheFontsOwn)
-{
-    struct Row {
-        const char* family;
-        double ascent;
-    };
-    for (const Row& row : {Row{"Loomstreet Display", 0.726}, Row{"Noto Naskh Arabic", 1.069},
-                           Row{"Noto Serif CJK SC", 1.151}, Row{"Inter", 0.96875}, Row{"Loomstreet Figures", 0.96875},
-                           Row{"Noto Sans Arabic", 1.374}, Row{"Noto Sans CJK SC", 1.16}})
-        EXPECT_NEAR(QFontMetricsF(font(QLatin1String(row.family), 100, 400)).ascent() / 100, row.ascent, 0.006)
-            << row.family;
-}
-
 } // namespace
 
 } // namespace loom

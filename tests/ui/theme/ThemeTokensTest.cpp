@@ -1,11 +1,13 @@
-#include "ThemeFixture.h"
+#include "TestEngine.h"
 
 #include <QColor>
-#include <QMap>
 #include <QMetaProperty>
-#include <QPointF>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 
 namespace loom
 {
@@ -27,7 +29,34 @@ double contrast(const QColor& a, const QColor& b)
     return (light + 0.05) / (dark + 0.05);
 }
 
-using ThemeTokensTest = ThemeFixture;
+/// Theme, fresh for each test, by the names of its properties.
+class ThemeTokensTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        m_engine = std::make_unique<QQmlEngine>();
+        prepareTestEngine(*m_engine);
+        QQmlComponent component(m_engine.get());
+        component.setData("import QtQml\nimport Loomstreet.Theme\nQtObject { property QtObject theme: Theme }", {});
+        m_holder.reset(component.create());
+        ASSERT_NE(m_holder, nullptr) << component.errorString().toStdString();
+        m_theme = m_holder->property("theme").value<QObject*>();
+    }
+
+    [[nodiscard]] QVariant value(const QString& name) const
+    {
+        const QVariant found = m_theme->property(name.toLatin1().constData());
+        EXPECT_TRUE(found.isValid()) << "Theme lacks " << name.toStdString();
+        return found;
+    }
+
+    void set(const char* name, const QVariant& value) const { m_theme->setProperty(name, value); }
+
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QObject> m_holder;
+    QObject* m_theme = nullptr;
+};
 
 TEST_F(ThemeTokensTest, WhatIsReadOrReachedStandsOutFromWhatItLiesOn)
 {
@@ -60,26 +89,19 @@ TEST_F(ThemeTokensTest, WhatIsReadOrReachedStandsOutFromWhatItLiesOn)
     }
 }
 
-TEST_F(ThemeTokensTest, EveryStyleOfTypeFollowsTheShoppersTextSize)
+TEST_F(ThemeTokensTest, WithReducedMotionNothingTakesTimeAndNothingTravels)
 {
-    const auto* scale = value(QStringLiteral("type")).value<QObject*>();
-    const auto sizes = [&] {
-        QMap<QString, QPointF> found;
-        for (int i = 0; i < scale->metaObject()->propertyCount(); ++i) {
-            const QMetaProperty property = scale->metaObject()->property(i);
-            if (const auto* style = property.read(scale).value<QObject*>(); style && style->property("size").isValid())
-                found.insert(QLatin1String(property.name()),
-                             QPointF(style->property("size").toDouble(), style->property("line").toDouble()));
-        }
-        return found;
-    };
-    set("textScale", 1.0);
-    const auto normal = sizes();
-    set("textScale", 2.0);
-    const auto large = sizes();
-    EXPECT_EQ(normal.size(), 18);
-    for (auto style = normal.cbegin(); style != normal.cend(); ++style)
-        EXPECT_EQ(large.value(style.key()), *style * 2) << style.key().toStdString();
+    set("reducedMotion", true);
+    int checked = 0;
+    for (int i = 0; i < m_theme->metaObject()->propertyCount(); ++i) {
+        const QMetaProperty property = m_theme->metaObject()->property(i);
+        const QByteArray name = property.name();
+        if (!name.startsWith("duration") && !name.startsWith("distance"))
+            continue;
+        EXPECT_EQ(property.read(m_theme).toInt(), 0) << name.constData();
+        ++checked;
+    }
+    EXPECT_GT(checked, 10);
 }
 
 } // namespace

@@ -1,8 +1,10 @@
 import { addAlert, listAlerts, removeAlert } from './alerts.mjs';
 import { prepareCheckout, revokeCheckout, startCheckout } from './checkout.mjs';
+import { readConfig } from './config.mjs';
 import { listOrders, trackParcel } from './orders.mjs';
 import { readProfile, updateProfile } from './profile.mjs';
 import { exchangeProvider, startProviders } from './providers.mjs';
+import { brandStats, companions, feed, productStats, rails, searchAI } from './reco.mjs';
 import { deleteAccount, requestCode, setPassword, signInWithCode, signInWithPassword } from './signIn.mjs';
 import { track } from './track.mjs';
 import { wishlistSync } from './wishlist.mjs';
@@ -18,4 +20,5 @@ export const endpoints = [
   requestCode, signInWithCode, signInWithPassword, setPassword, deleteAccount, ...startProviders, exchangeProvider,
   listOrders, trackParcel, readProfile, updateProfile, listAlerts, addAlert, removeAlert,
   prepareCheckout, revokeCheckout, startCheckout, track, wishlistSync,
+  feed, companions, rails, searchAI, productStats, brandStats, readConfig,
 ];

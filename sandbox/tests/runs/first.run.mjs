@@ -1,0 +1,3 @@
+import { loadShare } from './share.mjs';
+
+await loadShare(0);
