@@ -128,7 +128,7 @@ QString summary(const Order& order)
 {
     if (order.lines.empty())
         return {};
-    const QString first = order.lines.front().title;
+    const QString& first = order.lines.front().title;
     switch (order.lines.size()) {
     case 1:
         return first;

@@ -66,7 +66,7 @@ TEST_F(HomeJourney, TheStoreOrdersTheDashboardAndARailThatFailsIsNotThere)
     store.setReco({{QStringLiteral("/reco?kind=for-you"), QJsonObject{{QStringLiteral("status"), 503}}}});
     start();
     window.awaitPage(QStringLiteral("Explore"));
-    firstCard(window.await(newArrivals));
+    EXPECT_NE(firstCard(window.await(newArrivals)), nullptr);
     waitUntil([&] { return window.find(forYou) == nullptr; }, "no rail stands for what failed");
     const QStringList cards{QStringLiteral("dashboard.closet"), QStringLiteral("dashboard.orders")};
     waitUntil([&] { return names(QStringLiteral("dashboard.")) == cards; }, "the dashboard is the store's");

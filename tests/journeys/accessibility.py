@@ -135,9 +135,8 @@ class Shopper:
 
 def shop(shopper):
     shopper.await_page("Explore")
-    news = shopper.await_item(pyatspi.ROLE_LIST, "New arrivals")
-    wait_for(lambda: shopper.find(pyatspi.ROLE_PUSH_BUTTON, below=news), "the newest pieces")
-    shopper.await_item(pyatspi.ROLE_PUSH_BUTTON, "Dresses")
+    rail = shopper.await_item(pyatspi.ROLE_LIST, "For you")
+    wait_for(lambda: shopper.find(pyatspi.ROLE_PUSH_BUTTON, below=rail), "what is recommended")
     shopper.look("Explore")
 
     shopper.press("Women")

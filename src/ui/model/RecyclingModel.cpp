@@ -124,7 +124,7 @@ void RecyclingModel::setCurrent(int place)
     const int current = std::clamp(place, count() > 0 ? 0 : -1, count() - 1);
     const bool isOther = std::exchange(m_current, current) != current;
     // The keyboard is never nowhere. What is about to be seen comes in its turn.
-    if (isOther && current >= 0 && indexOf(current) < 0 && !m_slots.empty())
+    if (isOther && current >= 0 && indexOf(current) < 0 && !m_slots.empty() && !m_hasEnded)
         give(current);
     if (isOther)
         Q_EMIT currentChanged();
@@ -144,8 +144,18 @@ void RecyclingModel::look(int firstSeen, int lastSeen, int firstNear, int lastNe
     begin();
 }
 
+void RecyclingModel::end()
+{
+    m_hasEnded = true;
+    m_working.stop();
+    if (m_source)
+        m_source->disconnect(this);
+}
+
 void RecyclingModel::begin()
 {
+    if (m_hasEnded)
+        return;
     const bool isComplete = missing(m_seen) < 0;
     if (!isComplete || missing(m_near) >= 0 || stale({0, count() - 1}) >= 0)
         m_working.start();

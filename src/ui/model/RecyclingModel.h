@@ -48,6 +48,8 @@ public:
 
     /// What is in sight, and what is near: from the first to the last of each.
     Q_INVOKABLE void look(int firstSeen, int lastSeen, int firstNear, int lastNear);
+    /// The view goes: from here on nothing is given to it, which could not make an item of it any more.
+    Q_INVOKABLE void end();
     /// The row of this model that a row of the list is at, -1 when it has no item.
     Q_INVOKABLE [[nodiscard]] int indexOf(int place) const;
 
@@ -105,6 +107,7 @@ private:
     int m_held = -1;
     bool m_isComplete = true;
     bool m_isUpwards = false;
+    bool m_hasEnded = false;
     QTimer m_working;
 };
 

@@ -48,6 +48,7 @@ Item {
             SectionHeader {
                 id: name
 
+                anchors.left: parent.left
                 width: parent.width - (links.count > 0 ? links.width + Theme.space3 : 0)
                 type: header.kind
                 title: header.title
@@ -90,8 +91,7 @@ Item {
         }
         TextLabel {
             objectName: "summary"
-            anchors.left: parent.left
-            width: Math.min(implicitWidth, parent.width)
+            width: parent.width // a column passes over what has none
             height: type.line
             visible: header.lined
             text: header.summary

@@ -117,6 +117,8 @@ FocusScope {
     onLastSeenChanged: lookAround()
     onSettledChanged: lookAround()
     Component.onCompleted: lookAround()
+    // A page that goes is made nothing more, though it may take a turn of the event loop until it is gone.
+    Component.onDestruction: pool.end()
     onCountChanged: noteNearEnd()
     // Later: what it sets off may be what this height follows from.
     onHeightChanged: later.restart()

@@ -34,13 +34,28 @@ Column {
     signal allAsked()
     signal hideAsked(string handle, string title)
 
+    // The number of the first card in view. The list's own follows a card when others come and go before it.
+    property int first: 0
+
     // Brings the card with this number to the start, as far as there are cards behind it.
     function show(index: int): void {
-        row.currentIndex = Math.max(0, Math.min(index, rail.count - rail.perView))
+        first = Math.max(0, Math.min(index, rail.count - rail.perView))
+        row.currentIndex = first
     }
+    function stay(): void { show(first) }
 
     visible: waiting || count > 0
     spacing: Theme.space2
+
+    onPerViewChanged: stay()
+
+    // When cards come or go before its own, the list follows that one only after it has told of their number.
+    Timer {
+        id: later
+
+        interval: 0
+        onTriggered: rail.stay()
+    }
 
     SectionHeader {
         width: parent.width
@@ -48,11 +63,11 @@ Column {
         note: rail.note
         actionText: rail.waiting ? "" : rail.allText
         paged: true
-        hasPrevious: row.currentIndex > 0
-        hasNext: row.currentIndex + rail.perView < rail.count
+        hasPrevious: rail.first > 0
+        hasNext: rail.first + rail.perView < rail.count
         onActivated: rail.allAsked()
-        onPrevious: rail.show(row.currentIndex - rail.perView)
-        onNext: rail.show(row.currentIndex + rail.perView)
+        onPrevious: rail.show(rail.first - rail.perView)
+        onNext: rail.show(rail.first + rail.perView)
     }
     FocusScope {
         id: cards
@@ -62,9 +77,9 @@ Column {
 
         function move(by: int): void {
             focused = Math.max(0, Math.min(focused + by, rail.count - 1))
-            if (focused < row.currentIndex)
+            if (focused < rail.first)
                 rail.show(focused)
-            else if (focused >= row.currentIndex + rail.perView)
+            else if (focused >= rail.first + rail.perView)
                 rail.show(focused - rail.perView + 1)
         }
 
@@ -92,12 +107,12 @@ Column {
             highlightMoveDuration: Theme.durationPanel
             highlightMoveVelocity: -1
             model: rail.near ? rail.products : null
-            // A list that fills after it was made has no card at its start yet, and one that empties has fewer.
             onCountChanged: {
                 if (count === 0)
                     return
                 cards.focused = Math.min(cards.focused, count - 1)
-                rail.show(currentIndex)
+                rail.stay()
+                later.restart()
             }
 
             delegate: PieceCard {
@@ -111,7 +126,7 @@ Column {
                 focus: index === cards.focused
                 activeFocusOnTab: index === cards.focused
                 // Beyond the rail's edges a card is out of sight, not cut.
-                opacity: index >= row.currentIndex && index < row.currentIndex + rail.perView ? 1 : 0
+                opacity: index >= rail.first && index < rail.first + rail.perView ? 1 : 0
                 visible: opacity > 0
                 onOpened: (handle, item, mode) => {
                     cards.focused = index

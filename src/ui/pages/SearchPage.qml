@@ -33,9 +33,14 @@ ListingPage {
         return count < 0 ? quoted : count === 1 ? qsTranslate("Loomstreet", "1 result for “") + query + "”"
                                                 : qsTranslate("Loomstreet", "%1 results for “").arg(count) + query + "”"
     }
-    note: designer.newItems > 0 ? qsTranslate("Loomstreet", "%1 new in the last 30 days").arg(designer.newItems) : ""
     lined: !blank
-    summary: search?.summary ?? ""
+    summary: {
+        const understood = search?.summary ?? ""
+        if (designer.newItems === 0)
+            return understood
+        const news = qsTranslate("Loomstreet", "%1 new in the last 30 days").arg(designer.newItems)
+        return understood === "" ? news : understood + " · " + news
+    }
     collections: search ? search.collections : []
 
     words: ListingWords {
