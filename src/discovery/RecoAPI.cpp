@@ -154,7 +154,7 @@ QString RecoAPI::locale() const
     return appLanguageCode(m_market.context().language);
 }
 
-QCoro::Task<ApiResult<RecoAPI::Feed>> RecoAPI::feed(FeedRequest request, std::stop_token stop)
+QCoro::Task<ApiResult<RecoAPI::Feed>> RecoAPI::feed(const FeedRequest& request, std::stop_token stop)
 {
     Query query{{QStringLiteral("kind"), recoKindName(request.kind)},
                 {QStringLiteral("limit"), QString::number(request.limit)},
@@ -209,7 +209,8 @@ QCoro::Task<ApiResult<RecoAPI::SearchAnswer>> RecoAPI::search(SearchRequest requ
                searchTimeout, readSearch, stop);
 }
 
-QCoro::Task<ApiResult<QHash<QString, RecoAPI::Stat>>> RecoAPI::productStats(QStringList handles, std::stop_token stop)
+QCoro::Task<ApiResult<QHash<QString, RecoAPI::Stat>>> RecoAPI::productStats(const QStringList& handles,
+                                                                            std::stop_token stop)
 {
     return get(QStringLiteral("/vessa/product-stats"),
                {{QStringLiteral("handles"), handles.mid(0, maximumHandles).join(u',')}}, WidgetClient::standardTimeout,

@@ -92,13 +92,14 @@ public:
 
     [[nodiscard]] RecoIdentity identity() const { return m_identity(); }
 
-    [[nodiscard]] QCoro::Task<ApiResult<Feed>> feed(FeedRequest request, std::stop_token stop);
+    [[nodiscard]] QCoro::Task<ApiResult<Feed>> feed(const FeedRequest& request, std::stop_token stop);
     [[nodiscard]] QCoro::Task<ApiResult<PdpReco>> companions(QString handle, int limit, std::stop_token stop);
     /// In the order answered, each collection once.
     [[nodiscard]] QCoro::Task<ApiResult<std::vector<Rail>>> rails(int limit, std::stop_token stop);
     [[nodiscard]] QCoro::Task<ApiResult<SearchAnswer>> search(SearchRequest request, std::stop_token stop);
     /// By handle; what the backend does not count is left out.
-    [[nodiscard]] QCoro::Task<ApiResult<QHash<QString, Stat>>> productStats(QStringList handles, std::stop_token stop);
+    [[nodiscard]] QCoro::Task<ApiResult<QHash<QString, Stat>>> productStats(const QStringList& handles,
+                                                                            std::stop_token stop);
     [[nodiscard]] QCoro::Task<ApiResult<BrandStats>> brandStats(QString vendor, std::stop_token stop);
 
 private:

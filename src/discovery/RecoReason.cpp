@@ -57,7 +57,7 @@ qsizetype placeOfParameter(QStringView pattern)
 
 QString filled(const KeyedText& text, const QString& parameter)
 {
-    const QString pattern = text.translated();
+    QString pattern = text.translated();
     const qsizetype place = placeOfParameter(pattern);
     if (place < 0)
         return pattern;

@@ -53,9 +53,9 @@ void CopyTranslator::update()
     };
     Overrides overrides;
     for (auto texts = copy.cbegin(); texts != copy.cend(); ++texts) {
-        Override found{.own = textIn(*texts, language), .english = textIn(*texts, english)};
+        const Override found{.own = textIn(*texts, language), .english = textIn(*texts, english)};
         if (found.own || found.english)
-            overrides.insert(texts.key().toUtf8(), std::move(found));
+            overrides.insert(texts.key().toUtf8(), found);
     }
     {
         const QWriteLocker locker(&m_lock);

@@ -57,6 +57,7 @@ std::vector<DashboardCard> RemoteConfig::dashboard() const
     if (m_values.dashboard)
         return *m_values.dashboard;
     std::vector<DashboardCard> all;
+    all.reserve(dashboardCardKeys.size());
     for (const auto& [card, key] : dashboardCardKeys)
         all.push_back(card);
     return all;

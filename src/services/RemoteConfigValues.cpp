@@ -40,9 +40,9 @@ QMap<QString, LanguageTexts> decodeCopy(const std::optional<JsonReader>& json)
 {
     QMap<QString, LanguageTexts> copy;
     for (const auto& [key, value] : json ? json->members() : std::vector<std::pair<QString, JsonReader>>()) {
-        LanguageTexts texts = decodeTexts(value);
+        const LanguageTexts texts = decodeTexts(value);
         if (!texts.isEmpty() && !copy.contains(key))
-            copy.insert(key, std::move(texts));
+            copy.insert(key, texts);
     }
     return copy;
 }

@@ -101,6 +101,7 @@ TEST_F(FindingJourney, ADepartmentADesignerASearchAndALinkLeadToThePiece)
     window.awaitText(QStringLiteral("Sage"), window.await(QStringLiteral("chip.1")));
     window.awaitNoText(QStringLiteral("24 results for “silk dress”"));
     window.awaitNoText(QStringLiteral("24 pieces: silk dresses")); // filters are the catalog's own
+    window.awaitText(QStringLiteral("3 results for “silk dress”"));
     lookAtDress();
 
     follow(QStringLiteral(" LOOMSTREET://collections/dresses/products/sabine-bias-slip-dress?variant=1#sizes"));

@@ -161,7 +161,14 @@ void WindowDriver::click(QQuickItem* item, Qt::KeyboardModifiers modifiers, Qt::
 
 void WindowDriver::click(const QString& name, Qt::KeyboardModifiers modifiers) const
 {
-    click(await(name), modifiers);
+    // A view that recycles its items may be about to give this one to something else.
+    QQuickItem* item = await(name);
+    QRectF place;
+    for (int frame = 0; frame < 20 && std::exchange(place, sceneRect(*item)) != sceneRect(*item); ++frame) {
+        awaitFrame();
+        item = await(name);
+    }
+    click(item, modifiers);
 }
 
 void WindowDriver::clickAt(QPointF place) const
