@@ -9,14 +9,21 @@ namespace loom
 namespace
 {
 
-bool isOf(const Alert& alert, const AlertSubject& subject)
-{
-    return alert.subject == subject;
-}
-
 auto find(auto& alerts, const AlertSubject& subject)
 {
-    return std::ranges::find_if(alerts, [&subject](const Alert& alert) { return isOf(alert, subject); });
+    return std::ranges::find(alerts, subject, &Alert::subject);
+}
+
+void takeOut(std::vector<Alert>& alerts, const AlertSubject& subject)
+{
+    std::erase_if(alerts, [&subject](const Alert& alert) { return alert.subject == subject; });
+}
+
+/// In place of one of the same subject, as far forward as `place`.
+void putIn(std::vector<Alert>& alerts, Alert alert, std::size_t place)
+{
+    takeOut(alerts, alert.subject);
+    alerts.insert(alerts.begin() + static_cast<std::ptrdiff_t>(std::min(place, alerts.size())), std::move(alert));
 }
 
 bool isGone(const Failure& failure)
@@ -140,7 +147,7 @@ QCoro::Task<> AlertsStore::carryOut()
             m_refused = subject;
             m_changeFailure = outcome.error().error();
             // What could not be taken out is there: nothing to put back.
-            std::erase_if(m_removed, [&subject](const Removed& removed) { return isOf(removed.alert, subject); });
+            std::erase_if(m_removed, [&subject](const Removed& removed) { return removed.alert.subject == subject; });
         }
         showAll();
     }
@@ -160,12 +167,10 @@ QCoro::Task<ApiResult<void>> AlertsStore::tell(Change change, std::stop_token st
         LOOM_CO_TRY(answer, co_await m_widget.post(QStringLiteral("/alerts-add"), body, {}, stop));
         if (stop.stop_requested())
             co_return Unexpected(Failure(Cancelled()));
-        auto alert = decodeJson(answer, [](const JsonReader& json) { return decodeAlert(json.object("alert")); });
-        if (!alert)
-            co_return apiFailure(APIError::Decoding{alert.error()});
-        std::erase_if(m_alerts, [&subject](const Alert& other) { return isOf(other, subject); });
-        const std::size_t place = std::min(change.place, m_alerts.size());
-        m_alerts.insert(m_alerts.begin() + static_cast<std::ptrdiff_t>(place), *std::move(alert));
+        LOOM_CO_TRY(alert, decodedAnswer(decodeJson(
+                               answer, [](const JsonReader& json) { return decodeAlert(json.object("alert")); })));
+        takeOut(m_alerts, subject); // what comes back may be of another
+        putIn(m_alerts, std::move(alert), change.place);
         co_return ApiResult<void>();
     }
     if (known == m_alerts.end())
@@ -176,7 +181,7 @@ QCoro::Task<ApiResult<void>> AlertsStore::tell(Change change, std::stop_token st
         co_return Unexpected(Failure(Cancelled()));
     if (!answer && !isGone(answer.error()))
         co_return Unexpected(answer.error());
-    std::erase_if(m_alerts, [&subject](const Alert& other) { return isOf(other, subject); });
+    takeOut(m_alerts, subject);
     co_return ApiResult<void>();
 }
 
@@ -184,11 +189,10 @@ void AlertsStore::showAll()
 {
     std::vector<Alert> alerts = m_alerts;
     for (const Change& change : m_changes) {
-        std::erase_if(alerts, [&change](const Alert& alert) { return isOf(alert, change.alert.subject); });
-        if (change.adds) {
-            const std::size_t place = std::min(change.place, alerts.size());
-            alerts.insert(alerts.begin() + static_cast<std::ptrdiff_t>(place), change.alert);
-        }
+        if (change.adds)
+            putIn(alerts, change.alert, change.place);
+        else
+            takeOut(alerts, change.alert.subject);
     }
     m_list.show(alerts);
     Q_EMIT changed();
@@ -199,11 +203,10 @@ QCoro::Task<ApiResult<void>> AlertsStore::fetch(std::stop_token stop)
     LOOM_CO_TRY(body, co_await m_widget.post(QStringLiteral("/alerts"), {}, {}, stop));
     if (stop.stop_requested())
         co_return Unexpected(Failure(Cancelled()));
-    auto alerts = decodeJson(
-        body, [](const JsonReader& json) { return JsonReader::decodeEach(json.list("alerts"), decodeAlert); });
-    if (!alerts)
-        co_return apiFailure(APIError::Decoding{alerts.error()});
-    m_alerts = *std::move(alerts);
+    LOOM_CO_TRY(alerts, decodedAnswer(decodeJson(body, [](const JsonReader& json) {
+                    return JsonReader::decodeEach(json.list("alerts"), decodeAlert);
+                })));
+    m_alerts = std::move(alerts);
     showAll();
     co_return ApiResult<void>();
 }

@@ -91,10 +91,7 @@ QCoro::Task<ApiResult<SignedIn>> AuthAPI::signedIn(QString path, QJsonObject bod
                                                    SignedIn (*decode)(const JsonReader&), std::stop_token stop)
 {
     LOOM_CO_TRY(answer, co_await m_widget.post(path, body, anonymous, stop));
-    auto record = decodeJson(answer, decode);
-    if (!record)
-        co_return apiFailure(APIError::Decoding{record.error()});
-    co_return *std::move(record);
+    co_return decodedAnswer(decodeJson(answer, decode));
 }
 
 } // namespace loom

@@ -30,9 +30,8 @@ QCoro::Task<ApiResult<FetchedOrders>> OrdersAPI::orders(std::stop_token stop)
     auto answer = co_await QtConcurrent::run(readOrders, body);
     if (stop.stop_requested())
         co_return Unexpected(Failure(Cancelled()));
-    if (!answer)
-        co_return apiFailure(APIError::Decoding{answer.error()});
-    co_return FetchedOrders{.answer = *std::move(answer), .json = body};
+    LOOM_CO_TRY(orders, decodedAnswer(std::move(answer)));
+    co_return FetchedOrders{.answer = std::move(orders), .json = body};
 }
 
 QCoro::Task<ApiResult<TrackingAnswer>> OrdersAPI::track(QString number, QString carrier, std::stop_token stop)
@@ -44,9 +43,7 @@ QCoro::Task<ApiResult<TrackingAnswer>> OrdersAPI::track(QString number, QString 
     auto answer = co_await QtConcurrent::run(readTracking, body);
     if (stop.stop_requested())
         co_return Unexpected(Failure(Cancelled()));
-    if (!answer)
-        co_return apiFailure(APIError::Decoding{answer.error()});
-    co_return *std::move(answer);
+    co_return decodedAnswer(std::move(answer));
 }
 
 } // namespace loom

@@ -29,10 +29,8 @@ bool isBadInput(const APIError& error)
 
 ApiResult<Profile> readAnswer(const QByteArray& body)
 {
-    auto profile = decodeJson(body, [](const JsonReader& json) { return decodeProfile(json.object("profile")); });
-    if (!profile)
-        return apiFailure(APIError::Decoding{profile.error()});
-    return *std::move(profile);
+    return decodedAnswer(
+        decodeJson(body, [](const JsonReader& json) { return decodeProfile(json.object("profile")); }));
 }
 
 } // namespace

@@ -42,11 +42,6 @@ QString digitsOf(const QString& text)
     return digits;
 }
 
-bool hasControlCharacter(const QString& text)
-{
-    return std::ranges::any_of(text, [](QChar character) { return character.category() == QChar::Other_Control; });
-}
-
 } // namespace
 
 SignInModel::SignInModel(AuthStore& auth, Clock& clock, QObject* parent)
@@ -125,8 +120,7 @@ void SignInModel::setName(const QString& name)
 
 bool SignInModel::isEmailValid() const
 {
-    const QString email = m_email.trimmed();
-    return email.size() <= longestEmail && !hasControlCharacter(email) && isEmailAddress(email);
+    return isEmailAddress(m_email.trimmed());
 }
 
 int SignInModel::secondsToResend() const

@@ -46,7 +46,6 @@ class SignInModel final : public QObject
 public:
     static constexpr int codeLength = 6;
     static constexpr int leastPasswordLength = 6;
-    static constexpr int longestEmail = 254; ///< RFC 5321, 4.5.3.1.3, less the angle brackets
 
     SignInModel(AuthStore& auth, Clock& clock, QObject* parent = nullptr);
 

@@ -153,8 +153,6 @@ public:
     /// The models of pages; each belongs to `owner` and ends with it.
     [[nodiscard]] Q_INVOKABLE loom::CollectionModel* makeCollection(QObject* owner, const QString& handle,
                                                                     const QString& fallbackTitle);
-    /// A collection that is not looked at for itself, but as a rail on another page.
-    [[nodiscard]] Q_INVOKABLE loom::CollectionModel* makeRail(QObject* owner, const QString& handle);
     [[nodiscard]] Q_INVOKABLE loom::ProductModel* makeProduct(QObject* owner, const QString& handle,
                                                               const QVariant& item);
     [[nodiscard]] Q_INVOKABLE loom::SuggestionsModel* makeSuggestions(QObject* owner);

@@ -47,13 +47,6 @@ CollectionModel* AppModel::makeCollection(QObject* owner, const QString& handle,
     return new CollectionModel(handle, fallbackTitle, m_storefront, m_market, m_money, m_platform.clock, owner);
 }
 
-CollectionModel* AppModel::makeRail(QObject* owner, const QString& handle)
-{
-    if (auto* const begun = takeBegun<CollectionModel>(owner, handle))
-        return begun;
-    return new CollectionModel(handle, {}, m_storefront, m_market, m_money, m_platform.clock, owner);
-}
-
 ProductModel* AppModel::makeProduct(QObject* owner, const QString& handle, const QVariant& item)
 {
     if (auto* const begun = takeBegun<ProductModel>(owner, handle))

@@ -44,11 +44,4 @@ public:
     [[nodiscard]] virtual bool isEnabled(Feature feature) const = 0;
 };
 
-/// Every feature on: what holds while no store has said otherwise.
-class AllFeatures final : public FeatureGates
-{
-public:
-    [[nodiscard]] bool isEnabled(Feature) const override { return true; }
-};
-
 } // namespace loom

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/JsonReader.h"
+#include "catalog/Money.h"
 
 #include <QDateTime>
 #include <QJsonObject>
@@ -41,6 +42,8 @@ struct MarketRate {
 struct ConvertedAmount {
     QString text;
     QString currencyCode;
+
+    [[nodiscard]] Money money() const { return {.amount = text.toDouble(), .currencyCode = currencyCode}; }
 
     bool operator==(const ConvertedAmount&) const = default;
 };

@@ -77,9 +77,7 @@ QCoro::Task<ApiResult<ListingPage>> SearchModel::fetch(std::optional<QString> af
             m_usingStorefront = false;
             m_dollars.clear();
             m_summary = answer->summary;
-            m_aiCollections.clear();
-            for (SearchSuggestions::Collection& collection : answer->collections)
-                m_aiCollections.push_back({.handle = collection.handle, .title = collection.title});
+            m_aiCollections = std::move(answer->collections);
             ListingPage page = take(*std::move(answer));
             if (filtered)
                 page.filters = std::move(filtered->filters);
@@ -102,7 +100,7 @@ ListingPage SearchModel::take(AiSearchPage answer)
 {
     for (ProductListItem& item : answer.products) {
         m_dollars.insert(item.handle, item.price.amount);
-        item.price = inMarket(item.price.amount);
+        item.price = market().convertUSDollars(item.price.amount).money();
     }
     const auto shown = static_cast<qint64>(answer.products.size());
     return {.products = std::move(answer.products),
@@ -112,19 +110,13 @@ ListingPage SearchModel::take(AiSearchPage answer)
             .totalCount = answer.total && *answer.total >= shown ? answer.total : std::nullopt};
 }
 
-Money SearchModel::inMarket(double dollars) const
-{
-    const ConvertedAmount amount = market().convertUSDollars(dollars);
-    return {.amount = amount.text.toDouble(), .currencyCode = amount.currencyCode};
-}
-
 void SearchModel::convertPrices()
 {
     if (m_usingStorefront)
         return;
     std::vector<ProductListItem> items = products()->items();
     for (ProductListItem& item : items)
-        item.price = inMarket(m_dollars.value(item.handle, item.price.amount));
+        item.price = market().convertUSDollars(m_dollars.value(item.handle, item.price.amount)).money();
     products()->replace(std::move(items));
 }
 
@@ -167,9 +159,7 @@ QCoro::Task<> SearchModel::findCollections()
         m_collectionsRevision = -1; // the page does without, and the next load looks again
         co_return;
     }
-    m_collections.clear();
-    for (const SearchSuggestions::Collection& collection : found->collections)
-        m_collections.push_back({.handle = collection.handle, .title = collection.title});
+    m_collections = found->collections;
     Q_EMIT collectionsChanged();
 }
 

@@ -25,12 +25,7 @@ public:
     Q_ENUM(Order)
 
     /// A collection that the query leads to.
-    struct Collection {
-        QString handle;
-        QString title;
-
-        bool operator==(const Collection&) const = default;
-    };
+    using Collection = SearchSuggestions::Collection;
 
     SearchModel(const QString& query, StorefrontAPI& api, const MarketStore& market, const MoneyFormat& money,
                 const Clock& clock, QObject* parent = nullptr);
@@ -67,7 +62,6 @@ private:
     [[nodiscard]] QCoro::Task<ApiResult<AiSearchPage>> ask(int offset, std::stop_token stop);
     /// The page of the listing that an answer is.
     [[nodiscard]] ListingPage take(AiSearchPage answer);
-    [[nodiscard]] Money inMarket(double dollars) const;
     void convertPrices();
     void useStorefront();
     [[nodiscard]] QCoro::Task<> findCollections();

@@ -35,10 +35,7 @@ QCoro::Task<ApiResult<PreparedCheckout>> CheckoutAuth::prepare(QString cartID, Q
                                               {QStringLiteral("locale"), locale},
                                               {QStringLiteral("platform"), QStringLiteral("macos")}},
                                              {}, stop));
-    auto prepared = decodeJson(body, decodePrepared);
-    if (!prepared)
-        co_return apiFailure(APIError::Decoding{prepared.error()});
-    co_return *std::move(prepared);
+    co_return decodedAnswer(decodeJson(body, decodePrepared));
 }
 
 QCoro::Task<ApiResult<QByteArray>> CheckoutAuth::revoke(QString appToken, std::stop_token stop)

@@ -139,9 +139,7 @@ auto RecoAPI::get(QString path, Query query, std::chrono::milliseconds timeout, 
     auto record = co_await QtConcurrent::run([body, decode] { return decodeJson(body, decode); });
     if (stop.stop_requested())
         co_return Unexpected(Failure(Cancelled()));
-    if (!record)
-        co_return apiFailure(APIError::Decoding{record.error()});
-    co_return *std::move(record);
+    co_return decodedAnswer(std::move(record));
 }
 
 QString RecoAPI::viewed() const

@@ -82,10 +82,8 @@ PieceRow RecoCards::row(const RecoProduct& product) const
                  .seenPrice = {},
                  .state = PieceRow::State::Current};
     row.reason = row.item.recoReason.value_or(QString());
-    if (product.priceUSD > 0) {
-        const ConvertedAmount amount = m_services.market.convertUSDollars(product.priceUSD);
-        row.price = Money{.amount = amount.text.toDouble(), .currencyCode = amount.currencyCode};
-    }
+    if (product.priceUSD > 0)
+        row.price = m_services.market.convertUSDollars(product.priceUSD).money();
     return row;
 }
 

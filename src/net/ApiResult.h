@@ -46,4 +46,13 @@ template <typename Case>
     return Unexpected(Failure(APIError{std::move(error)}));
 }
 
+/// What was decoded from an answer, or the error that it could not be.
+template <typename Record>
+[[nodiscard]] ApiResult<Record> decodedAnswer(Result<Record, QString> record)
+{
+    if (!record)
+        return apiFailure(APIError::Decoding{std::move(record).error()});
+    return *std::move(record);
+}
+
 } // namespace loom

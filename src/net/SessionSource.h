@@ -22,14 +22,4 @@ public:
     virtual void tokenRefused(const QString& appToken) = 0;
 };
 
-/// Nobody is signed in.
-class NoSession final : public SessionSource
-{
-public:
-    [[nodiscard]] QString appToken() const override { return {}; }
-    [[nodiscard]] QString email() const override { return {}; }
-    [[nodiscard]] QString name() const override { return {}; }
-    void tokenRefused(const QString&) override {}
-};
-
 } // namespace loom

@@ -112,14 +112,11 @@ QCoro::Task<ApiResult<QByteArray>> WidgetClient::upload(QString path, QList<std:
 
 ApiResult<OKResponse> decodeOKResponse(const QByteArray& body)
 {
-    const auto record = decodeJson(body, [](const JsonReader& json) {
+    return decodedAnswer(decodeJson(body, [](const JsonReader& json) {
         if (!json.isObject())
             json.fail(QStringLiteral("expected an object"));
         return OKResponse{.code = json.optionalText("code"), .message = json.optionalText("message")};
-    });
-    if (!record)
-        return apiFailure(APIError::Decoding{record.error()});
-    return *record;
+    }));
 }
 
 APIError::Http backendError(int status, const QByteArray& body)

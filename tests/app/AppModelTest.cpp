@@ -94,7 +94,8 @@ TEST_F(AppModelTest, TheVisitorStaysTheSameAndIsMadeOnlyForReports)
     random.foretell(visitor);
     agreeToReports();
     static_cast<void>(model->makeProduct(&page, silk, {}));
-    static_cast<void>(model->makeRail(&page, finalSale)); // passed by, not looked at
+    static_cast<void>(
+        model->makeRecommendations(&page, QStringLiteral("collection"), finalSale, {})); // passed by, not looked at
     static_cast<void>(model->makeCollection(&page, newIn, {}));
     waitUntil([this] { return reports.size() == 2 && clock.sleepers() == 2; }, "both reports have come");
     reports.sort();

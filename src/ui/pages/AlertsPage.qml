@@ -156,32 +156,19 @@ PageBase {
             rowWidth: page.rowWidth
         }
     }
-    Toast {
-        id: undo
-
+    UndoBanner {
         readonly property int removed: page.alerts.removedCount
 
-        // What is taken out while the banner stands comes back with the rest, and begins its time anew.
-        onRemovedChanged: {
-            open = false
-            open = removed > 0
-        }
+        // What is taken out while the banner stands comes back with the rest.
+        onRemovedChanged: follow(removed > 0)
         objectName: "undoAlert"
+        inFront: page.shown
         anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.space1_5 }
         iconName: "bell"
-        duration: 10000
         title: removed === 1 ? page.alerts.removedTitle : qsTranslate("Loomstreet", "%1 alerts").arg(removed)
         text: removed === 1 ? qsTranslate("Loomstreet", "We won't email you about it.") : qsTranslate("Loomstreet", "We won't email you about them.")
-        actionText: qsTranslate("Loomstreet", "Undo")
         onActivated: page.alerts.undoRemoval()
         onDismissed: page.alerts.forgetRemoval()
-    }
-    // As the button does, without the way to it.
-    Shortcut {
-        sequence: "Ctrl+Z"
-        enabled: undo.open && page.shown
-        onActivated: undo.activated()
-        onActivatedAmbiguously: undo.activated()
     }
 
     readonly property int rowWidth: 760

@@ -194,31 +194,17 @@ PageBase {
             width: page.rowWidth
         }
     }
-    Toast {
-        id: undo
-
+    UndoBanner {
         readonly property string hidden: page.store.hiddenName
 
-        // Another one that is hidden while the banner stands begins its time anew.
-        onHiddenChanged: {
-            open = false
-            open = hidden !== ""
-        }
+        onHiddenChanged: follow(hidden !== "")
         objectName: "undoHiding"
+        inFront: page.shown
         anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.space1_5 }
         iconName: "eye.slash"
-        duration: 10000
         title: hidden
         text: qsTranslate("Loomstreet", "Hidden from your orders on this computer.")
-        actionText: qsTranslate("Loomstreet", "Undo")
         onActivated: page.store.undoHiding()
         onDismissed: page.store.forgetHiding()
-    }
-    // As the button does, without the way to it.
-    Shortcut {
-        sequence: "Ctrl+Z"
-        enabled: undo.open && page.shown
-        onActivated: undo.activated()
-        onActivatedAmbiguously: undo.activated()
     }
 }
