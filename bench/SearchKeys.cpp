@@ -18,11 +18,12 @@ using namespace loom;
 namespace
 {
 
-/// Never offline; and never asked, because no answer is waited for.
+/// Never offline nor dear; and never asked, because no answer is waited for.
 class Network final : public NetworkStatus
 {
 public:
     [[nodiscard]] bool isOffline() const override { return false; }
+    [[nodiscard]] bool isMetered() const override { return false; }
 };
 
 std::vector<ProductHit> pieces(int count, const char* kept)

@@ -4,10 +4,13 @@
 #include "base/SystemClock.h"
 #include "platform/BrowserOpening.h"
 #include "platform/DesktopAppearance.h"
+#include "platform/FreedesktopNotifications.h"
 #include "platform/KeychainSecureStore.h"
 #include "platform/LaunchOptions.h"
+#include "platform/LauncherEntryBadge.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemLocaleReading.h"
+#include "platform/SystemLocation.h"
 #include "platform/SystemNetworkStatus.h"
 #include "platform/WindowActivation.h"
 #include "services/CopyTranslator.h"
@@ -80,6 +83,17 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
     SystemClock clock;
     SystemRandom random;
     SystemNetworkStatus network;
+    SystemLocation location(applicationID);
+    FreedesktopNotifications notifications(applicationID);
+    LauncherEntryBadge badge(applicationID);
+    // Connected before the model is, whose windows come forward in the name of the click.
+    WindowActivation comingForward;
+    const auto followClick = [&comingForward](const QString& token) {
+        comingForward.follow(Activation{.links = {}, .action = {}, .startupId = token, .activationToken = token});
+    };
+    QObject::connect(&notifications, &DesktopNotifications::activated, &notifications,
+                     [followClick](const QMap<QString, QString>&, const QString& token) { followClick(token); });
+    QObject::connect(&notifications, &DesktopNotifications::settingsRequested, &notifications, followClick);
     AppModel model(config, {.clock = clock,
                             .random = random,
                             .network = network,
@@ -90,7 +104,10 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
                             .makeSystemSecrets =
                                 [] {
                                     return std::make_unique<KeychainSecureStore>();
-                                }});
+                                },
+                            .location = location,
+                            .desktopNotifications = notifications,
+                            .launcherBadge = badge});
     WindowManager windows(engine, model, appearance);
     model.setWindowHost(&windows);
     // Behind every other translator, so that it is asked first.
@@ -99,7 +116,6 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
     QObject::connect(&copy, &CopyTranslator::changed, &windows, &WindowManager::retranslate);
     AppLifecycle lifecycle(model, windows, clock);
 
-    WindowActivation comingForward;
     windows.setActivate([&comingForward](QWindow& window) { comingForward.activate(window); });
     QObject::connect(&instance, &SingleInstance::activated, &lifecycle, [&](const Activation& activation) {
         comingForward.follow(activation);

@@ -20,6 +20,9 @@ import { CheckoutSite } from './checkout/site.mjs';
 import { configControls } from './config/controls.mjs';
 import { RemoteConfig } from './config/remoteConfig.mjs';
 import { domain, hostNames, hosts, storefrontToken, supportKey } from './hosts.mjs';
+import { notificationControls } from './notifications/controls.mjs';
+import { Happenings } from './notifications/happenings.mjs';
+import { Notifications } from './notifications/notifications.mjs';
 import { Alerts } from './orders/alerts.mjs';
 import { Orders } from './orders/orders.mjs';
 import { pastAlertsAt, pastAt } from './orders/past.mjs';
@@ -38,6 +41,12 @@ import { createSecureStore } from './server/secure.mjs';
 import { ShopSite } from './shop.mjs';
 import { Carts } from './storefront/carts.mjs';
 import { StorefrontSite } from './storefront/site.mjs';
+import { stylistControls } from './stylist/controls.mjs';
+import { Stylist } from './stylist/stylist.mjs';
+import { supportControls } from './support/controls.mjs';
+import { Conversations } from './support/conversations.mjs';
+import { SupportFiles } from './support/files.mjs';
+import { SupportSettings } from './support/settings.mjs';
 import { BareWebSite, WebSite } from './web/site.mjs';
 
 /**
@@ -62,17 +71,23 @@ export async function startStore({
   const handOvers = new HandOvers();
   const orders = new Orders({ checkouts, now, past: () => pastAt(catalog, startedAt) });
   const alerts = new Alerts({ catalog, now, past: () => pastAlertsAt(startedAt) });
-  const stock = new Stock(catalog);
-  const prices = new Prices(catalog);
+  const notifications = new Notifications({ now, startedAt });
+  const happenings = new Happenings({ accounts: signIns.accounts, alerts, catalog, notifications, orders, wishlists });
+  const stock = new Stock(catalog, { changed: () => happenings.lookForAll() });
+  const prices = new Prices(catalog, { changed: (piece, before) => happenings.priceChanged(piece, before) });
+  const supportSettings = new SupportSettings();
+  const supportFiles = new SupportFiles();
+  const conversations = new Conversations({ now, startedAt, settings: supportSettings, orders });
   const pictures = new PictureSite({ catalog, studio: new Studio(join(stateDir, 'pictures')), journal });
   const storefront = new StorefrontSite({ catalog, carts, checkoutUrl: (cart) => checkoutUrl(cart, settings.values), journal });
   const pages = new CheckoutSite({ carts, checkouts, customers, settings, journal });
   const recommender = new Recommender({ catalog, seed });
   const recoModes = new RecoModes();
   const remoteConfig = new RemoteConfig({ startedAt });
+  const stylist = new Stylist({ catalog, orders, index: () => storefront.index, seed, now });
   const backend = {
-    ...signIns, alerts, carts, catalog, customers, handOvers, orders, recoModes, recommender, remoteConfig, settings, tracker, wishlists,
-    sentenceSearch: new SentenceSearch({ catalog, recommender, index: () => storefront.index }),
+    ...signIns, alerts, conversations, happenings, notifications, supportFiles, carts, catalog, customers, handOvers, orders, recoModes, recommender, remoteConfig, settings, tracker, wishlists,
+    stylist, sentenceSearch: new SentenceSearch({ catalog, recommender, index: () => storefront.index }),
   };
   const sites = new Map([
     [hosts.shop, new ShopSite({ storefront, checkout: pages })],
@@ -86,7 +101,7 @@ export async function startStore({
   const reset = () => {
     const kept = [
       faults, carts, checkouts, handOvers, stock, prices, settings, ...Object.values(signIns), orders, alerts, tracker, wishlists, recoModes,
-      remoteConfig, journal,
+      remoteConfig, journal, supportSettings, supportFiles, conversations, notifications, happenings, stylist,
     ];
     kept.forEach((part) => part.clear());
     pages.release();
@@ -99,6 +114,9 @@ export async function startStore({
     ...accountControls({ ...signIns, orders, faults }),
     ...recoControls({ recoModes }),
     ...configControls({ remoteConfig }),
+    ...stylistControls({ stylist, faults }),
+    ...notificationControls({ accounts: signIns.accounts, notifications }),
+    ...supportControls({ conversations, supportSettings }),
   };
   const control = createControl({ journal, faults, tracker, wishlists, more, reset });
   const [proxyPort, ownControlPort] = await Promise.all([listen(proxy, port), listen(control, controlPort)]);

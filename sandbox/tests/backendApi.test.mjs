@@ -6,6 +6,7 @@ import { widgetPrefix } from '../src/backend/site.mjs';
 import { endpoints } from '../src/backend/endpoints/index.mjs';
 import { Description, valuesOf } from './support/description.mjs';
 import { Member } from './support/member.mjs';
+import { multipart } from './support/multipart.mjs';
 import { Shopper } from './support/shopper.mjs';
 import { storeForTests } from './support/store.mjs';
 
@@ -37,13 +38,13 @@ test('what is described is served, and what is served or called by the applicati
 });
 
 test('every example is answered as described', async () => {
-  for (const { path, method, requests, parameters, responses } of description.operations) {
+  for (const { path, method, type, requests, parameters, responses } of description.operations) {
     const tried = method === 'GET' ? [['query', Object.fromEntries(parameters.map(({ name, example }) => [name, example]))]] : requests;
     assert.ok(tried.length > 0, path);
     for (const [name, example] of tried) {
       await client.control('POST', '/reset');
       const input = await inserted(path, example);
-      assertDescribed(await send(path, method, input), responses, `${path} "${name}"`, (status) => status < 400);
+      assertDescribed(await send(path, method, input, type), responses, `${path} "${name}"`, (status) => status < 400);
       assert.deepEqual((await client.control('GET', '/unexpected')).value, []);
     }
   }
@@ -72,6 +73,10 @@ const ways = {
       for (let count = 0; count < 5; count += 1) await member.call('/app-auth/login', { email: ines, password: 'wrong' });
       return {};
     },
+    '/message': async () => {
+      await client.control('POST', '/stylist', { fail: { path: '/message', status: 429, code: 'RATE_LIMITED' } });
+      return {};
+    },
   },
   BAD_INPUT: {
     '/app-auth/login': () => ({ password: '' }),
@@ -90,6 +95,15 @@ const ways = {
     '/shopify-checkout/prepare': () => ({ locale: 'english' }),
     '/shopify-checkout/revoke': () => ({ appToken: 7 }),
     '/wishlist-sync': () => ({ items: [{}] }),
+    '/notifications': () => ({ cursor: 'none' }),
+    '/notifications-read': () => ({ all: undefined, ids: [7] }),
+    '/init': () => ({ visitorToken: 7 }),
+    '/message': () => ({ body: ' ' }),
+    '/size-reco': () => ({ handle: '' }),
+    '/weather': () => ({ city: '', latitude: 91 }),
+    '/support-message': () => ({ body: ' ' }),
+    '/support-upload': () => ({ clientID: '' }),
+    '/support-read': () => ({ upTo: 7 }),
     null: () => ({ cc: 'short' }),
   },
   NOT_FOUND: {
@@ -99,20 +113,30 @@ const ways = {
     '/alerts-remove': () => ({ id: 'a0' }),
     '/reco': () => ({ kind: 'collection', handle: 'no-such-collection' }),
     '/pdp-reco': () => ({ handle: 'no-such-piece' }),
+    '/message': () => ({ visitorToken: 'guess', appToken: undefined }),
+    '/size-reco': () => ({ handle: 'no-such-piece' }),
+    '/weather': () => ({ city: 'Atlantis' }),
+    '/support-init': () => ({ visitorToken: 'guess' }),
+    '/support-message': () => ({ visitorToken: 'guess' }),
+    '/support-upload': () => ({ visitorToken: 'guess' }),
+    '/support-replies': () => ({ visitorToken: 'guess' }),
+    '/support-read': () => ({ visitorToken: 'guess' }),
     '/shopify-checkout/prepare': () => ({ cartId: 'gid://shopify/Cart/none?key=none' }),
   },
+  TOO_LARGE: { null: () => ({ file: `%PDF${' '.repeat(10 * 1024 * 1024)}` }) },
+  UNSUPPORTED_TYPE: { null: () => ({ file: 'Dear Sir or Madam' }) },
   CHECKOUT_AUTH_UNAVAILABLE: { '/shopify-checkout/prepare': () => ({ appToken: undefined }) },
 };
 
 test('every failure that is named for a call can be had from it, as described', async () => {
-  for (const { path, method, requests, parameters, responses } of description.operations) {
+  for (const { path, method, type, requests, parameters, responses } of description.operations) {
     const example = requests.at(-1)?.[1] ?? Object.fromEntries(parameters.map((parameter) => [parameter.name, parameter.example]));
     for (const [status, code] of namedFailures(responses)) {
       await client.control('POST', '/reset');
       const way = ways[code][path.slice(widgetPrefix.length)] ?? ways[code].null;
       assert.ok(way, `a way to ${code} of ${path}`);
       const input = await inserted(path, example);
-      const answer = await send(path, method, { ...input, ...(await way(input)) });
+      const answer = await send(path, method, { ...input, ...(await way(input)) }, type);
       assert.deepEqual([answer.status, answer.json().code], [Number(status), code], path);
       assertDescribed(answer, responses, `${path} ${code}`, () => true);
     }
@@ -136,9 +160,15 @@ function assertDescribed(answer, responses, context, expected) {
   if (type === 'application/json') assert.deepEqual(description.problems(content[type].schema, answer.json()), [], context);
 }
 
-function send(path, method, input) {
+function send(path, method, input, type) {
+  if (type === 'multipart/form-data') return sendForm(path, input);
   if (method === 'POST') return client.backend(path, input);
   return client.request(`${ready.supportBase}${path}?${new URLSearchParams(input)}`);
+}
+
+function sendForm(path, { file, ...fields }) {
+  const { type, body } = multipart(fields, { file: { name: 'file', type: 'application/octet-stream', bytes: Buffer.from(file) } });
+  return client.request(`${ready.supportBase}${path}`, { method: 'POST', headers: { 'content-type': type }, body });
 }
 
 /** The example with what only this store can know: its key, a session, a code that was sent, a cart. */
@@ -148,6 +178,7 @@ async function inserted(path, example) {
   if ('publicKey' in input) input.publicKey = publicKey;
   if ('appToken' in input) input.appToken = (await member.signIn()).token;
   if ('cartId' in input) input.cartId = (await shopper.cart(catalog.piece('odile-tiered-dress').variants[0].id)).id;
+  if ('visitorToken' in input) input.visitorToken = (await member.call(path.includes('/support-') ? '/support-init' : '/init')).visitorToken;
   if (withCode) input.code = await member.code(input.email);
   else if (path.endsWith('/exchange')) input.code = (await member.provider('google', { verifier: input.verifier })).get('code');
   else if (path.endsWith('/start') && 'code' in input) input.code = (await member.handOver(await inserted(path, { cartId: '' }))).code;
@@ -158,7 +189,7 @@ async function inserted(path, example) {
 function calledPaths() {
   const sources = new URL('../../src/', import.meta.url);
   const files = readdirSync(sources, { recursive: true }).filter((name) => name.endsWith('.cpp'));
-  const posts = /(?:\.post|\bsignedIn|\bpost)\(\s*QStringLiteral\("(\/[^"]+)"\)/g;
+  const posts = /(?:\.post|\bsignedIn|\bpost|\.upload|\bask)\((?:m_widget,)?\s*QStringLiteral\("(\/[^"]+)"\)/g;
   const reads = /(?:\.|->)get\(\s*QStringLiteral\("(\/[^"]+)"\)/g;
   return files.flatMap((name) => {
     const text = readFileSync(new URL(name, sources), 'utf8');

@@ -14,4 +14,8 @@ struct Customer {
     bool operator==(const Customer&) const = default;
 };
 
+/// What tells this customer from any other: the platform's number, or where that is not known what stands for the
+/// address, which is not to be had from it.
+[[nodiscard]] QString accountIDOf(const Customer& customer);
+
 } // namespace loom

@@ -167,6 +167,12 @@ void AppCommands::perform(AppCommand::Id id)
     case AppCommand::Id::ShoppingBag:
         m_session.setCartOpen(!m_session.isCartOpen());
         break;
+    case AppCommand::Id::Notifications:
+        m_session.setInboxOpen(!m_session.isInboxOpen());
+        break;
+    case AppCommand::Id::Mira:
+        m_session.setMiraDocked(!m_session.isMiraDocked());
+        break;
     case AppCommand::Id::Footprints:
         m_session.setHistoryOpen(!m_session.isHistoryOpen());
         break;
@@ -175,6 +181,9 @@ void AppCommands::perform(AppCommand::Id id)
         break;
     case AppCommand::Id::ToggleFullScreen:
         m_session.setWindowFullScreen(!m_session.isWindowFullScreen());
+        break;
+    case AppCommand::Id::CustomerService:
+        m_session.setSupportOpen(true);
         break;
     case AppCommand::Id::HelpCenter:
         tab->openStorePage(QStringLiteral("/pages/help-center"),

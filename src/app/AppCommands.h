@@ -42,9 +42,12 @@ enum class Id {
     Search,
     SearchByImage,
     ShoppingBag,
+    Notifications,
     Footprints,
+    Mira,
     ToggleSidebar,
     ToggleFullScreen,
+    CustomerService,
     HelpCenter,
     Agreements,
 };
@@ -64,7 +67,7 @@ struct AppCommandEntry {
 };
 
 /// The commands in the order of their menus.
-inline constexpr std::array<AppCommandEntry, 29> appCommandEntries{{
+inline constexpr std::array<AppCommandEntry, 32> appCommandEntries{{
     {AppCommand::Id::NewTab, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "New Tab")}, {"Ctrl+T"}},
     {AppCommand::Id::NewWindow, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "New Window")}, {"Ctrl+N"}},
     {AppCommand::Id::CloseTab, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "Close Tab")}, {"Ctrl+W"}},
@@ -118,7 +121,12 @@ inline constexpr std::array<AppCommandEntry, 29> appCommandEntries{{
      AppCommand::Menu::View,
      {QT_TRANSLATE_NOOP("Loomstreet", "Shopping bag")},
      {"Ctrl+Shift+B"}},
+    {AppCommand::Id::Notifications,
+     AppCommand::Menu::View,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Notifications")},
+     {"Ctrl+Shift+I"}},
     {AppCommand::Id::Footprints, AppCommand::Menu::View, {QT_TRANSLATE_NOOP("Loomstreet", "Footprints")}, {"Ctrl+H"}},
+    {AppCommand::Id::Mira, AppCommand::Menu::View, {QT_TRANSLATE_NOOP("Loomstreet", "Mira")}, {"Ctrl+Shift+M"}},
     {AppCommand::Id::ToggleSidebar,
      AppCommand::Menu::View,
      {QT_TRANSLATE_NOOP("Loomstreet", "Collapse Sidebar")},
@@ -155,6 +163,10 @@ inline constexpr std::array<AppCommandEntry, 29> appCommandEntries{{
      AppCommand::Menu::Go,
      {QT_TRANSLATE_NOOP("Loomstreet", "Previous Tab")},
      {"Ctrl+Shift+Tab"}},
+    {AppCommand::Id::CustomerService,
+     AppCommand::Menu::Help,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Customer Service")},
+     {"Shift+F1"}},
     {AppCommand::Id::HelpCenter,
      AppCommand::Menu::Help,
      {QT_TRANSLATE_NOOP("Loomstreet", "LOOMSTREET Help Center")},

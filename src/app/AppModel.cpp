@@ -74,12 +74,59 @@ AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
     , m_recentlyViewed(m_folder, m_platform.clock)
     , m_notInterested(m_folder)
     , m_reco(
-          m_auth.widget(), m_market, [this] { return recoIdentity(); }, [this] { return sessionViewed(); })
+          m_auth.widget(), m_market, [this] { return callerIdentity(); }, [this] { return sessionViewed(); })
     , m_recoSaving(m_wishlist, m_storefront)
     , m_signIn(m_auth, m_platform.clock)
     , m_orders(m_auth, m_announcements, m_auth.widget(), m_folder, m_platform.clock)
     , m_profile(m_auth, m_announcements, m_auth.widget(), m_folder, m_market, m_platform.clock)
     , m_alerts(m_auth, m_announcements, m_auth.widget(), m_money)
+    , m_miraAPI(m_auth.widget(), [this] { return callerIdentity(); })
+    , m_sizeAPI(m_auth.widget(), [this] { return callerIdentity(); })
+    , m_weather({.widget = m_auth.widget(),
+                 .location = m_platform.location,
+                 .folder = m_folder,
+                 .preferences = m_preferences,
+                 .clock = m_platform.clock})
+    , m_mira({.api = m_miraAPI,
+              .storefront = m_storefront,
+              .market = m_market,
+              .money = m_money,
+              .dates = m_dates,
+              .cart = m_cart,
+              .wishlist = m_wishlist,
+              .weather = m_weather,
+              .announcements = m_announcements,
+              .folder = m_folder,
+              .preferences = m_preferences,
+              .clock = m_platform.clock,
+              .random = m_platform.random})
+    , m_measurements(m_folder, m_preferences)
+    , m_supportAPI(m_auth.widget(), [this] { return callerIdentity(); })
+    , m_support({.api = m_supportAPI,
+                 .dates = m_dates,
+                 .folder = m_folder,
+                 .clock = m_platform.clock,
+                 .random = m_platform.random,
+                 .language = [this] { return appLanguageCode(m_market.context().language); },
+                 .openExternally = m_platform.openExternally})
+    , m_news({.auth = m_auth,
+              .announcements = m_announcements,
+              .folder = m_folder,
+              .preferences = m_preferences,
+              .clock = m_platform.clock,
+              .random = m_platform.random,
+              .network = m_platform.network,
+              .desktop = m_platform.desktopNotifications,
+              .launcher = m_platform.launcherBadge,
+              .support = {.replies = [this](std::stop_token stop) { return supportReplies(stop); },
+                          .isOnScreen =
+                              [this] {
+                                  return m_support.isOnScreen();
+                              }},
+              .hasOpenWindow =
+                  [this] {
+                      return !m_sessions.empty();
+                  }})
     , m_closedTabs(m_folder)
     , m_services{.clock = m_platform.clock,
                  .random = m_platform.random,
@@ -93,6 +140,7 @@ AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
     , m_savedWindows(m_folder, m_platform.clock, [this] { return windowStates(); })
 {
     connectStores();
+    connectNews();
     m_wishlist.load();
     m_recentlyViewed.load();
     m_auth.load();
@@ -105,8 +153,10 @@ void AppModel::connectStores()
     connect(&m_market, &MarketStore::revisionChanged, &m_cart, &CartStore::syncBuyerCountry);
     // A rate that grew old while nobody looked is measured again when somebody does.
     connect(&m_session, &AppSession::isActiveChanged, &m_market, [this] {
-        if (m_session.isActive() && m_didBootstrap)
-            m_market.refreshRate();
+        if (!m_session.isActive() || !m_didBootstrap)
+            return;
+        m_market.refreshRate();
+        m_weather.refresh();
     });
     connect(&m_session, &AppSession::isOfflineChanged, &m_market, [this] {
         if (m_session.isOffline())
@@ -124,6 +174,8 @@ void AppModel::connectStores()
     };
     follow();
     connect(&m_market, &MarketStore::revisionChanged, &m_remoteConfig, follow);
+    // Later: by then the texts are looked up anew.
+    connect(&m_remoteConfig, &RemoteConfig::copyChanged, &m_texts, &TextChanges::changed, Qt::QueuedConnection);
     connect(&m_remoteConfig, &RemoteConfig::featuresChanged, this, [this] {
         for (const auto& session : m_sessions)
             session->resolvePagesAgain();
@@ -142,6 +194,10 @@ void AppModel::connectStores()
             if (names.contains(kept->fileName()))
                 kept->forget();
         }
+        m_mira.forget(names);
+        m_support.forget(names);
+        if (names.contains(RemovalGroups::stylist().first()))
+            m_measurements.forget();
         // What was recommended to a customer is nobody else's affair.
         if (names.contains(RemovalGroups::account().first()))
             m_folder.remove(HomeModel::snapshot);
@@ -149,6 +205,7 @@ void AppModel::connectStores()
     connect(&m_auth, &AuthStore::sessionChanged, this, [this] {
         if (!m_auth.isSignedIn())
             return;
+        m_mira.followSession();
         for (const auto& session : m_sessions)
             session->setSignInPresented(false);
     });
@@ -159,9 +216,58 @@ void AppModel::connectStores()
     });
     connect(&m_checkout, &CheckoutStarter::opened, this, [this] { m_tracker.report(Tracker::CheckoutOpened{}); });
     connect(&m_checkout, &CheckoutStarter::ready, this, [this](CheckoutModel* checkout) {
+        connect(checkout, &CheckoutModel::orderPlaced, &m_news,
+                [this](const QString& number) { m_news.notifier().deliverOrderPlaced(number); });
         if (m_windows)
             m_windows->showCheckout(*checkout);
     });
+}
+
+void AppModel::connectNews()
+{
+    connect(&m_session, &AppSession::isActiveChanged, &m_news, [this] {
+        if (m_session.isActive() && m_didBootstrap)
+            m_news.notifier().check();
+    });
+    connect(&m_news.banners(), &NotificationBannerCenter::opened, this,
+            [this](const AppNotification& news, int window) {
+                if (auto* const session = qobject_cast<WindowSession*>(m_news.banners().hostOf(window)))
+                    openNews(*session, news);
+            });
+    connect(&m_news.notifier(), &DesktopNotifier::opened, this, [this](const AppNotification& news) {
+        WindowSession& session = *frontSession();
+        m_windows->raise(session);
+        openNews(session, news);
+    });
+    connect(&m_news.notifier(), &DesktopNotifier::settingsRequested, this,
+            [this] { showSettings(QStringLiteral("notifications")); });
+}
+
+QCoro::Task<ApiResult<std::vector<SupportReply>>> AppModel::supportReplies(std::stop_token stop)
+{
+    const ApiResult<std::vector<SupportMessage>> messages = co_await m_support.newReplies(stop);
+    if (!messages)
+        co_return Unexpected(messages.error());
+    std::vector<SupportReply> replies;
+    for (const SupportMessage& message : *messages)
+        replies.push_back({.messageID = message.id, .text = message.body, .date = message.createdAt});
+    co_return replies;
+}
+
+void AppModel::retranslate()
+{
+    m_mira.thread()->retranslate();
+    m_support.retranslate();
+    m_news.settings().retranslate();
+}
+
+void AppModel::openNews(WindowSession& session, const AppNotification& news)
+{
+    // Own notices and the account's name the conversation alike, and carry no link to it.
+    if (news.type == QLatin1String("support") || news.type == QLatin1String("support_reply"))
+        session.setSupportOpen(true);
+    else if (!news.link.isEmpty())
+        session.selected()->openNotice(news.link);
 }
 
 bool AppModel::claim(const QString& key)
@@ -179,6 +285,7 @@ void AppModel::bootstrap()
     m_market.load();
     m_cart.refresh();
     m_remoteConfig.start();
+    m_news.notifier().start();
     m_tracker.report(Tracker::AppOpened{});
 }
 

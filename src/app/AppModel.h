@@ -15,10 +15,12 @@
 #include "app/AppSession.h"
 #include "app/AppSettings.h"
 #include "app/ClosedTabs.h"
+#include "app/NewsDesk.h"
 #include "app/SavedWindows.h"
 #include "app/WindowServices.h"
 #include "app/WindowSession.h"
 #include "base/Announcements.h"
+#include "base/TextChanges.h"
 #include "catalog/BrandsModel.h"
 #include "catalog/CollectionModel.h"
 #include "catalog/CollectionTilesModel.h"
@@ -44,13 +46,24 @@
 #include "discovery/ProductCompanions.h"
 #include "discovery/RecoRail.h"
 #include "discovery/RecoSaving.h"
+#include "net/CallerIdentity.h"
 #include "net/HttpTransport.h"
 #include "net/Tracker.h"
+#include "notify/NotificationsModel.h"
 #include "services/RemoteConfig.h"
 #include "services/ToolsModel.h"
 #include "storage/ChosenSecureStore.h"
 #include "storage/DataFolder.h"
 #include "storage/Preferences.h"
+#include "stylist/MeasurementsModel.h"
+#include "stylist/MiraAPI.h"
+#include "stylist/MiraChatModel.h"
+#include "stylist/MiraLookModel.h"
+#include "stylist/MiraSizeAPI.h"
+#include "stylist/MiraWeatherStore.h"
+#include "stylist/SizeAdviceModel.h"
+#include "support/SupportAPI.h"
+#include "support/SupportChatModel.h"
 
 #include <QSet>
 
@@ -70,6 +83,9 @@ struct AppPlatform {
     std::function<Qt::KeyboardModifiers()> heldKeys;
     /// Makes the system's credential store; null, or nothing to make one, where there is none.
     std::function<std::unique_ptr<SecureStore>()> makeSystemSecrets;
+    LocationSource& location;
+    DesktopNotifications& desktopNotifications;
+    LauncherBadge& launcherBadge;
 };
 
 /// The root: creates every long-lived client and store once, in order, hands each what it needs, and owns the open
@@ -90,6 +106,14 @@ class AppModel final : public QObject
     Q_PROPERTY(loom::RecentlyViewedStore* recentlyViewed READ recentlyViewed CONSTANT)
     Q_PROPERTY(loom::RemoteConfig* remoteConfig READ remoteConfig CONSTANT)
     Q_PROPERTY(loom::NotInterested* notInterested READ notInterested CONSTANT)
+    Q_PROPERTY(loom::MiraChatModel* mira READ mira CONSTANT)
+    Q_PROPERTY(loom::MiraWeatherStore* weather READ weather CONSTANT)
+    Q_PROPERTY(loom::MeasurementsModel* measurements READ measurements CONSTANT)
+    Q_PROPERTY(loom::SupportChatModel* support READ support CONSTANT)
+    Q_PROPERTY(loom::DesktopNotifier* notifier READ notifier CONSTANT)
+    Q_PROPERTY(loom::NotificationBannerCenter* banners READ banners CONSTANT)
+    Q_PROPERTY(loom::NotificationBadge* badge READ badge CONSTANT)
+    Q_PROPERTY(loom::NotificationSettings* notificationSettings READ notificationSettings CONSTANT)
     Q_PROPERTY(loom::AppSession* session READ session CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QString storeWebAddress READ storeWebAddress CONSTANT)
@@ -106,6 +130,14 @@ public:
     [[nodiscard]] OrdersStore* orders() { return &m_orders; }
     [[nodiscard]] ProfileStore* profile() { return &m_profile; }
     [[nodiscard]] AlertsStore* alerts() { return &m_alerts; }
+    [[nodiscard]] MiraChatModel* mira() { return &m_mira; }
+    [[nodiscard]] MiraWeatherStore* weather() { return &m_weather; }
+    [[nodiscard]] MeasurementsModel* measurements() { return &m_measurements; }
+    [[nodiscard]] SupportChatModel* support() { return &m_support; }
+    [[nodiscard]] DesktopNotifier* notifier() { return &m_news.notifier(); }
+    [[nodiscard]] NotificationBannerCenter* banners() { return &m_news.banners(); }
+    [[nodiscard]] NotificationBadge* badge() { return &m_news.badge(); }
+    [[nodiscard]] NotificationSettings* notificationSettings() { return &m_news.settings(); }
     [[nodiscard]] AppSession* session() { return &m_session; }
     [[nodiscard]] RemoteConfig* remoteConfig() { return &m_remoteConfig; }
     [[nodiscard]] NotInterested* notInterested() { return &m_notInterested; }
@@ -125,6 +157,9 @@ public:
 
     /// True for the first who asks in this process.
     [[nodiscard]] bool claim(const QString& key);
+
+    /// The windows speak another language now.
+    void retranslate();
 
     /// What has to be begun once per process, however many windows are opened.
     void bootstrap();
@@ -173,6 +208,10 @@ public:
     [[nodiscard]] Q_INVOKABLE loom::BuyModel* makeBuying(QObject* owner, loom::ProductModel* product);
     /// What such a page offers to tell the shopper of.
     [[nodiscard]] Q_INVOKABLE loom::ProductAlerts* makeProductAlerts(QObject* owner, loom::ProductModel* product);
+    /// A look of these pieces on its way into the bag.
+    [[nodiscard]] Q_INVOKABLE loom::MiraLookModel* makeLook(QObject* owner, const QStringList& handles);
+    /// The size for the shopper beside those of a product's page.
+    [[nodiscard]] Q_INVOKABLE loom::SizeAdviceModel* makeSizeAdvice(QObject* owner, loom::ProductModel* product);
     [[nodiscard]] Q_INVOKABLE loom::KeptPiecesModel* makeWishlist(QObject* owner);
     [[nodiscard]] Q_INVOKABLE loom::KeptPiecesModel* makeRecentlyViewed(QObject* owner);
     [[nodiscard]] Q_INVOKABLE loom::PriceDropsModel* makePriceDrops(QObject* owner);
@@ -184,8 +223,14 @@ public:
     /// Both may be empty.
     [[nodiscard]] Q_INVOKABLE loom::TrackingModel* makeTracking(QObject* owner, const QString& number,
                                                                 const QString& carrier);
+    [[nodiscard]] Q_INVOKABLE loom::NotificationsModel* makeInbox(QObject* owner);
     [[nodiscard]] Q_INVOKABLE loom::AppCommands* makeCommands(QObject* owner, loom::WindowSession* session);
 
+    /// Shows the stylist in a window of her own, and brings her back beside the page of the window in front.
+    Q_INVOKABLE void showMira();
+    Q_INVOKABLE void dockMira();
+    /// The window in which to open what a window without pages leads to; made where there is none.
+    [[nodiscard]] Q_INVOKABLE loom::WindowSession* frontSession();
     /// Opens the settings at the page of this name.
     Q_INVOKABLE void showSettings(const QString& page);
     /// Where a picture of the window taken now is to be saved.
@@ -202,13 +247,16 @@ private:
     void beginFirstPage(const WindowSession& session);
     /// Who tells whom.
     void connectStores();
+    void connectNews();
+    [[nodiscard]] QCoro::Task<ApiResult<std::vector<SupportReply>>> supportReplies(std::stop_token stop);
+    static void openNews(WindowSession& session, const AppNotification& news);
     void takePendingCheckout(WindowSession& session);
     /// What the shopper has seen, then what they keep.
     [[nodiscard]] std::vector<ProductHit> knownPieces() const;
     WindowSession& show(std::unique_ptr<WindowSession> session);
     [[nodiscard]] std::vector<WindowState> windowStates() const;
     [[nodiscard]] RecoServices recoServices();
-    [[nodiscard]] RecoIdentity recoIdentity();
+    [[nodiscard]] CallerIdentity callerIdentity();
     [[nodiscard]] QStringList sessionViewed() const;
     /// What the models of kept pieces need.
     [[nodiscard]] KeptPiecesModel::Services keptServices();
@@ -241,12 +289,21 @@ private:
     WishlistStore m_wishlist;
     RecentlyViewedStore m_recentlyViewed;
     NotInterested m_notInterested;
+    TextChanges m_texts;
     RecoAPI m_reco;
     RecoSaving m_recoSaving;
     SignInModel m_signIn;
     OrdersStore m_orders;
     ProfileStore m_profile;
     AlertsStore m_alerts;
+    MiraAPI m_miraAPI;
+    MiraSizeAPI m_sizeAPI;
+    MiraWeatherStore m_weather;
+    MiraChatModel m_mira;
+    MeasurementsModel m_measurements;
+    SupportAPI m_supportAPI;
+    SupportChatModel m_support;
+    NewsDesk m_news;
     bool m_didBootstrap = false;
     ClosedTabs m_closedTabs;
     WindowServices m_services;

@@ -22,6 +22,24 @@ QStringList allCollections()
     return handles;
 }
 
+/// What an owner was given before: a binding of a page asks again whenever texts change.
+template <typename Model>
+Model* given(const QObject* owner, const QString& name = {})
+{
+    return owner ? owner->findChild<Model*>(name, Qt::FindDirectChildrenOnly) : nullptr;
+}
+
+MarketChoicesModel* choices(QObject* owner, MarketChoicesModel::Kind kind, MarketStore& market)
+{
+    const QString name =
+        kind == MarketChoicesModel::Countries ? QStringLiteral("countries") : QStringLiteral("languages");
+    if (auto* const made = given<MarketChoicesModel>(owner, name))
+        return made;
+    auto* const model = new MarketChoicesModel(kind, market, owner);
+    model->setObjectName(name);
+    return model;
+}
+
 } // namespace
 
 template <typename Model>
@@ -100,10 +118,11 @@ RecoServices AppModel::recoServices()
             .hidden = m_notInterested,
             .cart = m_cart,
             .money = m_money,
-            .clock = m_platform.clock};
+            .clock = m_platform.clock,
+            .texts = m_texts};
 }
 
-RecoIdentity AppModel::recoIdentity()
+CallerIdentity AppModel::callerIdentity()
 {
     const std::optional<AuthSession>& session = m_auth.session();
     return {.visitorId = visitorID(),
@@ -152,12 +171,12 @@ std::vector<ProductHit> AppModel::knownPieces() const
 
 MarketChoicesModel* AppModel::makeCountries(QObject* owner)
 {
-    return new MarketChoicesModel(MarketChoicesModel::Countries, m_market, owner);
+    return choices(owner, MarketChoicesModel::Countries, m_market);
 }
 
 MarketChoicesModel* AppModel::makeLanguages(QObject* owner)
 {
-    return new MarketChoicesModel(MarketChoicesModel::Languages, m_market, owner);
+    return choices(owner, MarketChoicesModel::Languages, m_market);
 }
 
 CollectionTilesModel* AppModel::makeDepartment(QObject* owner, const QString& id)
@@ -180,6 +199,8 @@ BrandsModel* AppModel::makeBrands(QObject* owner)
 
 BuyModel* AppModel::makeBuying(QObject* owner, ProductModel* product)
 {
+    if (auto* const made = given<BuyModel>(owner))
+        return made;
     auto* const buying = new BuyModel(*product, m_cart, m_platform.clock, owner);
     connect(buying, &BuyModel::checkoutWanted, this,
             [this](const QUrl& url) { m_checkout.start({.url = url, .fromCart = false}); });
@@ -190,7 +211,8 @@ BuyModel* AppModel::makeBuying(QObject* owner, ProductModel* product)
 
 ProductAlerts* AppModel::makeProductAlerts(QObject* owner, ProductModel* product)
 {
-    return new ProductAlerts(*product, m_alerts, owner);
+    auto* const made = given<ProductAlerts>(owner);
+    return made ? made : new ProductAlerts(*product, m_alerts, owner);
 }
 
 KeptPiecesModel::Services AppModel::keptServices()
@@ -205,7 +227,8 @@ KeptPiecesModel* AppModel::makeWishlist(QObject* owner)
 
 KeptPiecesModel* AppModel::makeRecentlyViewed(QObject* owner)
 {
-    return new KeptPiecesModel(m_recentlyViewed, keptServices(), owner);
+    auto* const made = given<KeptPiecesModel>(owner);
+    return made ? made : new KeptPiecesModel(m_recentlyViewed, keptServices(), owner);
 }
 
 PriceDropsModel* AppModel::makePriceDrops(QObject* owner)
@@ -235,11 +258,36 @@ TrackingModel* AppModel::makeTracking(QObject* owner, const QString& number, con
 
 AccountRemoval* AppModel::makeAccountRemoval(QObject* owner)
 {
-    return new AccountRemoval(m_auth, owner);
+    auto* const made = given<AccountRemoval>(owner);
+    return made ? made : new AccountRemoval(m_auth, owner);
+}
+
+MiraLookModel* AppModel::makeLook(QObject* owner, const QStringList& handles)
+{
+    return new MiraLookModel(handles,
+                             {.catalog = m_storefront,
+                              .sizes = m_sizeAPI,
+                              .cart = m_cart,
+                              .checkout = m_checkout,
+                              .market = m_market,
+                              .money = m_money},
+                             owner);
+}
+
+SizeAdviceModel* AppModel::makeSizeAdvice(QObject* owner, ProductModel* product)
+{
+    return new SizeAdviceModel(*product, m_sizeAPI, m_market, owner);
+}
+
+NotificationsModel* AppModel::makeInbox(QObject* owner)
+{
+    return new NotificationsModel(m_news.account(), m_news.inbox(), m_dates, m_platform.clock, owner);
 }
 
 AppCommands* AppModel::makeCommands(QObject* owner, WindowSession* session)
 {
+    if (auto* const made = given<AppCommands>(owner))
+        return made;
     return new AppCommands(*session,
                            {.openWindow = [this] { openWindow(WindowSeed()); },
                             .openSettings = [this] { m_windows->showSettings(); },

@@ -61,6 +61,7 @@ WindowSession& AppModel::show(std::unique_ptr<WindowSession> opened)
     });
     m_savedWindows.noteChange();
     connect(&session, &WindowSession::pendingCheckoutChanged, this, [this, &session] { takePendingCheckout(session); });
+    m_news.banners().attach(&session);
     beginFirstPage(session);
     m_windows->show(session);
     bootstrap();
@@ -82,6 +83,7 @@ void AppModel::closeWindow(WindowSession* session)
     }
     // The call may come out of the session itself.
     m_keyOrder.removeAll(session);
+    m_news.banners().detach(session);
     WindowSession* const closed = found->release();
     closed->setParent(this);
     closed->deleteLater();
@@ -93,7 +95,25 @@ void AppModel::windowBecameKey(WindowSession* session)
     if (m_keyOrder.removeAll(session) == 0)
         return;
     m_keyOrder.prepend(session);
+    m_news.banners().setFront(session);
     m_savedWindows.noteChange();
+}
+
+WindowSession* AppModel::frontSession()
+{
+    return keySession() ? keySession() : &openWindow(WindowSeed());
+}
+
+void AppModel::showMira()
+{
+    m_windows->showMira();
+}
+
+void AppModel::dockMira()
+{
+    WindowSession& session = *frontSession();
+    session.setMiraDocked(true);
+    m_windows->raise(session);
 }
 
 WindowSession* AppModel::keySession() const

@@ -14,6 +14,7 @@ class AppSession final : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool isOffline READ isOffline NOTIFY isOfflineChanged)
+    Q_PROPERTY(bool isMetered READ isMetered NOTIFY isMeteredChanged)
     Q_PROPERTY(QString connectionError READ connectionError NOTIFY isOfflineChanged)
     Q_PROPERTY(bool isActive READ isActive NOTIFY isActiveChanged)
 
@@ -23,9 +24,11 @@ public:
         , m_network(network)
     {
         connect(&network, &NetworkStatus::changed, this, &AppSession::isOfflineChanged);
+        connect(&network, &NetworkStatus::meteredChanged, this, &AppSession::isMeteredChanged);
     }
 
     [[nodiscard]] bool isOffline() const { return m_network.isOffline(); }
+    [[nodiscard]] bool isMetered() const { return m_network.isMetered(); }
     /// The sentence for something that could not be reached, where nothing else is known of the failure.
     [[nodiscard]] QString connectionError() const
     {
@@ -40,6 +43,7 @@ public:
 
 Q_SIGNALS:
     void isOfflineChanged();
+    void isMeteredChanged();
     void isActiveChanged();
 
 private:

@@ -43,8 +43,10 @@ PageEntry titled(PageKind::Kind kind, const char* title, const char* symbol)
 }
 
 /// Pages of the account that the window draws itself.
-std::optional<PageEntry> accountPage(const AccountRoute& route)
+std::optional<PageEntry> accountPage(const AccountRoute& route, const StorePages& storePages)
 {
+    if (std::holds_alternative<AccountRoute::Notifications>(route.page))
+        return pageFor(SidebarItem::Notifications, storePages);
     if (std::holds_alternative<AccountRoute::Profile>(route.page))
         return titled(PageKind::Kind::Profile, QT_TRANSLATE_NOOP("Loomstreet", "Profile"), "person.crop.circle");
     if (std::holds_alternative<AccountRoute::Alerts>(route.page))
@@ -154,6 +156,10 @@ PageEntry pageFor(SidebarItem item, const StorePages& storePages)
         page.kind = PageKind::Kind::Account;
     } else if (item == SidebarItem::Tools) {
         page.kind = PageKind::Kind::Tools;
+    } else if (item == SidebarItem::Mira) {
+        page.kind = PageKind::Kind::Mira;
+    } else if (item == SidebarItem::Notifications) {
+        page.kind = PageKind::Kind::Notifications;
     } else if (const auto handle = collectionHandle(item)) {
         page.kind = PageKind::Kind::Collection;
         page.handle = *handle;
@@ -173,9 +179,11 @@ PageEntry pageFor(const Route& route, const StorePages& storePages)
     if (const auto* const shop = std::get_if<ShopRoute>(&route))
         drawn = shopPage(*shop, storePages);
     else if (const auto* const account = std::get_if<AccountRoute>(&route))
-        drawn = accountPage(*account);
+        drawn = accountPage(*account, storePages);
     else if (const auto* const orders = std::get_if<OrdersRoute>(&route))
         drawn = ordersPage(*orders, storePages);
+    else if (std::holds_alternative<MiraRoute>(route))
+        drawn = pageFor(SidebarItem::Mira, storePages);
     if (drawn)
         return *std::move(drawn);
     PageEntry page{.symbol = QStringLiteral("browser"), .item = {}};
@@ -202,10 +210,11 @@ std::optional<Feature> featureOf(const Route& route)
     return std::nullopt;
 }
 
-PageEntry pausedPage(const PageEntry& page)
+PageEntry pausedPage(const PageEntry& page, Feature feature)
 {
     PageEntry paused =
         titled(PageKind::Kind::Paused, QT_TRANSLATE_NOOP("Loomstreet", "Temporarily unavailable"), "pause");
+    paused.handle = QString::fromLatin1(featureKeys.at(static_cast<std::size_t>(feature)).second);
     if (!page.title.isEmpty())
         paused.title = page.title;
     return paused;

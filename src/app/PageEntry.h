@@ -37,8 +37,10 @@ enum class Kind {
     Profile,
     Alerts,
     Tools,
-    StorePage, ///< the store's own web page
-    Paused,    ///< in the place of a page whose feature the store switched off
+    Mira,          ///< the stylist
+    Notifications, ///< what the account was told
+    StorePage,     ///< the store's own web page
+    Paused,        ///< in the place of a page whose feature the store switched off
     Unknown,
 };
 Q_ENUM_NS(Kind)
@@ -78,8 +80,8 @@ public:
 /// The feature without which there is no such page; none where the store cannot switch it off.
 [[nodiscard]] std::optional<Feature> featureOf(const Route& route);
 
-/// What stands in the place of a page while its feature is switched off.
-[[nodiscard]] PageEntry pausedPage(const PageEntry& page);
+/// What stands in the place of a page while its feature is switched off; its handle is the feature's key.
+[[nodiscard]] PageEntry pausedPage(const PageEntry& page, Feature feature);
 
 } // namespace loom
 

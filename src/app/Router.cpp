@@ -85,7 +85,7 @@ PageEntry Router::entryOf(const History::Page& page) const
         return pageFor(page.section, m_services.storePages);
     const PageEntry entry = pageFor(*page.route, m_services.storePages);
     const auto feature = featureOf(*page.route);
-    return feature && !m_services.features.isEnabled(*feature) ? pausedPage(entry) : entry;
+    return feature && !m_services.features.isEnabled(*feature) ? pausedPage(entry, *feature) : entry;
 }
 
 PageEntry Router::page(int depth) const

@@ -92,6 +92,8 @@ public:
 
     bool open(const std::optional<QString>& link) override;
     Q_INVOKABLE bool openLink(const QString& link) { return open(link); }
+    /// A link of a notification, which may name a page of the window by its path alone.
+    Q_INVOKABLE bool openNotice(const QString& link);
     void openProduct(const ProductPreview& request, OpenMode mode);
     /// For cards: `item` holds the card, if any.
     Q_INVOKABLE void openPiece(const QString& handle, const QVariant& item,
@@ -107,6 +109,8 @@ public:
     Q_INVOKABLE void openImageSearch() { push(LensRoute{LensRoute::Start{}}); }
     Q_INVOKABLE void openRail(const QString& kind, const QString& key, const QString& title);
     Q_INVOKABLE void openWishlist();
+    Q_INVOKABLE void openMira() { select(SidebarItem::Mira); }
+    Q_INVOKABLE void openNotifications() { select(SidebarItem::Notifications); }
     Q_INVOKABLE void openAccount() { select(SidebarItem::Account); }
     Q_INVOKABLE void openProfile() { push(AccountRoute{AccountRoute::Profile{}}); }
     Q_INVOKABLE void openAlerts() { push(AccountRoute{AccountRoute::Alerts{}}); }

@@ -3,6 +3,7 @@
 #include "app/WindowServices.h"
 #include "app/WindowSession.h"
 #include "base/Overloaded.h"
+#include "navigation/InAppPaths.h"
 #include "storage/Preferences.h"
 
 #include <algorithm>
@@ -64,6 +65,19 @@ bool Router::open(const std::optional<QString>& link)
                           },
                       },
                       m_services.resolver.resolve(link));
+}
+
+bool Router::openNotice(const QString& link)
+{
+    const std::optional<InAppPage> page = inAppPage(link);
+    if (!page)
+        return open(link);
+    std::visit(Overloaded{[this](SidebarItem item) { select(item); },
+                          [this](const Route& route) {
+                              push(route);
+                          }},
+               *page);
+    return true;
 }
 
 void Router::openProduct(const ProductPreview& request, OpenMode mode)

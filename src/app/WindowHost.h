@@ -22,6 +22,8 @@ public:
     virtual void showSettings() = 0;
     /// Shows a checkout in a window of its own, or brings that window to the front. It ends with the checkout.
     virtual void showCheckout(CheckoutModel& checkout) = 0;
+    /// Shows the stylist in a window of her own, or brings that to the front.
+    virtual void showMira() = 0;
     /// Whether any main window can be seen.
     [[nodiscard]] virtual bool hasVisibleWindow() const = 0;
     /// Gives every open window the application's style.

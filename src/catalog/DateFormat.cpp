@@ -15,6 +15,7 @@ struct DateFormat::Formatter {
         UErrorCode status = U_ZERO_ERROR;
         const QByteArray locale = appLanguageCode(language).toLatin1();
         day = udat_open(UDAT_NONE, UDAT_MEDIUM, locale.constData(), nullptr, 0, nullptr, 0, &status);
+        time = udat_open(UDAT_SHORT, UDAT_NONE, locale.constData(), nullptr, 0, nullptr, 0, &status);
         moment = udat_open(UDAT_SHORT, UDAT_MEDIUM, locale.constData(), nullptr, 0, nullptr, 0, &status);
     }
     Formatter(const Formatter&) = delete;
@@ -22,10 +23,12 @@ struct DateFormat::Formatter {
     ~Formatter()
     {
         udat_close(day);
+        udat_close(time);
         udat_close(moment);
     }
 
     UDateFormat* day = nullptr;
+    UDateFormat* time = nullptr;
     UDateFormat* moment = nullptr;
 };
 
@@ -59,6 +62,11 @@ DateFormat::~DateFormat() = default;
 QString DateFormat::day(const QDateTime& date) const
 {
     return format(m_formatter->day, date);
+}
+
+QString DateFormat::time(const QDateTime& date) const
+{
+    return format(m_formatter->time, date);
 }
 
 QString DateFormat::moment(const QDateTime& date) const

@@ -20,6 +20,8 @@ public:
 
     /// "Nov 21, 2026"; empty for a date that is none.
     [[nodiscard]] QString day(const QDateTime& date) const;
+    /// "3:04 PM"; empty for a date that is none.
+    [[nodiscard]] QString time(const QDateTime& date) const;
     /// "Nov 21, 2026, 3:04 PM".
     [[nodiscard]] QString moment(const QDateTime& date) const;
 

@@ -20,23 +20,28 @@ bool isUnwanted(QChar character)
 
 } // namespace
 
-QString displayLine(const QString& text, qsizetype limit)
+QString displayCharacters(QStringView text)
 {
-    // What is cut off cannot matter unless it stands behind more blanks than any text has.
-    const QStringView head = QStringView(text).left(4 * limit);
     QString kept;
-    kept.reserve(head.size());
-    for (qsizetype i = 0; i < head.size(); ++i) {
-        const QChar character = head[i];
-        if (character.isHighSurrogate() && i + 1 < head.size() && head[i + 1].isLowSurrogate()) {
+    kept.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar character = text[i];
+        if (character.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
             kept.append(character);
-            kept.append(head[++i]);
+            kept.append(text[++i]);
         } else if (character.isSurrogate()) {
             kept.append(QChar(QChar::ReplacementCharacter));
         } else if (!isUnwanted(character)) {
             kept.append(character);
         }
     }
+    return kept;
+}
+
+QString displayLine(const QString& text, qsizetype limit)
+{
+    // What is cut off cannot matter unless it stands behind more blanks than any text has.
+    const QString kept = displayCharacters(QStringView(text).left(4 * limit));
     QString line = kept.simplified();
     if (line.size() > limit)
         line.truncate(line[limit - 1].isHighSurrogate() ? limit - 1 : limit);

@@ -15,4 +15,7 @@ namespace loom
 /// The same for a text of several lines. Lines stay apart; at most one empty line stands between two of them.
 [[nodiscard]] QString displayText(const QString& text, qsizetype limit);
 
+/// What displayLine() leaves of the characters of a text, which keeps its length and its white space.
+[[nodiscard]] QString displayCharacters(QStringView text);
+
 } // namespace loom

@@ -101,6 +101,16 @@ QHash<QString, QStringList> readCardImages(const JsonReader& data)
     return images;
 }
 
+std::vector<std::pair<QString, ProductListItem>> readAliasedProducts(const JsonReader& data)
+{
+    std::vector<std::pair<QString, ProductListItem>> products;
+    for (const auto& [alias, product] : data.members()) {
+        for (ProductListItem& item : JsonReader::decodeEach({product}, decodeListItem))
+            products.emplace_back(alias, std::move(item));
+    }
+    return products;
+}
+
 /// A JSON object has no order: the aliases have.
 std::vector<CollectionTile> readTiles(const JsonReader& data)
 {
@@ -217,6 +227,25 @@ QCoro::Task<ApiResult<std::vector<ProductListItem>>> StorefrontAPI::productsByID
     }
     noteCurrency(country, items);
     co_return items;
+}
+
+QCoro::Task<ApiResult<QHash<QString, ProductListItem>>> StorefrontAPI::productsByHandles(QStringList handles,
+                                                                                         std::stop_token stop)
+{
+    const QString country = m_client.country();
+    QHash<QString, ProductListItem> products;
+    for (const QStringList& chunk : chunks(handles, maximumCards)) {
+        LOOM_CO_TRY(some, co_await m_client.send(queries::productsByHandles(chunk.size()), handleVariables(chunk),
+                                                 Retry::Transient, readAliasedProducts, stop));
+        for (auto& [alias, item] : some) {
+            const qsizetype place = alias.mid(1).toLongLong();
+            if (place < 0 || place >= chunk.size())
+                continue;
+            noteCurrency(country, {item});
+            products.insert(chunk.at(place), std::move(item));
+        }
+    }
+    co_return products;
 }
 
 QCoro::Task<ApiResult<QHash<QString, LivePrice>>> StorefrontAPI::livePrices(QStringList ids, std::stop_token stop)

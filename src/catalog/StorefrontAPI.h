@@ -63,6 +63,8 @@ public:
     /// The most handles one batch asks for, and the most IDs; longer lists become several queries.
     static constexpr qsizetype maximumBatch = 100;
     static constexpr qsizetype maximumIDs = 250;
+    /// The most handles one batch asks for whole cards of.
+    static constexpr qsizetype maximumCards = 50;
 
     explicit StorefrontAPI(StorefrontClient& client)
         : m_client(client)
@@ -78,6 +80,9 @@ public:
     /// In the order answered; products that are gone are left out.
     [[nodiscard]] QCoro::Task<ApiResult<std::vector<ProductListItem>>> productsByIDs(QStringList ids,
                                                                                      std::stop_token stop);
+    /// By the handle asked for; unknown handles are left out.
+    [[nodiscard]] QCoro::Task<ApiResult<QHash<QString, ProductListItem>>> productsByHandles(QStringList handles,
+                                                                                            std::stop_token stop);
     /// By handle. `ids` may be numbers or global IDs.
     [[nodiscard]] QCoro::Task<ApiResult<QHash<QString, LivePrice>>> livePrices(QStringList ids, std::stop_token stop);
     [[nodiscard]] QCoro::Task<ApiResult<std::vector<ProductListItem>>> recommendations(QString productId,

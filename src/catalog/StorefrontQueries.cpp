@@ -231,6 +231,21 @@ QString searchCardImages(qsizetype handleCount)
                         QStringLiteral("{ handle images(first: 4) { nodes { url } } }"));
 }
 
+QString productsByHandles(qsizetype handleCount)
+{
+    QStringList declarations;
+    QStringList fields;
+    for (qsizetype i = 0; i < handleCount; ++i) {
+        declarations.append(QStringLiteral("$h%1: String!, ").arg(i));
+        fields.append(QStringLiteral("  p%1: product(handle: $h%1) { ...ListItem }").arg(i));
+    }
+    return QString::fromLatin1(listItemFragment) + QStringLiteral("\nquery ProductsByHandles(") +
+           declarations.join(QString()) +
+           QStringLiteral("$country: CountryCode, $language: LanguageCode)\n"
+                          "@inContext(country: $country, language: $language) {\n") +
+           fields.join(QLatin1Char('\n')) + QStringLiteral("\n}");
+}
+
 QString collectionProbe(const QStringList& handles)
 {
     QStringList fields;

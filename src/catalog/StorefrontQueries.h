@@ -25,6 +25,7 @@ namespace loom::queries
 /// The handles travel as the variables "h0", "h1" …; a collection probe carries them in its text.
 [[nodiscard]] QString cardAvailability(qsizetype handleCount);
 [[nodiscard]] QString searchCardImages(qsizetype handleCount);
+[[nodiscard]] QString productsByHandles(qsizetype handleCount);
 [[nodiscard]] QString collectionProbe(const QStringList& handles);
 
 } // namespace loom::queries

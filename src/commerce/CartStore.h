@@ -66,6 +66,8 @@ public:
     /// The cart to add to, made when there is none.
     [[nodiscard]] QCoro::Task<ApiResult<QString>> ensureCart();
     [[nodiscard]] QCoro::Task<ApiResult<AddOutcome>> add(QString variantID, qint64 quantity);
+    /// All of them in one step. Answers with those, by their variants, of which the platform had none left.
+    [[nodiscard]] QCoro::Task<ApiResult<QStringList>> addAll(std::vector<CartLineInput> lines);
     /// Is sent when no other number has been asked for during a moment. 0 or less removes the line.
     void setQuantity(const QString& lineID, qint64 quantity);
     void remove(const QString& lineID);
@@ -154,9 +156,10 @@ private:
     [[nodiscard]] QCoro::Task<> attribute(QString id);
     [[nodiscard]] QCoro::Task<> changeLine(QString lineID, std::chrono::milliseconds pause);
     void finishChange(const QString& lineID, qint64 wanted, ApiResult<Cart> answer, const Request* request);
-    [[nodiscard]] QCoro::Task<ApiResult<AddOutcome>> addLines(std::vector<CartLineInput> lines, IfRefused ifRefused);
-    [[nodiscard]] QCoro::Task<ApiResult<AddOutcome>> recreate(std::vector<CartLineInput> lines);
-    AddOutcome showAdded(const std::vector<CartLineInput>& lines, const Cart& answer, const Request& request);
+    [[nodiscard]] QCoro::Task<ApiResult<QStringList>> addLines(std::vector<CartLineInput> lines, IfRefused ifRefused);
+    [[nodiscard]] QCoro::Task<ApiResult<QStringList>> recreate(std::vector<CartLineInput> lines);
+    /// The variants of which nothing was added.
+    QStringList showAdded(const std::vector<CartLineInput>& lines, const Cart& answer, const Request& request);
     [[nodiscard]] QCoro::Task<> highlight(QString lineID);
     [[nodiscard]] QCoro::Task<> clearCode();
     [[nodiscard]] QCoro::Task<> moveToMarket();

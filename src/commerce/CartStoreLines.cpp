@@ -18,10 +18,16 @@ constexpr std::chrono::seconds highlightDuration = 4s;
 
 QCoro::Task<ApiResult<AddOutcome>> CartStore::add(QString variantID, qint64 quantity)
 {
-    return addLines({{.merchandiseId = std::move(variantID), .quantity = quantity}}, IfRefused::Recreate);
+    LOOM_CO_TRY(soldOut, co_await addAll({{.merchandiseId = std::move(variantID), .quantity = quantity}}));
+    co_return soldOut.isEmpty() ? AddOutcome::Added : AddOutcome::SoldOut;
 }
 
-QCoro::Task<ApiResult<AddOutcome>> CartStore::addLines(std::vector<CartLineInput> lines, IfRefused ifRefused)
+QCoro::Task<ApiResult<QStringList>> CartStore::addAll(std::vector<CartLineInput> lines)
+{
+    return addLines(std::move(lines), IfRefused::Recreate);
+}
+
+QCoro::Task<ApiResult<QStringList>> CartStore::addLines(std::vector<CartLineInput> lines, IfRefused ifRefused)
 {
     const std::stop_token stopped = stop();
     LOOM_CO_TRY(id, co_await ensureCart());
@@ -39,12 +45,12 @@ QCoro::Task<ApiResult<AddOutcome>> CartStore::addLines(std::vector<CartLineInput
     if (!answer)
         co_return co_await recreate(lines);
     m_failure.reset();
-    const AddOutcome outcome = showAdded(lines, *answer, request);
+    const QStringList soldOut = showAdded(lines, *answer, request);
     adopt(*std::move(answer), request);
-    co_return outcome;
+    co_return soldOut;
 }
 
-QCoro::Task<ApiResult<AddOutcome>> CartStore::recreate(std::vector<CartLineInput> lines)
+QCoro::Task<ApiResult<QStringList>> CartStore::recreate(std::vector<CartLineInput> lines)
 {
     const std::stop_token stopped = stop();
     keepLines(lines);
@@ -62,11 +68,11 @@ QCoro::Task<ApiResult<AddOutcome>> CartStore::recreate(std::vector<CartLineInput
         co_return Unexpected(created.error());
     }
     m_failure.reset();
-    const AddOutcome outcome = showAdded(lines, *created, request);
+    const QStringList soldOut = showAdded(lines, *created, request);
     const QString id = created->id;
     adoptAsOwn(*std::move(created), request);
     endEnsuring(promise, id);
-    co_return outcome;
+    co_return soldOut;
 }
 
 void CartStore::keepLines(const std::vector<CartLineInput>& except)
@@ -83,25 +89,27 @@ void CartStore::keepLines(const std::vector<CartLineInput>& except)
     }
 }
 
-AddOutcome CartStore::showAdded(const std::vector<CartLineInput>& lines, const Cart& answer, const Request& request)
+QStringList CartStore::showAdded(const std::vector<CartLineInput>& lines, const Cart& answer, const Request& request)
 {
-    AddOutcome outcome = AddOutcome::SoldOut;
+    QStringList soldOut;
     for (const CartLineInput& wanted : lines) {
         const CartLine* const added = answer.lineOfVariant(wanted.merchandiseId);
-        if (!added)
+        if (!added) {
+            soldOut.append(wanted.merchandiseId);
             continue;
+        }
         // How many there were is not known while answers come out of their order or the number itself changes.
         const bool isKnown = !request.isOvertaken() && !m_changes.contains(added->id);
         const CartLine* const before = m_cart && isKnown ? m_cart->line(added->id) : nullptr;
         const qint64 had = before ? before->quantity : 0;
         if (isKnown && added->quantity < had + wanted.quantity)
             m_clamped.insert(added->id);
-        if (added->quantity <= had)
-            continue;
-        outcome = AddOutcome::Added;
-        static_cast<void>(highlight(added->id));
+        if (added->quantity > had)
+            static_cast<void>(highlight(added->id));
+        else
+            soldOut.append(wanted.merchandiseId);
     }
-    return outcome;
+    return soldOut;
 }
 
 QCoro::Task<> CartStore::highlight(QString lineID)
@@ -122,14 +130,15 @@ QCoro::Task<ApiResult<AddOutcome>> CartStore::restoreLostLines()
     if (lines.empty())
         co_return AddOutcome::SoldOut;
     Q_EMIT changed();
-    auto result = co_await addLines(lines, IfRefused::Report);
+    const auto soldOut = co_await addLines(lines, IfRefused::Report);
     if (stopped.stop_requested())
         co_return Unexpected(Failure(Cancelled{}));
-    if (!result) {
+    if (!soldOut) {
         m_lost.insert(m_lost.begin(), lines.begin(), lines.end());
         Q_EMIT changed();
+        co_return Unexpected(soldOut.error());
     }
-    co_return result;
+    co_return soldOut->size() < static_cast<qsizetype>(lines.size()) ? AddOutcome::Added : AddOutcome::SoldOut;
 }
 
 void CartStore::forgetLostLines()

@@ -175,7 +175,6 @@ void HomeModel::enterAccount()
     // What was recommended to somebody is nobody else's business.
     const QString customer = m_services.api.identity().customer;
     if (customer.isEmpty() || (!m_customer.isEmpty() && customer != m_customer)) {
-        m_folder.remove(snapshot);
         m_isArranging = true;
         for (RecoRail* const rail : m_rails)
             rail->forget();

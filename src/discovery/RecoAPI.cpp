@@ -30,13 +30,14 @@ void requireObject(const JsonReader& json)
 RecoAPI::Feed readFeed(const JsonReader& json, const std::array<const char*, 3>& keys)
 {
     requireObject(json);
-    for (const char* const key : keys) {
-        if (!json.has(key))
-            continue;
-        const std::vector<JsonReader> cards = json.list(key);
-        return {.products = decodeRecoProducts(cards), .received = static_cast<int>(cards.size())};
-    }
-    return {};
+    const auto isThere = [&json](const char* key) {
+        return json.has(key) && !json.value(key).asJson().isNull();
+    };
+    const auto* const key = std::ranges::find_if(keys, isThere);
+    if (key == keys.end())
+        return {};
+    const std::vector<JsonReader> cards = json.list(*key);
+    return {.products = decodeRecoProducts(cards), .received = static_cast<int>(cards.size())};
 }
 
 RecoAPI::PdpReco readCompanions(const JsonReader& json)
@@ -113,7 +114,7 @@ std::optional<RecoAPI::Kind> recoKindFrom(const QString& name)
     return std::nullopt;
 }
 
-RecoAPI::RecoAPI(WidgetClient& widget, const MarketStore& market, std::function<RecoIdentity()> identity,
+RecoAPI::RecoAPI(WidgetClient& widget, const MarketStore& market, std::function<CallerIdentity()> identity,
                  std::function<QStringList()> sessionViewed)
     : m_widget(widget)
     , m_market(market)
@@ -126,7 +127,7 @@ template <typename Decode>
 auto RecoAPI::get(QString path, Query query, std::chrono::milliseconds timeout, Decode decode, std::stop_token stop)
     -> QCoro::Task<ApiResult<decltype(decode(std::declval<const JsonReader&>()))>>
 {
-    const RecoIdentity identity = m_identity();
+    const CallerIdentity identity = m_identity();
     const std::array<std::pair<const char*, QString>, 4> known{{{"visitorId", identity.visitorId},
                                                                 {"customer", identity.customer},
                                                                 {"email", identity.email},

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "discovery/RecoIdentity.h"
 #include "discovery/RecoProduct.h"
 #include "net/ApiResult.h"
+#include "net/CallerIdentity.h"
 
 #include <QHash>
 #include <qcoro/qcorotask.h>
@@ -87,10 +87,10 @@ public:
     static constexpr qsizetype maximumViewed = 20;
 
     /// `sessionViewed` gives the handles the shopper looked at, the latest first.
-    RecoAPI(WidgetClient& widget, const MarketStore& market, std::function<RecoIdentity()> identity,
+    RecoAPI(WidgetClient& widget, const MarketStore& market, std::function<CallerIdentity()> identity,
             std::function<QStringList()> sessionViewed);
 
-    [[nodiscard]] RecoIdentity identity() const { return m_identity(); }
+    [[nodiscard]] CallerIdentity identity() const { return m_identity(); }
 
     [[nodiscard]] QCoro::Task<ApiResult<Feed>> feed(const FeedRequest& request, std::stop_token stop);
     [[nodiscard]] QCoro::Task<ApiResult<PdpReco>> companions(QString handle, int limit, std::stop_token stop);
@@ -114,7 +114,7 @@ private:
 
     WidgetClient& m_widget;
     const MarketStore& m_market;
-    std::function<RecoIdentity()> m_identity;
+    std::function<CallerIdentity()> m_identity;
     std::function<QStringList()> m_sessionViewed;
 };
 

@@ -1,5 +1,6 @@
 #include "discovery/RecoCards.h"
 
+#include "base/TextChanges.h"
 #include "catalog/MarketStore.h"
 #include "commerce/CartStore.h"
 #include "discovery/NotInterested.h"
@@ -16,6 +17,7 @@ RecoCards::RecoCards(const RecoServices& services, QObject* parent)
     connect(&services.cart, &CartStore::changed, this, &RecoCards::takeCart);
     connect(&services.market, &MarketStore::rateChanged, this, &RecoCards::compose);
     connect(&services.market, &MarketStore::revisionChanged, this, &RecoCards::compose);
+    connect(&services.texts, &TextChanges::changed, this, &RecoCards::compose);
     takeCart();
 }
 

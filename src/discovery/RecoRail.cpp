@@ -41,6 +41,19 @@ QString RecoRail::title() const
     return {};
 }
 
+QString RecoRail::note() const
+{
+    switch (m_source.kind) {
+    case RecoAPI::Kind::ForYou:
+        return QCoreApplication::translate("Loomstreet", "Based on what you love");
+    case RecoAPI::Kind::NewArrivals:
+        return QCoreApplication::translate("Loomstreet", "New this week");
+    case RecoAPI::Kind::Collection:
+        break;
+    }
+    return m_source.label;
+}
+
 void RecoRail::setWords(const QString& title, const QString& label)
 {
     m_source.title = displayLine(title, longestTitle);

@@ -15,7 +15,7 @@ class RecoRail final : public loom::RecoCards // in full, for the tools that rea
     Q_PROPERTY(QString kind READ kind CONSTANT)
     Q_PROPERTY(QString handle READ handle CONSTANT)
     Q_PROPERTY(QString title READ title NOTIFY stateChanged)
-    Q_PROPERTY(QString label READ label NOTIFY stateChanged)
+    Q_PROPERTY(QString note READ note NOTIFY stateChanged)
     Q_PROPERTY(loom::RecoRail::Phase phase READ phase NOTIFY stateChanged)
     Q_PROPERTY(QString errorText READ errorText NOTIFY stateChanged)
     Q_PROPERTY(bool isOffline READ isOffline NOTIFY stateChanged)
@@ -47,7 +47,8 @@ public:
     [[nodiscard]] QString kind() const { return recoKindName(m_source.kind); }
     [[nodiscard]] const QString& handle() const { return m_source.handle; }
     [[nodiscard]] QString title() const;
-    [[nodiscard]] const QString& label() const { return m_source.label; }
+    /// A few words below the title; may be empty.
+    [[nodiscard]] QString note() const;
     void setWords(const QString& title, const QString& label);
 
     [[nodiscard]] Phase phase() const;

@@ -9,6 +9,7 @@ class MarketStore;
 class MoneyFormat;
 class NotInterested;
 class RecoAPI;
+class TextChanges;
 
 /// What everything that shows recommendations is made of.
 struct RecoServices {
@@ -18,6 +19,7 @@ struct RecoServices {
     const CartStore& cart;
     const MoneyFormat& money;
     const Clock& clock;
+    const TextChanges& texts;
 };
 
 } // namespace loom

@@ -16,9 +16,12 @@ public:
 
     /// True only when the system is sure that there is no network.
     [[nodiscard]] virtual bool isOffline() const = 0;
+    /// Every byte may cost the shopper something.
+    [[nodiscard]] virtual bool isMetered() const = 0;
 
 Q_SIGNALS:
     void changed();
+    void meteredChanged();
 };
 
 } // namespace loom

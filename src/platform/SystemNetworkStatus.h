@@ -14,6 +14,7 @@ public:
     explicit SystemNetworkStatus(QObject* parent = nullptr);
 
     [[nodiscard]] bool isOffline() const override;
+    [[nodiscard]] bool isMetered() const override;
 };
 
 } // namespace loom

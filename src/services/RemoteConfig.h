@@ -24,6 +24,7 @@ class RemoteConfig final : public QObject, public FeatureGates
     Q_OBJECT
     Q_PROPERTY(QStringList dashboard READ dashboardKeys NOTIFY dashboardChanged)
     Q_PROPERTY(QVariant promo READ promoVariant NOTIFY promoChanged)
+    Q_PROPERTY(bool prefetchesImages READ prefetchesImages NOTIFY featuresChanged)
 
 public:
     using Values = RemoteConfigValues;
@@ -44,6 +45,7 @@ public:
     [[nodiscard]] const std::optional<QDateTime>& lastFetched() const { return m_lastFetched; }
 
     [[nodiscard]] bool isEnabled(Feature feature) const override;
+    [[nodiscard]] bool prefetchesImages() const { return isEnabled(Feature::PrefetchImages); }
     /// What stands in the place of a text, if anything does.
     [[nodiscard]] std::optional<QString> copy(const QString& key, AppLanguage language,
                                               BuiltInText builtIn = BuiltInText::English) const
@@ -64,7 +66,7 @@ public:
     /// Asks now and from now on.
     void start();
     /// Asks, unless it is doing so.
-    void refresh();
+    Q_INVOKABLE void refresh();
     /// The application came to the front.
     void becameActive();
 

@@ -1,6 +1,7 @@
 #include "services/RemoteConfigValues.h"
 
 #include "base/Dates.h"
+#include "catalog/DisplayText.h"
 
 #include <QJsonArray>
 #include <QUrl>
@@ -13,14 +14,18 @@ namespace loom
 namespace
 {
 
-/// Texts with something in them: an empty one would leave a button without a word.
+/// Longer than any text of a window.
+constexpr qsizetype longestText = 2000;
+
+/// Texts with something in them: an empty one would leave a button without a word. What could turn around the words
+/// beside it is gone.
 LanguageTexts decodeTexts(const JsonReader& json)
 {
     LanguageTexts texts;
     for (const auto& [language, value] : json.members()) {
-        const auto text = value.asText();
-        if (text && !text->trimmed().isEmpty() && !texts.contains(language))
-            texts.insert(language, *text);
+        const QString text = displayText(value.asText().value_or(QString()), longestText);
+        if (!text.isEmpty() && !texts.contains(language))
+            texts.insert(language, text);
     }
     return texts;
 }

@@ -100,6 +100,8 @@ public:
 
     /// Blocks until everything saved so far is on the disk. For the end of the process and for tests.
     void waitUntilWritten() { m_writer.waitUntilWritten(); }
+    /// Ends when everything saved so far is on the disk, or could not be written.
+    [[nodiscard]] QFuture<void> written() { return m_writer.written(); }
 
 private:
     [[nodiscard]] QString filePath(const QString& name) const;

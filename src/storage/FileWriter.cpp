@@ -4,6 +4,7 @@
 #include "storage/AtomicFile.h"
 
 #include <QFile>
+#include <QtConcurrentRun>
 
 namespace loom
 {
@@ -49,6 +50,12 @@ std::optional<std::optional<QByteArray>> FileWriter::pending(const QString& path
 void FileWriter::waitUntilWritten()
 {
     m_thread.waitForDone();
+}
+
+QFuture<void> FileWriter::written()
+{
+    // There is one thread, and it takes one after the other.
+    return QtConcurrent::run(&m_thread, [] {});
 }
 
 void FileWriter::enqueue(const QString& path, Change change)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFuture>
 #include <QHash>
 #include <QMutex>
 #include <QString>
@@ -38,6 +39,8 @@ public:
     [[nodiscard]] std::optional<std::optional<QByteArray>> pending(const QString& path) const;
 
     void waitUntilWritten();
+    /// Ends when everything written so far has been tried, whether or not it could be written.
+    [[nodiscard]] QFuture<void> written();
 
 private:
     struct Change {

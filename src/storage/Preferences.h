@@ -28,11 +28,24 @@ namespace preferences
 {
 inline constexpr Preference<const char*> cartID{"shopify_cart_id", ""};          ///< opaque, and as good as a key
 inline constexpr Preference<const char*> appearance{"lst_appearance", "system"}; ///< "system", "light" or "dark"
-inline constexpr Preference<const char*> endedSession{"lst_ended_session", ""};  ///< a mark of the last one
-inline constexpr Preference<const char*> language{"lst_language", ""};           ///< its code; empty follows the system
+inline constexpr Preference<bool> desktopNotifications{"lst_desktop_notifications", true};
+inline constexpr Preference<const char*> endedSession{"lst_ended_session", ""}; ///< a mark of the last one
+inline constexpr Preference<bool> inAppNotifications{"lst_in_app_notifications", true};
+inline constexpr Preference<const char*> language{"lst_language", ""}; ///< its code; empty follows the system
 inline constexpr Preference<const char*> lastAccountEmail{"lst_last_account_email", ""}; ///< in small letters
 inline constexpr Preference<const char*> marketCountry{"lst_market_country", ""};
 inline constexpr Preference<const char*> marketCurrency{"lst_market_currency", ""};
+inline constexpr Preference<bool> notifyBadge{"lst_notify_badge", true};
+inline constexpr Preference<bool> notifyMembership{"lst_notify_membership", true};
+inline constexpr Preference<bool> notifyOrders{"lst_notify_orders", true};
+inline constexpr Preference<bool> notifyPrice{"lst_notify_price", true};
+inline constexpr Preference<bool> notifyPromotions{"lst_notify_promotions", false};
+inline constexpr Preference<bool> notifyRefunds{"lst_notify_refunds", true};
+inline constexpr Preference<bool> notifyRestock{"lst_notify_restock", true};
+inline constexpr Preference<bool> notifySound{"lst_notify_sound", true};
+inline constexpr Preference<bool> notifySupport{"lst_notify_support", true};
+inline constexpr Preference<bool> notifySystem{"lst_notify_system", true};
+inline constexpr Preference<bool> notifyVessa{"lst_notify_vessa", true};
 inline constexpr Preference<const char*> privacyConsent{"lst_privacy_consent", "essential"}; ///< or "all"
 inline constexpr ListPreference recentSearches{"lst_recent_searches"};
 inline constexpr Preference<const char*> secureStore{"lst_secure_store", ""}; ///< "system" or "file" once chosen
@@ -41,7 +54,10 @@ inline constexpr Preference<const char*> shopGender{"lst_shop_gender_v1", "women
 inline constexpr Preference<const char*> sizeUnit{"lst_size_unit", "metric"}; ///< or "imperial"
 inline constexpr Preference<bool> splitPreview{"lst_split_preview", true};
 inline constexpr Preference<double> splitPreviewWidth{"lst_split_preview_width_v2", 0};
+inline constexpr Preference<const char*> supportLanguage{"lst_support_lang", "auto"}; ///< or a code
 inline constexpr Preference<const char*> visitorId{"lst_visitor_id", ""};
+inline constexpr Preference<bool> weatherAsked{"lst_weather_asked", false}; ///< the desktop, for the place
+inline constexpr Preference<bool> weatherShared{"lst_weather_shared", true};
 inline constexpr Preference<bool> wishlistUntold{"lst_wishlist_untold", false};  ///< the backend has yet to hear of it
 inline constexpr Preference<const char*> windowFrame{"lst_window_frame", "own"}; ///< or "desktop"
 } // namespace preferences

@@ -3,6 +3,8 @@
 #include "FakeWindowHost.h"
 #include "app/AppModel.h"
 
+#include "support/FakeDesktopNotifications.h"
+#include "support/FakeLocation.h"
 #include "support/NetworkFixture.h"
 #include "support/Running.h"
 
@@ -39,10 +41,11 @@ protected:
                                         .dataFolder = home.path() + QStringLiteral("/data"),
                                         .locale = locale,
                                         .openExternally = [this](const QUrl& url) { browsed.append(url); },
-                                        .heldKeys =
-                                            [this] {
-                                                return keys;
-                                            }});
+                                        .heldKeys = [this] { return keys; },
+                                        .makeSystemSecrets = {},
+                                        .location = location,
+                                        .desktopNotifications = desktop,
+                                        .launcherBadge = badge});
         model->setWindowHost(&host);
     }
 
@@ -59,6 +62,9 @@ protected:
         return sorted;
     }
 
+    FakeLocation location;
+    FakeDesktopNotifications desktop;
+    FakeLauncherBadge badge;
     SystemLocale locale{.language = QStringLiteral("de"), .script = {}, .region = QStringLiteral("AT")};
     QTemporaryDir home;
     QList<QUrl> browsed;

@@ -22,6 +22,7 @@ public:
     void raise(WindowSession& session) override { m_calls.append(QStringLiteral("raise ") + nameOf(session)); }
     void showSettings() override { m_calls.append(QStringLiteral("settings")); }
     void showCheckout(CheckoutModel&) override { m_calls.append(QStringLiteral("checkout")); }
+    void showMira() override { m_calls.append(QStringLiteral("mira")); }
     [[nodiscard]] bool hasVisibleWindow() const override { return isVisible; }
     void applyWindowStyle() override { m_calls.append(QStringLiteral("style")); }
 

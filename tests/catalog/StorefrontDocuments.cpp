@@ -70,6 +70,7 @@ QJsonArray documents()
         add("CardAvailability", queries::cardAvailability(count), variables);
         add("SearchCardImages", queries::searchCardImages(count), variables);
         add("CollectionProbe", queries::collectionProbe(handles(count)));
+        add("ProductsByHandles", queries::productsByHandles(count), variables);
     }
     return list;
 }

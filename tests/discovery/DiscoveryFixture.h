@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/TextChanges.h"
 #include "discovery/NotInterested.h"
 #include "discovery/RecoAPI.h"
 #include "discovery/RecoCards.h"
@@ -54,7 +55,7 @@ protected:
         return cards.pieces()->data(cards.pieces()->index(row), role).toString();
     }
 
-    RecoIdentity identity{.visitorId = QStringLiteral("visitor-1"), .customer = {}, .email = {}, .name = {}};
+    CallerIdentity identity{.visitorId = QStringLiteral("visitor-1"), .customer = {}, .email = {}, .name = {}};
     QStringList viewed;
     std::map<QString, Answer> feeds;
     WidgetClient widget{server.base(), QStringLiteral("key-1"), transport, session, random};
@@ -63,8 +64,14 @@ protected:
                      return viewed;
                  }};
     NotInterested hidden{folder};
-    RecoServices services{
-        .api = reco, .market = market, .hidden = hidden, .cart = *store, .money = money, .clock = clock};
+    TextChanges texts;
+    RecoServices services{.api = reco,
+                          .market = market,
+                          .hidden = hidden,
+                          .cart = *store,
+                          .money = money,
+                          .clock = clock,
+                          .texts = texts};
 };
 
 } // namespace loom

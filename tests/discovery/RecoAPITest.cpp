@@ -89,6 +89,12 @@ TEST_F(RecoAPITest, WhatIsBrokenInAnAnswerCostsOnlyItself)
     ASSERT_TRUE(many);
     EXPECT_EQ(many->products.size(), 200U);
 
+    feeds.insert_or_assign(QStringLiteral("for-you"),
+                           Answer::body(R"({"forYou": null, "products": [{"handle": "c"}]})"));
+    const auto other = run(reco.feed({.kind = RecoAPI::Kind::ForYou, .limit = 24}, {}));
+    ASSERT_TRUE(other);
+    EXPECT_EQ(handlesOf(other->products), "c");
+
     feeds.insert_or_assign(QStringLiteral("for-you"), Answer::body(R"({"products": {}})"));
     const auto broken = run(reco.feed({.kind = RecoAPI::Kind::ForYou, .limit = 24}, {}));
     ASSERT_FALSE(broken);

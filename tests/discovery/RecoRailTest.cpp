@@ -6,12 +6,26 @@
 
 #include "DiscoveryFixture.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 using namespace loom;
 
 namespace
 {
 
 const QString forYou = QStringLiteral("for-you");
+
+/// Shows the key of every text instead of the text.
+class Renaming final : public QTranslator
+{
+public:
+    [[nodiscard]] QString translate(const char*, const char*, const char* key, int) const override
+    {
+        return QString::fromLatin1(key);
+    }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+};
 
 class RecoRailTest : public DiscoveryFixture
 {
@@ -70,6 +84,14 @@ TEST_F(RecoRailTest, PricesAndReasonsFollowTheShopperWithoutAnotherRequest)
     EXPECT_EQ(told(rail, 0, ProductListModel::PriceRole), QStringLiteral("$100.00"));
     EXPECT_EQ(told(rail, 0, ProductListModel::ReasonRole), QStringLiteral("x style pick"));
     EXPECT_EQ(told(rail, 1, ProductListModel::PriceRole), QString());
+    EXPECT_EQ(told(rail, 1, ProductListModel::ReasonRole), QStringLiteral("Handpicked"));
+    {
+        Renaming renaming;
+        QCoreApplication::installTranslator(&renaming);
+        Q_EMIT texts.changed();
+        EXPECT_EQ(told(rail, 1, ProductListModel::ReasonRole), QStringLiteral("reco.reason.handpicked"));
+    }
+    Q_EMIT texts.changed();
     EXPECT_EQ(told(rail, 1, ProductListModel::ReasonRole), QStringLiteral("Handpicked"));
     const auto asked = [this] {
         return std::ranges::count(server.requests(), QByteArray("/api/support/widget/reco"), &ReceivedRequest::path);
@@ -144,7 +166,7 @@ TEST_F(RecoRailTest, APieceHasItsCompanionsEachOnceAndNeverItself)
     server.expect("GET /api/support/widget/pdp-reco",
                   Answer::json({{QStringLiteral("alsoViewed"), recommended(QStringLiteral("me a b"))},
                                 {QStringLiteral("outfit"), recommended(QStringLiteral("b c me"))}}));
-    server.expect("GET /api/support/widget/vessa/product-stats", Answer::body(R"({"stats": {"me": {"sold": 31}}})"));
+    server.expect("GET /api/support/widget/vessa/product-stats", Answer::body(R"({"stats": {"me": {"sold": 12031}}})"));
     ProductCompanions companions(QStringLiteral("me"), services, api);
     companions.load();
     companions.loadSold();
@@ -155,7 +177,7 @@ TEST_F(RecoRailTest, APieceHasItsCompanionsEachOnceAndNeverItself)
     EXPECT_EQ(companions.similar()->count(), 0);
     hidden.hide(QStringLiteral("b"), {});
     EXPECT_EQ(shownIn(*companions.outfit()), "c");
-    EXPECT_EQ(companions.unitsSold(), 31);
+    EXPECT_EQ(companions.unitsSoldText(), QStringLiteral("12,031"));
 }
 
 TEST_F(RecoRailTest, TheCatalogStandsInWhereTheStoreRecommendsNothing)

@@ -34,6 +34,37 @@ protected:
         }
         throw std::runtime_error("no card is in view");
     }
+    /// The widths that a picture was asked for, in pixels, of those larger than the dots of colours.
+    [[nodiscard]] QList<int> askedWidths(const QString& picture)
+    {
+        QList<int> widths;
+        const QJsonArray requests = store.requests();
+        for (const auto request : requests) {
+            const int width = request[u"operation"].toString().section(u' ', 1).toInt();
+            if (request[u"path"] == picture && request[u"status"] == 200 && width > 64)
+                widths.append(width);
+        }
+        return widths;
+    }
+    /// The path of a card's first picture.
+    [[nodiscard]] static QString pictureOf(const QQuickItem* card)
+    {
+        return QUrl(card->property("pictures").toStringList().value(0)).path();
+    }
+    /// A card that has been made before it can be seen.
+    [[nodiscard]] QQuickItem* cardAhead() const
+    {
+        const QQuickItem* const grid = window.await(QStringLiteral("grid"));
+        const auto find = [&]() -> QQuickItem* {
+            for (QQuickItem* const card : window.findAll(QStringLiteral("card."), grid)) {
+                if (card->mapToItem(grid, QPointF()).y() > grid->height() + card->height())
+                    return card;
+            }
+            return nullptr;
+        };
+        waitUntil([&] { return find() != nullptr; }, "cards are made ahead");
+        return find();
+    }
     [[nodiscard]] double scrollY() const
     {
         return window.await(QStringLiteral("grid"))->property("scrollY").toDouble();
@@ -174,6 +205,47 @@ TEST_F(BrowsingJourney, ACollectionIsWalkedToItsEndAndComeBackTo)
     window.click(QStringLiteral("tab0"));
     window.awaitPage(QStringLiteral("Sabine bias slip dress"));
     EXPECT_EQ(store.count(QStringLiteral("Product")), 4);
+}
+
+TEST_F(BrowsingJourney, APieceThatThePointerRestsOnOpensWithItsPictures)
+{
+    start(QStringLiteral("https://www.loomstreet.example/collections/dresses"));
+    for (const bool isBeside : {false, true}) {
+        window.awaitPage(QStringLiteral("Dresses"));
+        shop->model().settings()->setSplitPreview(isBeside);
+        QQuickItem* const card = isBeside ? window.findInOrder(QStringLiteral("card.")).value(1) : cardInView();
+        const QString picture = pictureOf(card);
+        waitUntil([&] { return askedWidths(picture).size() == 1; }, "the card has its picture");
+        window.hover(card);
+        waitUntil([&] { return askedWidths(picture).size() == 2; }, "so has its page");
+        window.click(card);
+        const QQuickItem* const gallery = window.await(QStringLiteral("gallery"));
+        waitUntil([&] { return gallery->property("settled").toBool(); }, "the pictures are there");
+        EXPECT_EQ(askedWidths(picture).size(), 2) << testing::PrintToString(askedWidths(picture)) << " they were asked for at the width of the page";
+        EXPECT_GT(askedWidths(picture).last(), askedWidths(picture).first());
+        if (!isBeside)
+            window.press(QStringLiteral("Alt+Left"));
+    }
+}
+
+TEST_F(BrowsingJourney, PicturesOutOfSightWaitWhereNothingIsToBeFetchedAhead)
+{
+    store.setConfig({{QStringLiteral("features"), QJsonObject{{QStringLiteral("prefetchImages"), false}}}});
+    start(QStringLiteral("https://www.loomstreet.example/pages/brands-at-loomstreet"));
+    waitUntil([&] { return !shop->model().remoteConfig()->prefetchesImages(); }, "the store has switched it off");
+    follow(QStringLiteral("https://www.loomstreet.example/collections/dresses"));
+    window.awaitPage(QStringLiteral("Dresses"));
+    waitUntil([&] { return askedWidths(pictureOf(cardInView())).size() == 1; }, "what is in sight comes");
+    const QString ahead = pictureOf(cardAhead());
+    window.hover(cardInView());
+    EXPECT_FALSE(cardAhead()->property("due").toBool());
+    EXPECT_TRUE(askedWidths(ahead).isEmpty());
+
+    store.setConfig({{QStringLiteral("features"), QJsonValue::Null}});
+    shop->model().remoteConfig()->refresh();
+    waitUntil([&] { return askedWidths(ahead).size() == 1; }, "what comes next is there already");
+    shop->network().setMetered(true);
+    EXPECT_FALSE(cardAhead()->property("due").toBool());
 }
 
 } // namespace

@@ -2,8 +2,10 @@
 // what it does, a line for each event. Ends with its standard input.
 
 #include "platform/DesktopAppearance.h"
+#include "platform/FreedesktopNotifications.h"
 #include "platform/KeychainSecureStore.h"
 #include "platform/LaunchOptions.h"
+#include "platform/LauncherEntryBadge.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemLocaleReading.h"
 
@@ -11,6 +13,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSocketNotifier>
+#include <QUrl>
 #include <qcoro/qcorotask.h>
 
 #include <cstdio>
@@ -129,6 +132,53 @@ int runSecrets()
     return runUntilTold([&store](const QStringList& words) { static_cast<void>(obey(&store, words)); });
 }
 
+QCoro::Task<> printPermission(QCoro::Task<DesktopPermission> task)
+{
+    switch (co_await std::move(task)) {
+    case DesktopPermission::NotDetermined:
+        print(QStringLiteral("not asked"));
+        break;
+    case DesktopPermission::Denied:
+        print(QStringLiteral("denied"));
+        break;
+    case DesktopPermission::Authorised:
+    case DesktopPermission::Provisional:
+        print(QStringLiteral("authorised"));
+        break;
+    }
+}
+
+/// notifications: obeys "ask", "permission", "post ID sound|silent BODY" with a percent-encoded body, "withdraw ID" and
+/// "badge COUNT"
+int runNotifications()
+{
+    const QString application = QStringLiteral("com.loomstreet.Loomstreet");
+    FreedesktopNotifications notifications(application);
+    LauncherEntryBadge badge(application);
+    QObject::connect(&notifications, &DesktopNotifications::activated, &notifications,
+                     [](const QMap<QString, QString>& userInfo, const QString& token) {
+                         print(QStringLiteral("activated ") + userInfo.value(QStringLiteral("id")) + u' ' + token);
+                     });
+    QObject::connect(&notifications, &DesktopNotifications::settingsRequested, &notifications,
+                     [](const QString& token) { print(QStringLiteral("settings ") + token); });
+    return runUntilTold([&](const QStringList& words) {
+        if (words.value(0) == QLatin1String("ask"))
+            static_cast<void>(printPermission(notifications.requestPermission()));
+        else if (words.value(0) == QLatin1String("permission"))
+            static_cast<void>(printPermission(notifications.permission()));
+        else if (words.value(0) == QLatin1String("post"))
+            notifications.post({.requestIdentifier = words.value(1),
+                                .title = QStringLiteral("Title & <b>"),
+                                .body = QUrl::fromPercentEncoding(words.value(3).toUtf8()),
+                                .playsSound = words.value(2) == QLatin1String("sound"),
+                                .userInfo = {{QStringLiteral("id"), words.value(1)}}});
+        else if (words.value(0) == QLatin1String("withdraw"))
+            notifications.withdraw(words.value(1));
+        else if (words.value(0) == QLatin1String("badge"))
+            badge.show(words.value(1).toInt());
+    });
+}
+
 /// options [argument…]
 int runOptions(QStringList arguments)
 {
@@ -160,6 +210,8 @@ int main(int argc, char** argv)
         return runInstance(arguments);
     if (what == QByteArrayView("secrets"))
         return runSecrets();
+    if (what == QByteArrayView("notifications"))
+        return runNotifications();
     if (what == QByteArrayView("options"))
         return runOptions(arguments);
     if (what == QByteArrayView("locale"))

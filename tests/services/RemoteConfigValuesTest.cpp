@@ -59,6 +59,7 @@ TEST(RemoteConfigValuesTest, WhateverIsOfTheWrongTypeAloneIsAsIfItWereNotThere)
         {"features.imageSearch", "\"no\"", "features", R"({"somethingNew": true})"},
         {"copy", "7", "copy", "{}"},
         {"copy", R"({"a": 1, "b": {"en": 2, "de": "x", "fr": " "}, "c": {}})", "copy", R"({"b": {"de": "x"}})"},
+        {"copy", R"({"a": {"en": "\u202eTurned\u0007 \n round"}})", "copy", R"({"a": {"en": "Turned\nround"}})"},
         {"home.dashboard", nullptr, "dashboard", nullptr},
         {"home.dashboard", R"("orders")", "dashboard", nullptr},
         {"home.dashboard", "[]", "dashboard", "[]"},

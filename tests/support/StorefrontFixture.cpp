@@ -49,9 +49,10 @@ QJsonObject StorefrontFixture::variables(std::size_t request) const
 Answer StorefrontFixture::answerTo(const ReceivedRequest& request)
 {
     const QString name = operationIn(request.json());
-    const QString country =
-        request.json().value(QStringLiteral("variables")).toObject().value(QStringLiteral("country")).toString();
-    for (const QString& key : {name + QLatin1Char(' ') + country, name}) {
+    const QJsonObject variables = request.json().value(QStringLiteral("variables")).toObject();
+    const QString country = variables.value(QStringLiteral("country")).toString();
+    const QString handle = variables.value(QStringLiteral("handle")).toString();
+    for (const QString& key : {name + QLatin1Char(' ') + country, name + QLatin1Char(' ') + handle, name}) {
         if (auto& answers = m_told[key]; !answers.empty()) {
             Answer next = std::move(answers.front());
             answers.pop_front();

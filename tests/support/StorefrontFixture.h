@@ -19,7 +19,7 @@ protected:
     StorefrontFixture();
     ~StorefrontFixture() override;
 
-    /// `operation` is a name such as "Product", or a name and a country such as "RateSample DE".
+    /// `operation` is a name such as "Product", or a name and a country or a handle such as "RateSample DE".
     void answer(const QString& operation, const Answer& answer) { m_told[operation].push_back(answer); }
     void answer(const char* operation, const Answer& answer) { this->answer(QString::fromLatin1(operation), answer); }
     /// Answers with {"data": `data`}.

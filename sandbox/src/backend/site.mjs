@@ -10,7 +10,7 @@ export const widgetPrefix = '/api/support/widget';
 const publicPrefix = '/api/pub';
 const uploadLimit = 16 * 1024 * 1024;
 
-/** The backend's host: JSON by POST, reading by GET, uploads as multipart, and the few pages a browser sees of it. */
+/** The backend's host: JSON by POST, reading by GET, uploads as multipart, and the few pages and files a browser sees of it. */
 export class BackendSite {
   #store;
   #journal;
@@ -26,6 +26,10 @@ export class BackendSite {
     if (sendStyles(exchange)) return;
     if (exchange.path === '/favicon.ico') {
       sendIcon(exchange);
+      return;
+    }
+    if (this.#store.supportFiles.takes(exchange)) {
+      this.#store.supportFiles.send(exchange);
       return;
     }
     try {

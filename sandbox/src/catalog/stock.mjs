@@ -3,10 +3,12 @@ import { BadRequest } from '../server/exchange.mjs';
 /** Sells out or restocks single variants while the store runs, and puts everything back. */
 export class Stock {
   #catalog;
+  #changed;
   #original = new Map();
 
-  constructor(catalog) {
+  constructor(catalog, { changed }) {
     this.#catalog = catalog;
+    this.#changed = changed;
   }
 
   /** How many there are from now on: a whole number, or null for as many as anyone wants. */
@@ -16,6 +18,7 @@ export class Stock {
     if (stock !== null && !(Number.isInteger(stock) && stock >= 0)) throw new BadRequest('stock is a whole number, or null');
     if (!this.#original.has(variant)) this.#original.set(variant, variant.stock);
     put(variant, stock);
+    this.#changed();
   }
 
   clear() {

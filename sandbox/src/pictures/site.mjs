@@ -16,6 +16,11 @@ export class PictureSite {
     this.#journal = journal;
   }
 
+  /** Pictures are asked for at one width or another, which is worth knowing of a request. */
+  identify(exchange) {
+    exchange.operation = `Picture ${Number.parseInt(exchange.query.get('width'), 10) || 'of any width'}`;
+  }
+
   async handle(exchange) {
     const [root, handle, file, ...rest] = exchange.segments;
     const number = /^(\d+)\.jpg$/.exec(file ?? '')?.[1];

@@ -1,7 +1,6 @@
 import { collectionTitle } from '../catalog/titles.mjs';
 import { hash } from '../random.mjs';
-import { words } from '../storefront/searchIndex.mjs';
-import { fillers, longestPhrase, vocabulary } from './vocabulary.mjs';
+import { fits, understand } from './understanding.mjs';
 
 const mostCollections = 6;
 const longestQuery = 500;
@@ -67,46 +66,6 @@ export class SentenceSearch {
     return handles.map((handle) => this.#catalog.collectionByHandle.get(handle))
       .map((collection) => ({ handle: collection.handle, title: collectionTitle(collection, language.toUpperCase()) }));
   }
-}
-
-/** {facets: facet → meanings, price: {from, to} or null, others: words without a meaning of their own}. */
-function understand(query) {
-  const { price, rest } = priceIn(query);
-  const parts = words(rest);
-  const facets = new Map();
-  const others = [];
-  for (let at = 0; at < parts.length;) {
-    let length = Math.min(longestPhrase, parts.length - at);
-    while (length > 0 && !vocabulary.has(parts.slice(at, at + length).join(' '))) length -= 1;
-    if (length > 0) {
-      const meaning = vocabulary.get(parts.slice(at, at + length).join(' '));
-      facets.set(meaning.facet, [...(facets.get(meaning.facet) ?? []), meaning]);
-    } else if (!fillers.has(parts[at])) {
-      others.push(parts[at]);
-    }
-    at += Math.max(1, length);
-  }
-  return { facets, price, others };
-}
-
-const amount = '(?:US)?\\$?\\s?(\\d{1,6}(?:\\.\\d\\d)?)(?:\\s?(?:dollars?|usd|\\$))?';
-const prices = [
-  [new RegExp(`\\b(?:between|from)\\s+${amount}\\s+(?:and|to)\\s+${amount}`, 'i'), (from, to) => ({ from, to })],
-  [new RegExp(`\\b(?:under|below|less than|up to|at most|max)\\s+${amount}`, 'i'), (to) => ({ from: 0, to })],
-  [new RegExp(`\\b(?:over|above|more than|at least)\\s+${amount}`, 'i'), (from) => ({ from, to: Infinity })],
-];
-
-function priceIn(query) {
-  for (const [pattern, read] of prices) {
-    const match = pattern.exec(query);
-    if (match) return { price: read(...match.slice(1).map(Number)), rest: query.replace(match[0], ' ') };
-  }
-  return { price: null, rest: query };
-}
-
-/** Meanings of one facet are alternatives, facets narrow each other. */
-function fits(piece, facets) {
-  return [...facets.values()].every((meanings) => meanings.some(({ holds }) => holds(piece)));
 }
 
 function byPopularity(pieces) {

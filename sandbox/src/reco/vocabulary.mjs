@@ -22,6 +22,7 @@ const meanings = [
   colour('pink', 'rose'),
   colour('purple', 'plum'),
   colour('yellow', 'butter'),
+  colour('burgundy', 'plum madder', 'burgundy, wine, bordeaux'),
   ...['sage', 'olive', 'bottle', 'madder', 'ink', 'chalk', 'ecru', 'camel', 'dusk', 'rose', 'plum', 'butter'].map((name) => colour(name, name)),
   occasion('work', 'work, office, business'),
   occasion('date night', 'date, date night, dinner'),
@@ -38,6 +39,8 @@ const meanings = [
   occasion('festival', 'festival'),
   occasion('night out', 'night out, club'),
   occasion('brunch', 'brunch'),
+  occasion('gallery opening', 'gallery, museum, exhibition, theatre, theater, concert'),
+  occasion('formal events', 'formal, gala, black tie, opera'),
   season('summer', 'summer, hot', ({ cloth: { tag, name }, drawing }) => drawing !== 'trench' && (name === 'linen' || tag === 'Silk' || tag === 'Cotton')),
   season('winter', 'winter, cold, snow', ({ cloth: { tag }, drawing }) => ['Wool', 'Cashmere'].includes(tag) || ['boot', 'trench'].includes(drawing)),
   season('autumn', 'autumn, fall', ({ drawing }) => ['trench', 'boot', 'knit', 'blazer'].includes(drawing)),
@@ -59,8 +62,8 @@ export const vocabulary = new Map(meanings.flatMap(([facet, says, phrases, holds
   phrases.split(', ').map((phrase) => [words(phrase).join(' '), { facet, says, holds, collection }])
 )));
 
-export const fillers = new Set(words('a an and any are at best find for from get good i idea in is it like look looking me my need nice of on or outfit piece please ' +
-  'show some something stuff that the to want wear what with'));
+export const fillers = new Set(words('a an and any are at best by can could do find for from get good got have i idea in is it like look looking me my need nice of on or outfit piece please ' +
+  'show some something stuff that the to want wear what with would you'));
 
 function kind(collection, phrases) {
   return ['kind', collection, phrases, ({ garment }) => garment.collections.includes(collection), collection];

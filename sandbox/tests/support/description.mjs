@@ -32,8 +32,8 @@ export class Description {
   }
 
   #parts({ requestBody, parameters = [], responses }) {
-    const json = requestBody?.content['application/json'];
-    return { request: json?.schema, requests: valuesOf(json?.examples), parameters: parameters.filter((parameter) => parameter.in === 'query'), responses };
+    const [[type, body] = []] = Object.entries(requestBody?.content ?? {});
+    return { type, request: body?.schema, requests: valuesOf(body?.examples), parameters: parameters.filter((parameter) => parameter.in === 'query'), responses };
   }
 
   /** What is wrong with a value; members that are not described are wrong in what the store sends. */

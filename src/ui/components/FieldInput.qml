@@ -20,6 +20,8 @@ FocusScope {
     property string error
     // What stands after the input, as the button that sends it; the words above and below take the whole width.
     property real trailingRoom: 0
+    // An error that is told of elsewhere is about it.
+    property bool flawed: false
     // What was typed has been checked and is right.
     property bool confirmed: false
 
@@ -61,7 +63,7 @@ FocusScope {
                 radius: Theme.radiusControl
                 color: Theme.surface
                 border.width: Theme.strokeControl
-                border.color: field.failed ? Theme.danger : input.activeFocus ? Theme.ink : Theme.border
+                border.color: field.failed || field.flawed ? Theme.danger : input.activeFocus ? Theme.ink : Theme.border
 
                 FocusRing { target: input }
             }

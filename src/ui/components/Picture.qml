@@ -14,11 +14,15 @@ Item {
     property color backdrop: Theme.paper
     property int radius: Theme.radiusPicture
     property string description // for assistive tools, where no words beside it say the same
+    // It may be loaded: one that is not in sight yet may have to wait until it is.
+    property bool due: true
 
     readonly property bool missing: PictureAddress.at(address, 1) === ""
     readonly property bool ready: front.status === Image.Ready
     readonly property bool broken: !missing && front.status === Image.Error
     readonly property bool loading: !missing && !broken && !ready
+    readonly property bool awaited: front.status === Image.Loading
+    property bool counted: false // among those that are waited for
 
     // In pixels, not points, and one of a few steps.
     readonly property int wantedWidth: PictureAddress.widthStep(Math.ceil(width * Screen.devicePixelRatio))
@@ -26,8 +30,17 @@ Item {
     // Loads from the start, as after a failure.
     function load(): void {
         sharper.source = ""
-        front.show(PictureAddress.at(address, wantedWidth), wantedWidth, ratio)
+        front.show(due ? PictureAddress.at(address, wantedWidth) : "", wantedWidth, ratio)
         front.appears = front.status === Image.Loading
+    }
+    function count(): void {
+        if (counted === awaited)
+            return
+        counted = awaited
+        if (counted)
+            PicturePrefetch.beginWaiting()
+        else
+            PicturePrefetch.endWaiting()
     }
 
     implicitWidth: Theme.cardMinimumWidth
@@ -38,6 +51,10 @@ Item {
     Accessible.ignored: description === ""
 
     onAddressChanged: load()
+    onDueChanged: if (!ready) load()
+    onAwaitedChanged: count()
+    Component.onCompleted: count()
+    Component.onDestruction: if (counted) PicturePrefetch?.endWaiting() // with the engine it may have gone first
     onWantedWidthChanged: {
         if (!ready)
             load()

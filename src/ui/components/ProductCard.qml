@@ -25,6 +25,8 @@ Item {
 
     // It goes by under a pointer that does not mean it.
     property bool passing: false
+    // Its picture may be loaded.
+    property alias due: picture.due
 
     readonly property bool hovered: hover.hovered && !passing
     // Decoded, or known never to be.

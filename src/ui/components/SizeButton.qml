@@ -6,9 +6,14 @@ Choice {
     id: control
 
     property bool soldOut: false
+    // It is the shopper's, as far as that is known; words nearby say so too.
+    property bool recommended: false
 
     horizontalPadding: Theme.space1_5
-    accessibleName: soldOut ? qsTranslate("Loomstreet", "%1, sold out").arg(text) : text
+    accessibleName: {
+        const name = soldOut ? qsTranslate("Loomstreet", "%1, sold out").arg(text) : text
+        return recommended ? qsTranslate("Loomstreet", "%1, recommended for you").arg(name) : name
+    }
 
     contentItem: TextLabel {
         objectName: "label"
@@ -30,6 +35,15 @@ Choice {
         border.width: control.selected ? Theme.strokeSelected : Theme.strokeControl
         border.color: control.selected ? Theme.ink : control.soldOut ? Theme.hairline : Theme.border
 
+        Rectangle {
+            objectName: "recommended"
+            anchors { right: parent.right; top: parent.top; margins: 5 }
+            visible: control.recommended
+            width: 6
+            height: 6
+            radius: 3
+            color: Theme.accent
+        }
         FocusRing { target: control }
     }
 }

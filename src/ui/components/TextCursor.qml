@@ -1,14 +1,14 @@
 import QtQuick
-import QtQuick.Templates as T
 import Loomstreet.Theme
 
 // The cursor of the field that it stands in: as tall as the field's own letters, whichever script the text is in.
 Item {
     id: cursor
 
-    readonly property T.TextField field: parent as T.TextField
-    readonly property int letters: field ? field.font.pixelSize : 0
-    readonly property bool shown: field !== null && field.activeFocus && !field.readOnly
+    // A line of text, or several.
+    readonly property var field: parent
+    readonly property int letters: field?.font?.pixelSize ?? 0
+    readonly property bool shown: field?.selectionStart !== undefined && field.activeFocus && !field.readOnly
                                   && field.selectionStart === field.selectionEnd
     property bool lit: true
 

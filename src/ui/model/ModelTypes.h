@@ -412,3 +412,115 @@ struct WindowSessionForQml {
     QML_NAMED_ELEMENT(WindowSession)
     QML_UNCREATABLE("made by the application model")
 };
+
+struct MeasurementsModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::MeasurementsModel)
+    QML_NAMED_ELEMENT(MeasurementsModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct MiraChatModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::MiraChatModel)
+    QML_NAMED_ELEMENT(MiraChatModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct MiraLookModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::MiraLookModel)
+    QML_NAMED_ELEMENT(MiraLookModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct MiraThreadModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::MiraThreadModel)
+    QML_NAMED_ELEMENT(MiraThreadModel)
+    QML_UNCREATABLE("made by the chat with the stylist")
+};
+
+struct MiraTopicsModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::MiraTopicsModel)
+    QML_NAMED_ELEMENT(MiraTopicsModel)
+    QML_UNCREATABLE("made by the chat with the stylist")
+};
+
+struct MiraWeatherStoreForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::MiraWeatherStore)
+    QML_NAMED_ELEMENT(MiraWeatherStore)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct SizeAdviceModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::SizeAdviceModel)
+    QML_NAMED_ELEMENT(SizeAdviceModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct WardrobeModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::WardrobeModel)
+    QML_NAMED_ELEMENT(WardrobeModel)
+    QML_UNCREATABLE("made by the chat with the stylist")
+};
+
+struct AccountNotificationsForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AccountNotifications)
+    QML_NAMED_ELEMENT(AccountNotifications)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct DesktopNotifierForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::DesktopNotifier)
+    QML_NAMED_ELEMENT(DesktopNotifier)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct NotificationBadgeForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::NotificationBadge)
+    QML_NAMED_ELEMENT(NotificationBadge)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct NotificationBannerCenterForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::NotificationBannerCenter)
+    QML_NAMED_ELEMENT(NotificationBannerCenter)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct NotificationSettingsForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::NotificationSettings)
+    QML_NAMED_ELEMENT(NotificationSettings)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct NotificationsModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::NotificationsModel)
+    QML_NAMED_ELEMENT(NotificationsModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct SupportChatModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::SupportChatModel)
+    QML_NAMED_ELEMENT(SupportChatModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct SupportThreadModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::SupportThreadModel)
+    QML_NAMED_ELEMENT(SupportThreadModel)
+    QML_UNCREATABLE("made by the chat with customer service")
+};

@@ -11,6 +11,14 @@ PageBase {
     readonly property bool known: auth.phase !== AuthStore.Unknown
     readonly property bool stuck: !known && auth.isStuck
 
+    readonly property int unreadReplies: app.support.unreadCount
+    readonly property var supportWay: ({
+        id: "support", icon: "headphones", title: qsTranslate("Loomstreet", "Customer Service"),
+        note: unreadReplies === 0 ? qsTranslate("Loomstreet", "Orders, returns and sizes")
+            : unreadReplies === 1 ? qsTranslate("Loomstreet", "1 new message")
+                                  : qsTranslate("Loomstreet", "%1 new messages").arg(unreadReplies)
+    })
+
     title: qsTranslate("Loomstreet", "MyLST")
     settled: known || stuck
     flickable: flick
@@ -33,6 +41,7 @@ PageBase {
         case "coupons": return router.openCoupons()
         case "profile": return router.openProfile()
         case "privacy": return app.showSettings("privacy")
+        case "support": return void (session.isSupportOpen = true)
         }
     }
 
@@ -115,10 +124,12 @@ PageBase {
                 title: page.auth.isSignedIn ? qsTranslate("Loomstreet", "Account") : qsTranslate("Loomstreet", "Without an account")
                 ways: page.auth.isSignedIn
                       ? [{ id: "profile", icon: "person.crop.circle", title: qsTranslate("Loomstreet", "Profile"), note: qsTranslate("Loomstreet", "Name, birthday and newsletters") },
-                         { id: "privacy", icon: "lock", title: qsTranslate("Loomstreet", "Privacy"), note: qsTranslate("Loomstreet", "What the store learns of you") }]
+                         { id: "privacy", icon: "lock", title: qsTranslate("Loomstreet", "Privacy"), note: qsTranslate("Loomstreet", "What the store learns of you") },
+                         page.supportWay]
                       : [{ id: "tracking", icon: "truck", title: qsTranslate("Loomstreet", "Track a package"), note: qsTranslate("Loomstreet", "By its number or the order’s") },
                          { id: "wishlist", icon: "heart", title: qsTranslate("Loomstreet", "Wishlist"), note: qsTranslate("Loomstreet", "Kept on this computer") },
-                         { id: "privacy", icon: "lock", title: qsTranslate("Loomstreet", "Privacy"), note: qsTranslate("Loomstreet", "What the store learns of you") }]
+                         { id: "privacy", icon: "lock", title: qsTranslate("Loomstreet", "Privacy"), note: qsTranslate("Loomstreet", "What the store learns of you") },
+                         page.supportWay]
                 onChosen: id => page.follow(id)
             }
             LinkButton {

@@ -18,6 +18,7 @@ Column {
     signal added()
     signal compareAsked()
 
+    readonly property SizeAdviceModel advice: app && product ? app.makeSizeAdvice(product, product) : null
     readonly property var reviews: product?.reviews ?? ({})
     readonly property var service: product?.service ?? ({})
 
@@ -77,8 +78,8 @@ Column {
         TextLabel {
             objectName: "sold"
             anchors { right: parent.right; bottom: prices.bottom; bottomMargin: (prices.height - height) / 3 }
-            visible: (box.companions?.unitsSold ?? 0) > 0 && prices.width + Theme.space2 + implicitWidth <= box.width
-            text: qsTranslate("Loomstreet", "%1 sold").arg(box.companions?.unitsSold ?? 0)
+            visible: (box.companions?.unitsSold ?? "") !== "" && prices.width + Theme.space2 + implicitWidth <= box.width
+            text: qsTranslate("Loomstreet", "%1 sold").arg(box.companions?.unitsSold ?? "")
             type: Theme.type.small
             figures: true
             color: Theme.muted
@@ -103,6 +104,7 @@ Column {
 
             width: box.width
             group: box.product.options[index]
+            advice: box.advice
             hint: isSwatch || box.product.sizeHint === "" || group?.name.toLowerCase() !== "size" ? ""
                   : qsTranslate("Loomstreet", "Most chosen: %1").arg(box.product.sizeHint)
             onChosen: value => box.product.choose(group.name, value)
@@ -124,6 +126,19 @@ Column {
         product: box.buysElsewhere ? null : box.product
         session: box.session
         onAdded: box.added()
+    }
+    PushButton {
+        objectName: "styleProduct"
+        width: parent.width
+        size: "primary"
+        iconName: "sparkles"
+        on: box.session.isMiraDocked
+        enabled: box.product.title !== ""
+        text: qsTranslate("Loomstreet", "Help me style this")
+        onClicked: {
+            box.app.mira.styleProduct(box.product.item)
+            box.session.isMiraDocked = true
+        }
     }
     Flow {
         id: ways

@@ -30,6 +30,7 @@ PageBase {
         home.reload()
         collections.reload()
         dashboard.reload()
+        app.remoteConfig.refresh()
     }
     function begin(): void {
         if (!shown)
@@ -38,13 +39,6 @@ PageBase {
             collections = app.makeDepartment(page, "")
         home.load()
         collections.load()
-    }
-    function noteOf(rail: RecoRail): string {
-        switch (rail?.kind) {
-        case "for-you": return qsTranslate("Loomstreet", "Based on what you love")
-        case "new-arrivals": return qsTranslate("Loomstreet", "New this week")
-        default: return rail?.label ?? ""
-        }
     }
 
     onShownChanged: begin()
@@ -140,7 +134,7 @@ PageBase {
                     objectName: "rail." + rail?.kind + (rail?.handle ? "." + rail.handle : "")
                     width: column.width
                     title: rail?.title ?? ""
-                    note: page.noteOf(rail)
+                    note: rail?.note ?? ""
                     products: rail?.pieces ?? null
                     waiting: rail?.phase === RecoRail.Loading
                     hideable: true

@@ -8,5 +8,6 @@ SizeButton {
     text: choice.value.text
     selected: choice.value.isSelected
     soldOut: !choice.value.isAvailable
+    recommended: choice.recommended
     onClicked: choice.chosen()
 }

@@ -6,6 +6,7 @@ Loader {
 
     property var value: ({ text: "", picture: "", isSelected: false, isAvailable: true })
     property bool isSwatch: false
+    property bool recommended: false
 
     signal chosen()
 

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Loomstreet.Components
+import Loomstreet.Model
 import Loomstreet.Theme
 
 // One option of a piece: swatches for what differs by its pictures, buttons for the rest.
@@ -9,9 +10,11 @@ Column {
 
     property var group // name, selected, isSwatch, choices
     property string hint
+    property SizeAdviceModel advice: null
 
     readonly property bool isSwatch: group?.isSwatch ?? false
     readonly property var choices: group?.choices ?? []
+    readonly property string recommended: row.advice !== null && row.advice.option === group?.name ? row.advice.recommendedSize : ""
     // More than these are made between frames.
     readonly property int choicesAtOnce: 16
 
@@ -19,20 +22,35 @@ Column {
 
     spacing: Theme.space1
 
-    Row {
-        anchors.left: parent.left
-        spacing: Theme.space1
+    Item {
+        width: parent.width
+        height: name.height
 
         TextLabel {
+            id: name
+
+            anchors.left: parent.left
             text: row.group?.name ?? ""
             type: Theme.type.label
         }
         TextLabel {
             objectName: "selected"
+            anchors { left: name.right; leftMargin: Theme.space1; right: recommendation.left; rightMargin: Theme.space1 }
             visible: text !== ""
             text: row.isSwatch ? row.group?.selected ?? "" : row.hint
             type: Theme.type.small
             color: Theme.muted
+        }
+        // Beside the name, so that nothing moves when it comes.
+        Loader {
+            id: recommendation
+
+            readonly property bool wanted: row.recommended !== ""
+
+            anchors { right: parent.right; bottom: name.bottom; bottomMargin: -3 }
+            visible: wanted
+            onWantedChanged: if (wanted && status === Loader.Null) setSource("SizeAdvice.qml", { advice: row.advice })
+            Component.onCompleted: wantedChanged()
         }
     }
     Flow {
@@ -48,6 +66,7 @@ Column {
 
                 asynchronous: row.choices.length > row.choicesAtOnce
                 isSwatch: row.isSwatch
+                recommended: row.recommended !== "" && value.text === row.recommended
                 value: row.choices[index] ?? ({ text: "", picture: "", isSelected: false, isAvailable: true })
                 onChosen: row.chosen(value.text)
             }

@@ -5,7 +5,14 @@ import Loomstreet.Components
 PageBase {
     id: page
 
+    function tell(): void {
+        if (shown)
+            app.notifier.deliverUnavailable(context.entry.handle)
+    }
+
     settled: true
+    onShownChanged: tell()
+    Component.onCompleted: tell()
 
     EmptyState {
         objectName: "paused"

@@ -47,6 +47,12 @@ ProductCard {
         const inTab = (modifiers & Qt.ControlModifier) !== 0
         card.opened(card.handle, card.item, inTab ? OpenModes.NewTab : OpenModes.Automatic)
     }
+    onHoveredChanged: {
+        if (hovered)
+            PicturePrefetch.expect(pictures)
+        else
+            PicturePrefetch.forget(pictures)
+    }
     onOpenFull: card.opened(card.handle, card.item, OpenModes.Page)
 
     Accessible.checkable: picking

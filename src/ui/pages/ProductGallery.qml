@@ -13,9 +13,8 @@ FocusScope {
     property bool narrow: false
 
     readonly property var pictures: product ? product.pictures : []
-    readonly property int perView: pictures.length > 1 && !narrow && main.width >= 520 ? 2 : 1
-    readonly property int thumbWidth: 64
-    readonly property real pictureWidth: (main.width - (perView - 1) * Theme.space1_5) / perView
+    readonly property int perView: measure.perView
+    readonly property real pictureWidth: measure.pictureWidth
     readonly property bool settled: pictures.length === 0 || main.decoded >= Math.min(pictures.length, perView)
 
     signal enlarged(int index)
@@ -34,6 +33,7 @@ FocusScope {
 
     onChosenIndexChanged: show(chosenIndex)
     onPicturesChanged: {
+        measure.several = pictures.length > 1 // first: pictures are asked for at the width they will have
         thumbs.model = pictures
         main.model = pictures
         const again = pictures.indexOf(shownPicture)
@@ -42,6 +42,14 @@ FocusScope {
         placing.start()
     }
     onPictureWidthChanged: placing.start()
+
+    GalleryMeasure {
+        id: measure
+
+        width: gallery.width
+        several: false
+        narrow: gallery.narrow
+    }
 
     objectName: "gallery"
     implicitHeight: Math.round(pictureWidth / Theme.cardPictureRatio)
@@ -60,8 +68,8 @@ FocusScope {
 
         objectName: "thumbs"
         anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
-        width: gallery.thumbWidth
-        visible: gallery.pictures.length > 1 && !gallery.narrow
+        width: measure.thumbWidth
+        visible: measure.hasThumbs
         spacing: Theme.space1
         clip: true
         boundsBehavior: Flickable.StopAtBounds
@@ -75,7 +83,7 @@ FocusScope {
             required property int index
 
             objectName: "thumb" + index
-            width: gallery.thumbWidth
+            width: measure.thumbWidth
             height: small.implicitHeight
             focusPolicy: Qt.NoFocus
             accessibleName: qsTranslate("Loomstreet", "Picture %1 of %2").arg(index + 1).arg(gallery.pictures.length)
@@ -125,7 +133,7 @@ FocusScope {
         preferredHighlightBegin: 0
         preferredHighlightEnd: gallery.pictureWidth
         highlightMoveDuration: Theme.durationPanel
-        cacheBuffer: Math.max(0, width)
+        cacheBuffer: PicturePrefetch.enabled ? Math.max(0, width) : 0
         onMovementEnded: gallery.show(indexAt(contentX + gallery.pictureWidth / 2, 0))
 
         delegate: Picture {

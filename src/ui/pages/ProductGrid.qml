@@ -44,7 +44,7 @@ FocusScope {
     // Pictures of cards that have been decoded.
     property int decoded: 0
     readonly property int firstCards: 8
-    readonly property bool settled: count > 0 && decoded >= Math.min(count, firstCards)
+    readonly property bool settled: count > 0 && decoded >= Math.min(count, firstCards, PicturePrefetch.enabled ? count : columns)
 
     signal opened(string handle, var item, int mode)
     signal nearEnd()
@@ -65,7 +65,6 @@ FocusScope {
         seenBefore = firstSeen
         pool.look(firstSeen, lastSeen, firstSeen - up * columns, lastSeen + down * columns)
     }
-
     function reachable(y: real): real {
         const lowest = Math.max(-flick.topMargin, rowY(count + columns - 1) + flick.bottomMargin - height)
         return Math.max(-flick.topMargin, Math.min(y, lowest))
@@ -89,29 +88,6 @@ FocusScope {
             following.start()
         }
     }
-    function move(event: var): void {
-        const page = columns * Math.max(1, Math.floor(height / cellHeight))
-        const forwards = LayoutMirroring.enabled ? Qt.Key_Left : Qt.Key_Right
-        const column = currentIndex % columns
-        let place = currentIndex
-        switch (event.key) {
-        case Qt.Key_Left:
-        case Qt.Key_Right: place += event.key === forwards ? 1 : -1; break
-        case Qt.Key_Up: place -= columns; break
-        case Qt.Key_Down: place += columns; break
-        case Qt.Key_PageUp: place = Math.max(column, place - page); break
-        case Qt.Key_PageDown: place = Math.min(place + page, count - 1); break
-        case Qt.Key_Home: place = 0; break
-        case Qt.Key_End: place = count - 1; break
-        default: return
-        }
-        // Below the last piece of a column there may be one in another.
-        if (event.key === Qt.Key_Down && place >= count && rowY(currentIndex) < rowY(count - 1))
-            place = count - 1
-        event.accepted = place >= 0 && place < count && place !== currentIndex
-        if (event.accepted)
-            select(place)
-    }
 
     onFirstSeenChanged: lookAround()
     onLastSeenChanged: lookAround()
@@ -125,7 +101,7 @@ FocusScope {
     Keys.onPressed: event => {
         event.accepted = false
         if ((event.modifiers & ~Qt.KeypadModifier) === 0)
-            move(event)
+            keys.press(event)
     }
 
     Accessible.role: Accessible.List
@@ -141,7 +117,6 @@ FocusScope {
         id: pool
 
         source: grid.products
-        onCompleteChanged: if (!complete) grounds.made = Math.max(grounds.made, grid.lastSeen - grid.firstSeen + 1)
         onClosingUp: cards.closing = true
         onClosedUp: cards.closing = false
     }
@@ -179,27 +154,13 @@ FocusScope {
             x: grid.padding
             y: -flick.topMargin
         }
-        // Where cards are still to come.
-        Repeater {
+        GridGrounds {
             id: grounds
 
-            property int made: 0
-
-            model: made
-
-            Rectangle {
-                required property int index
-
-                readonly property int place: pool.complete ? -1 : grid.firstSeen + index
-
-                x: place < 0 ? 0 : cards.columnX(place)
-                y: grid.rowY(place)
-                width: grid.cardWidth
-                height: measure.pictureHeight
-                visible: place >= 0 && place <= Math.min(grid.lastSeen, grid.count - 1)
-                radius: Theme.radiusPicture
-                color: Theme.skeleton
-            }
+            grid: grid
+            pool: pool
+            cards: cards
+            pictureHeight: measure.pictureHeight
         }
         Repeater {
             id: cards
@@ -224,6 +185,7 @@ FocusScope {
                 width: grid.cardWidth
                 visible: place >= 0
                 passing: scrolling.running
+                due: PicturePrefetch.enabled || (place >= grid.firstSeen && place <= grid.lastSeen)
                 previewed: handle === grid.previewed
                 wishlist: grid.wishlist
                 picking: grid.picking
@@ -275,6 +237,11 @@ FocusScope {
         easing.bezierCurve: Theme.curveStandard
     }
     GridAnchor { grid: grid }
+    GridKeys {
+        id: keys
+
+        grid: grid
+    }
     FocusFollower { flickable: flick }
 
     Binding { when: grid.head !== null; target: grid.head; property: "parent"; value: above }

@@ -126,8 +126,11 @@ Column {
                 focus: index === cards.focused
                 activeFocusOnTab: index === cards.focused
                 // Beyond the rail's edges a card is out of sight, not cut.
-                opacity: index >= rail.first && index < rail.first + rail.perView ? 1 : 0
+                readonly property bool inView: index >= rail.first && index < rail.first + rail.perView
+
+                opacity: inView ? 1 : 0
                 visible: opacity > 0
+                due: PicturePrefetch.enabled || inView
                 onOpened: (handle, item, mode) => {
                     cards.focused = index
                     rail.opened(handle, item, mode)

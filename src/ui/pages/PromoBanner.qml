@@ -10,7 +10,8 @@ Rectangle {
     property var promo
     property bool narrow: false
 
-    readonly property bool filled: promo !== undefined && promo !== null
+    // Without a word and without a picture it would be an empty box.
+    readonly property bool filled: pictured || (promo?.title ?? "") !== ""
     readonly property bool pictured: (promo?.image ?? "") !== ""
     readonly property int inset: narrow ? Theme.space2 : Theme.space4
 
@@ -54,7 +55,7 @@ Rectangle {
             objectName: "promo"
             anchors.left: parent.left
             kind: "primary"
-            text: qsTranslate("Loomstreet", "Discover")
+            text: qsTranslate("Loomstreet", "Discover", "home.promo.button")
             accessibleName: text + ": " + (banner.promo?.title ?? "")
             onClicked: banner.opened()
         }

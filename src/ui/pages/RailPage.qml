@@ -60,7 +60,7 @@ PageBase {
             width: grid.room
             narrow: page.narrow
             title: page.title
-            note: page.rail?.label ?? ""
+            note: page.rail?.note ?? ""
         }
         foot: ListingFooter {
             width: grid.room

@@ -31,8 +31,8 @@ Window {
     }
 
     // As large as it was, as far as the screen allows.
-    width: session.lastWidth > 0 ? Math.min(session.lastWidth, Screen.desktopAvailableWidth) : Theme.breakpointDefaultWindow.width
-    height: session.lastHeight > 0 ? Math.min(session.lastHeight, Screen.desktopAvailableHeight) : Theme.breakpointDefaultWindow.height
+    width: Math.min(session.lastWidth > 0 ? session.lastWidth : Theme.breakpointDefaultWindow.width, Screen.desktopAvailableWidth)
+    height: Math.min(session.lastHeight > 0 ? session.lastHeight : Theme.breakpointDefaultWindow.height, Screen.desktopAvailableHeight)
     minimumWidth: Theme.breakpointMinimumWindow.width
     minimumHeight: Theme.breakpointMinimumWindow.height
     flags: ownFrame ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
@@ -92,6 +92,11 @@ Window {
     ThemeInputs {
         settings: window.app.settings
         system: window.systemAppearance
+    }
+    PrefetchInputs {
+        app: window.app
+        session: window.session
+        pageWidth: pages.width
     }
     CommandShortcuts {
         commands: window.commands
@@ -157,6 +162,7 @@ Window {
                 id: pages
 
                 anchors { left: parent.left; right: preview.left; top: bar.bottom; bottom: parent.bottom }
+                enabled: !dock.covers
                 app: window.app
                 session: window.session
                 begun: window.wasSeen
@@ -167,7 +173,7 @@ Window {
 
                 readonly property bool wanted: window.session.isPreviewShown
 
-                anchors { right: parent.right; top: bar.bottom; bottom: parent.bottom }
+                anchors { right: dock.covers ? parent.right : dock.left; top: bar.bottom; bottom: parent.bottom }
                 width: wanted ? window.session.selected.previewWidth : 0
                 visible: wanted
                 onWantedChanged: {
@@ -177,6 +183,24 @@ Window {
                         pages.takeFocus()
                 }
                 Component.onCompleted: wantedChanged() // it may have been there when the window closed
+            }
+            // The stylist beside both, or over them where too little would be left.
+            Loader {
+                id: dock
+
+                readonly property bool wanted: window.session.isMiraDocked
+                readonly property bool covers: wanted && parent.width - Theme.layoutMiraDock < 560
+
+                anchors { right: parent.right; top: bar.bottom; bottom: parent.bottom }
+                width: covers ? parent.width : wanted ? Theme.layoutMiraDock : 0
+                visible: wanted
+                onWantedChanged: {
+                    if (wanted && status === Loader.Null)
+                        setSource("MiraDock.qml", { app: window.app, session: window.session })
+                    else if (!wanted && activeFocus)
+                        pages.takeFocus()
+                }
+                Component.onCompleted: wantedChanged()
             }
         }
         Hairline {
@@ -195,35 +219,11 @@ Window {
 
             anchors { left: sidebar.right; right: parent.right; top: strip.bottom; bottom: parent.bottom }
         }
-        // The bag slides in over the page, below the strip.
-        Loader {
-            id: cart
-
-            readonly property bool wanted: window.session.isCartOpen
-
-            function showPanel(): void {
-                if (wanted && status === Loader.Null)
-                    setSource("CartPanel.qml", { app: window.app, session: window.session })
-            }
-
+        // What slides in over the page, below the strip.
+        WindowPanels {
             anchors { left: parent.left; right: parent.right; top: strip.bottom; bottom: parent.bottom }
-            onWantedChanged: showPanel()
-            Component.onCompleted: showPanel() // it may have been asked for before the window was there
-        }
-        // So do the footprints.
-        Loader {
-            id: footprints
-
-            readonly property bool wanted: window.session.isHistoryOpen
-
-            function showPanel(): void {
-                if (wanted && status === Loader.Null)
-                    setSource("FootprintsPanel.qml", { app: window.app, session: window.session })
-            }
-
-            anchors { left: parent.left; right: parent.right; top: strip.bottom; bottom: parent.bottom }
-            onWantedChanged: showPanel()
-            Component.onCompleted: showPanel()
+            app: window.app
+            session: window.session
         }
         // Signing in lies over all of them.
         SignInLoader {
@@ -234,28 +234,11 @@ Window {
             onCloseAsked: window.session.isSignInPresented = false
         }
         // Over panels, too, and in the window that is worked in.
-        Column {
+        WindowToasts {
             anchors { left: sidebar.right; right: parent.right; top: strip.bottom; topMargin: Theme.space1_5 }
             visible: window.active
-            spacing: Theme.space1
-            move: Transition {
-                NumberAnimation { property: "y"; duration: Theme.durationHover }
-            }
-
-            UndoToast {
-                anchors.horizontalCenter: parent.horizontalCenter
-                kept: window.app.wishlist
-                listName: qsTranslate("Loomstreet", "Wishlist")
-            }
-            UndoToast {
-                anchors.horizontalCenter: parent.horizontalCenter
-                kept: window.app.recentlyViewed
-                listName: qsTranslate("Loomstreet", "Recently viewed")
-            }
-            NotInterestedToast {
-                anchors.horizontalCenter: parent.horizontalCenter
-                hidden: window.app.notInterested
-            }
+            app: window.app
+            session: window.session
         }
         Loader {
             id: lightbox

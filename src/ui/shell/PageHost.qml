@@ -81,6 +81,8 @@ FocusScope {
         case PageKind.Profile: return "ProfilePage"
         case PageKind.Alerts: return "AlertsPage"
         case PageKind.Tools: return "ToolsPage"
+        case PageKind.Mira: return "MiraPage"
+        case PageKind.Notifications: return "NotificationsPage"
         case PageKind.StorePage: return "StorePage"
         case PageKind.Paused: return "PausedPage"
         default: return "UnknownPage"

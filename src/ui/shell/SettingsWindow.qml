@@ -15,6 +15,7 @@ Window {
     readonly property var pages: [
         { id: "general", title: qsTranslate("Loomstreet", "General"), icon: "gear" },
         { id: "account", title: qsTranslate("Loomstreet", "Account"), icon: "person.crop.circle" },
+        { id: "notifications", title: qsTranslate("Loomstreet", "Notifications"), icon: "bell" },
         { id: "appearance", title: qsTranslate("Loomstreet", "Appearance"), icon: "sun" },
         { id: "privacy", title: qsTranslate("Loomstreet", "Privacy"), icon: "lock" }
     ]
@@ -111,7 +112,7 @@ Window {
             Item {
                 id: sheet
 
-                readonly property Item shown: [general, account, appearance, privacy][window.current]
+                readonly property Item shown: [general, account, notifications, appearance, privacy][window.current]
 
                 anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.space4; topMargin: Theme.space3 }
                 height: shown.implicitHeight
@@ -130,6 +131,13 @@ Window {
                     visible: sheet.shown === this
                     app: window.app
                     onSignInAsked: signIn.open = true
+                }
+                NotificationsSettings {
+                    id: notifications
+
+                    width: parent.width
+                    visible: sheet.shown === this
+                    app: window.app
                 }
                 AppearanceSettings {
                     id: appearance

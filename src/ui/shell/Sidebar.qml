@@ -40,7 +40,8 @@ Rectangle {
             width: list.width
             rail: sidebar.rail
             focus: ListView.isCurrentItem
-            count: rawValue === "cart" ? sidebar.app.cart.itemCount : rawValue === "wishlist" ? sidebar.app.wishlist.count : 0
+            count: rawValue === "cart" ? sidebar.app.cart.itemCount : rawValue === "wishlist" ? sidebar.app.wishlist.count
+                   : rawValue === "notifications" ? sidebar.app.badge.count : 0
             selected: sidebar.session.selected ? sidebar.session.selected.selection === index : false
             onChosen: sidebar.session.selected.selectItem(index)
         }

@@ -106,6 +106,25 @@ Item {
             onClicked: bar.session.isHistoryOpen = !bar.session.isHistoryOpen
         }
         IconButton {
+            objectName: "inbox"
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "bell"
+            badge: bar.app.badge.count
+            on: bar.session.isInboxOpen
+            text: qsTranslate("Loomstreet", "Notifications")
+            shortcut: "Ctrl Shift I"
+            onClicked: bar.session.isInboxOpen = !bar.session.isInboxOpen
+        }
+        IconButton {
+            objectName: "mira"
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "sparkles"
+            on: bar.session.isMiraDocked
+            text: bar.app.mira.guideName
+            shortcut: "Ctrl Shift M"
+            onClicked: bar.session.isMiraDocked = !bar.session.isMiraDocked
+        }
+        IconButton {
             objectName: "bag"
             anchors.verticalCenter: parent.verticalCenter
             iconName: "bag"

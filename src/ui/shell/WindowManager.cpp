@@ -4,6 +4,7 @@
 #include "app/SystemAppearance.h"
 #include "base/Log.h"
 
+#include <QAbstractItemModel>
 #include <QCoreApplication>
 #include <QQmlComponent>
 #include <QQmlContext>
@@ -38,6 +39,15 @@ QQuickWindow* createWindow(QQmlEngine& engine, const QString& type, const QVaria
     return window;
 }
 
+/// Has the items of lists ask their models again, which look texts up for them.
+void askAgain(const QObject& owner)
+{
+    for (QAbstractItemModel* const list : owner.findChildren<QAbstractItemModel*>()) {
+        if (const int count = list->rowCount(); count > 0)
+            Q_EMIT list->dataChanged(list->index(0, 0), list->index(count - 1, 0));
+    }
+}
+
 /// Evaluates every binding of a window anew. The engine does so only with those that look a text up themselves, and
 /// many show one that a model has looked up for them. A context does it with all below it when it is given an object,
 /// even none.
@@ -47,6 +57,7 @@ void evaluateAgain(QQuickWindow* window)
         return;
     if (auto* const context = window->findChild<QQmlContext*>({}, Qt::FindDirectChildrenOnly))
         context->setContextObject(nullptr);
+    askAgain(*window);
 }
 
 void applyStyle(QQuickWindow* window)
@@ -68,6 +79,7 @@ WindowManager::WindowManager(QQmlEngine& engine, AppModel& model, SystemAppearan
 WindowManager::~WindowManager()
 {
     delete m_settings;
+    delete m_mira;
     qDeleteAll(m_checkouts);
     qDeleteAll(m_windows);
     // The pages that lists let go of are to be deleted later, and this is the last moment at which what they show is
@@ -147,6 +159,14 @@ void WindowManager::showCheckout(CheckoutModel& checkout)
     bringForward(m_checkouts.value(&checkout));
 }
 
+void WindowManager::showMira()
+{
+    if (!m_mira)
+        m_mira = create(QStringLiteral("MiraWindow"), {});
+    if (m_mira)
+        bringForward(m_mira);
+}
+
 bool WindowManager::hasVisibleWindow() const
 {
     return std::ranges::any_of(m_windows, [](const auto& window) { return window && window->isVisible(); });
@@ -159,16 +179,20 @@ void WindowManager::applyWindowStyle()
     for (const auto& window : std::as_const(m_checkouts))
         applyStyle(window);
     applyStyle(m_settings);
+    applyStyle(m_mira);
 }
 
 void WindowManager::retranslate()
 {
+    m_model.retranslate();
     m_engine.retranslate();
+    askAgain(m_model);
     for (const auto& window : std::as_const(m_windows))
         evaluateAgain(window);
     for (const auto& window : std::as_const(m_checkouts))
         evaluateAgain(window);
     evaluateAgain(m_settings);
+    evaluateAgain(m_mira);
 }
 
 QQuickWindow* WindowManager::windowOf(const WindowSession& session) const

@@ -33,6 +33,7 @@ public:
     void raise(WindowSession& session) override;
     void showSettings() override;
     void showCheckout(CheckoutModel& checkout) override;
+    void showMira() override;
     [[nodiscard]] bool hasVisibleWindow() const override;
     void applyWindowStyle() override;
 
@@ -64,6 +65,7 @@ private:
     QHash<const WindowSession*, QPointer<QQuickWindow>> m_windows;
     QHash<const CheckoutModel*, QPointer<QQuickWindow>> m_checkouts;
     QPointer<QQuickWindow> m_settings;
+    QPointer<QQuickWindow> m_mira;
 };
 
 } // namespace loom

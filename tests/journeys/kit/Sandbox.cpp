@@ -73,6 +73,16 @@ void Sandbox::setReco(const QJsonObject& settings)
     tell(QStringLiteral("/reco"), settings);
 }
 
+void Sandbox::setStylist(const QJsonObject& settings)
+{
+    tell(QStringLiteral("/stylist"), settings);
+}
+
+QJsonArray Sandbox::messages()
+{
+    return ask("GET", QStringLiteral("/stylist"))[u"received"].toArray();
+}
+
 void Sandbox::expireCarts()
 {
     tell(QStringLiteral("/carts/expire"), {});
@@ -101,6 +111,31 @@ QString Sandbox::code(const QString& email)
 void Sandbox::setAuth(const QJsonObject& settings)
 {
     tell(QStringLiteral("/auth"), settings);
+}
+
+QStringList Sandbox::notify(const QJsonObject& notification)
+{
+    return tell(QStringLiteral("/notifications"), notification)[u"ids"].toVariant().toStringList();
+}
+
+QJsonArray Sandbox::notifications(const QString& email)
+{
+    return ask("GET", QStringLiteral("/notifications?email=") + email)[u"notifications"].toArray();
+}
+
+void Sandbox::setSupport(const QJsonObject& settings)
+{
+    tell(QStringLiteral("/support"), settings);
+}
+
+void Sandbox::replyFromSupport(const QJsonObject& message)
+{
+    tell(QStringLiteral("/support/reply"), message);
+}
+
+QJsonArray Sandbox::conversations()
+{
+    return ask("GET", QStringLiteral("/support"))[u"conversations"].toArray();
 }
 
 QUrl Sandbox::redirectOf(const QUrl& page)
@@ -145,9 +180,9 @@ QJsonArray Sandbox::unexpected()
     return ask("GET", QStringLiteral("/unexpected")).array();
 }
 
-void Sandbox::tell(const QString& path, const QJsonObject& body)
+QJsonDocument Sandbox::tell(const QString& path, const QJsonObject& body)
 {
-    static_cast<void>(ask("POST", path, QJsonDocument(body).toJson()));
+    return ask("POST", path, QJsonDocument(body).toJson());
 }
 
 QJsonDocument Sandbox::ask(const QByteArray& method, const QString& path, const QByteArray& body)

@@ -53,6 +53,19 @@ public:
     /// names.
     void setConfig(const QJsonObject& changes);
     void setReco(const QJsonObject& settings);
+    /// Has the stylist behave in another way, by the settings that the store's README names.
+    void setStylist(const QJsonObject& settings);
+    /// What was written to her, oldest first, as it came.
+    [[nodiscard]] QJsonArray messages();
+    /// Tells a customer something, by the members that the store's README names. Returns under which identifiers.
+    QStringList notify(const QJsonObject& notification);
+    /// What a customer was told, the newest first.
+    [[nodiscard]] QJsonArray notifications(const QString& email);
+    /// Has customer service behave in another way, and writes in its name.
+    void setSupport(const QJsonObject& settings);
+    void replyFromSupport(const QJsonObject& message);
+    /// What was said in each conversation with it.
+    [[nodiscard]] QJsonArray conversations();
     /// Where a page of the store sends a browser on to.
     [[nodiscard]] QUrl redirectOf(const QUrl& page);
     [[nodiscard]] QJsonArray orders();
@@ -69,7 +82,7 @@ public:
 
 private:
     [[nodiscard]] QJsonDocument ask(const QByteArray& method, const QString& path, const QByteArray& body = {});
-    void tell(const QString& path, const QJsonObject& body);
+    QJsonDocument tell(const QString& path, const QJsonObject& body);
 
     AppConfig m_config;
     QString m_authorityFile;

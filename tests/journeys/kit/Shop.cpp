@@ -50,12 +50,14 @@ Shop::Shop(const Sandbox& sandbox, const Circumstances& circumstances)
                .dataFolder = m_dataFolder,
                .locale = {.language = QStringLiteral("en"), .script = {}, .region = circumstances.region},
                .openExternally = [this](const QUrl& url) { m_openedInBrowser.append(url); },
-               .heldKeys =
-                   [] {
-                       return QGuiApplication::keyboardModifiers();
-                   }})
+               .heldKeys = [] { return QGuiApplication::keyboardModifiers(); },
+               .makeSystemSecrets = {},
+               .location = m_location,
+               .desktopNotifications = circumstances.desktop ? *circumstances.desktop : m_desktop,
+               .launcherBadge = m_badge})
     , m_windows(m_engine, m_model, m_appearance)
 {
+    m_location.canLocate = false;
     prepareEngine(m_engine, m_pictures);
     m_model.setWindowHost(&m_windows);
 }
@@ -90,6 +92,11 @@ WindowDriver Shop::restoreWindows()
 WindowDriver Shop::settingsWindow()
 {
     return awaitWindow(QStringLiteral("settings"), "the settings are open");
+}
+
+WindowDriver Shop::miraWindow()
+{
+    return awaitWindow(QStringLiteral("miraWindow"), "the stylist's window is open");
 }
 
 WindowDriver Shop::checkoutWindow()

@@ -7,6 +7,8 @@
 #include "commerce/CartAPI.h"
 #include "kit/Sandbox.h"
 #include "kit/WindowDriver.h"
+#include "support/FakeDesktopNotifications.h"
+#include "support/FakeLocation.h"
 #include "support/FakeNetworkStatus.h"
 #include "support/FakeRandom.h"
 #include "ui/shell/PictureLoading.h"
@@ -41,7 +43,8 @@ private:
 struct Circumstances {
     Clock* clock = nullptr; ///< the system's, unless a test moves one
     QString region = QStringLiteral("US");
-    QString folder; ///< where its files are, to come back to them; else in one of its own
+    DesktopNotifications* desktop = nullptr; ///< one of its own, unless a test has another
+    QString folder;                          ///< where its files are, to come back to them; else in one of its own
 };
 
 /// The application in this process, put together as its own main() does, on a sandbox store and with files of its
@@ -58,6 +61,8 @@ public:
     WindowDriver restoreWindows();
     /// The window of the settings, once it can be seen.
     WindowDriver settingsWindow();
+    /// The stylist's own window, once it can be seen.
+    WindowDriver miraWindow();
     /// The window of the checkout, once it can be seen.
     WindowDriver checkoutWindow();
     /// Those that can be seen.
@@ -72,6 +77,8 @@ public:
     [[nodiscard]] AppModel& model() { return m_model; }
     [[nodiscard]] WindowManager& windows() { return m_windows; }
     [[nodiscard]] FakeNetworkStatus& network() { return m_network; }
+    [[nodiscard]] FakeDesktopNotifications& desktop() { return m_desktop; }
+    [[nodiscard]] FakeLauncherBadge& badge() { return m_badge; }
     [[nodiscard]] FakeAppearance& appearance() { return m_appearance; }
     [[nodiscard]] const QList<QUrl>& openedInBrowser() const { return m_openedInBrowser; }
 
@@ -81,6 +88,9 @@ private:
     SystemClock m_systemClock;
     FakeRandom m_random;
     FakeNetworkStatus m_network;
+    FakeLocation m_location;
+    FakeDesktopNotifications m_desktop;
+    FakeLauncherBadge m_badge;
     FakeAppearance m_appearance;
     QList<QUrl> m_openedInBrowser;
     PictureLoading m_pictures;

@@ -1,11 +1,14 @@
 import { addAlert, listAlerts, removeAlert } from './alerts.mjs';
 import { prepareCheckout, revokeCheckout, startCheckout } from './checkout.mjs';
 import { readConfig } from './config.mjs';
+import { listNotifications, readNotifications } from './notifications.mjs';
 import { listOrders, trackParcel } from './orders.mjs';
 import { readProfile, updateProfile } from './profile.mjs';
 import { exchangeProvider, startProviders } from './providers.mjs';
 import { brandStats, companions, feed, productStats, rails, searchAI } from './reco.mjs';
 import { deleteAccount, requestCode, setPassword, signInWithCode, signInWithPassword } from './signIn.mjs';
+import { openThread, readGuide, readWeather, recommendSize, sendMessage } from './stylist.mjs';
+import { openSupport, readSupport, supportReplies, uploadSupport, writeSupport } from './support.mjs';
 import { track } from './track.mjs';
 import { wishlistSync } from './wishlist.mjs';
 
@@ -19,6 +22,8 @@ import { wishlistSync } from './wishlist.mjs';
 export const endpoints = [
   requestCode, signInWithCode, signInWithPassword, setPassword, deleteAccount, ...startProviders, exchangeProvider,
   listOrders, trackParcel, readProfile, updateProfile, listAlerts, addAlert, removeAlert,
+  listNotifications, readNotifications, openSupport, writeSupport, uploadSupport, supportReplies, readSupport,
   prepareCheckout, revokeCheckout, startCheckout, track, wishlistSync,
+  openThread, sendMessage, readGuide, recommendSize, readWeather,
   feed, companions, rails, searchAI, productStats, brandStats, readConfig,
 ];

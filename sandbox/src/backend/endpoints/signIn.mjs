@@ -70,9 +70,12 @@ export const deleteAccount = {
   path: '/app-auth/delete',
   methods: ['POST'],
   customer: true,
-  handle({ account }, { accounts, orders, alerts }) {
+  handle({ account }, { accounts, orders, alerts, conversations, notifications, stylist }) {
     orders.disown(account);
     alerts.forget(account);
+    notifications.forget(account);
+    conversations.forget(account);
+    stylist.forget(account);
     accounts.remove(account);
     return {};
   },

@@ -5,14 +5,14 @@
 namespace loom
 {
 
-/// For whom the store recommends: always the visitor of this machine, and the customer while one is signed in.
-struct RecoIdentity {
+/// Who calls a service of the backend: always the visitor of this machine, and the customer while one is signed in.
+struct CallerIdentity {
     QString visitorId;
     QString customer; ///< the customer's number; empty when nobody is signed in, as are those below
     QString email;
     QString name;
 
-    bool operator==(const RecoIdentity&) const = default;
+    bool operator==(const CallerIdentity&) const = default;
 };
 
 } // namespace loom

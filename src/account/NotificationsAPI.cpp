@@ -1,0 +1,54 @@
+#include "account/NotificationsAPI.h"
+
+#include "base/JsonReader.h"
+#include "net/WidgetClient.h"
+
+#include <QJsonArray>
+#include <QtConcurrentRun>
+#include <qcoro/qcorofuture.h>
+
+namespace loom
+{
+
+namespace
+{
+
+Result<NotificationPage, QString> readPage(const QByteArray& json)
+{
+    return decodeJson(json, decodeNotificationPage);
+}
+
+} // namespace
+
+QCoro::Task<ApiResult<NotificationPage>> NotificationsAPI::page(QString cursor, std::stop_token stop)
+{
+    QJsonObject question{{QStringLiteral("limit"), pageSize}};
+    if (!cursor.isEmpty())
+        question.insert(QStringLiteral("cursor"), cursor);
+    LOOM_CO_TRY(body, co_await m_widget.post(QStringLiteral("/notifications"), question, {}, stop));
+    auto answer = co_await QtConcurrent::run(readPage, body);
+    if (stop.stop_requested())
+        co_return Unexpected(Failure(Cancelled()));
+    co_return decodedAnswer(std::move(answer));
+}
+
+QCoro::Task<ApiResult<int>> NotificationsAPI::markRead(QStringList ids, std::stop_token stop)
+{
+    return tellRead({{QStringLiteral("ids"), QJsonArray::fromStringList(ids)}}, std::move(stop));
+}
+
+QCoro::Task<ApiResult<int>> NotificationsAPI::markAllRead(std::stop_token stop)
+{
+    return tellRead({{QStringLiteral("all"), true}}, std::move(stop));
+}
+
+QCoro::Task<ApiResult<int>> NotificationsAPI::tellRead(QJsonObject question, std::stop_token stop)
+{
+    LOOM_CO_TRY(body, co_await m_widget.post(QStringLiteral("/notifications-read"), question, {}, stop));
+    const auto decode = [](const JsonReader& json) {
+        return static_cast<int>(std::clamp<qint64>(json.integer("unreadCount"), 0, NotificationPage::mostUnread));
+    };
+    co_return decodedAnswer(decodeJson(body, decode));
+}
+
+} // namespace loom

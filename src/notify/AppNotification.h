@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+
+namespace loom
+{
+
+/// What the banner and the desktop show: one piece of news, whoever sent it.
+struct AppNotification {
+    Q_GADGET
+    Q_PROPERTY(QString id MEMBER id)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(QString body MEMBER body)
+    Q_PROPERTY(QString symbol MEMBER symbol)
+    Q_PROPERTY(QString type MEMBER type)
+    Q_PROPERTY(QString link MEMBER link)
+    Q_PROPERTY(QString accountID MEMBER accountID)
+
+public:
+    QString id;    ///< what the ledger knows it by
+    QString title; ///< the first line
+    QString body;  ///< the second one
+    QString symbol;
+    QString type;      ///< "support", "order", "notice", "preview", "digest", or as the server says
+    QString link;      ///< where a click leads; empty for nowhere
+    QString accountID; ///< whose it is; empty where it is nobody's in particular
+
+    bool operator==(const AppNotification&) const = default;
+};
+
+} // namespace loom

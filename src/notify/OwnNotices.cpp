@@ -1,0 +1,73 @@
+#include "notify/OwnNotices.h"
+
+#include "catalog/DisplayText.h"
+
+#include <QCoreApplication>
+
+namespace loom::ownNotices
+{
+
+namespace
+{
+
+constexpr qsizetype longestReply = 4000;
+constexpr qsizetype longestOrderName = 64;
+
+QString translated(const char* english)
+{
+    return QCoreApplication::translate("Loomstreet", english);
+}
+
+} // namespace
+
+AppNotification supportReply(const QString& messageID, const QString& text)
+{
+    const QString shown = displayText(text, longestReply);
+    return {.id = QStringLiteral("support-") + messageID,
+            .title = translated("Customer Service"),
+            .body = shown.isEmpty() ? translated("Sent an attachment") : shown,
+            .symbol = QStringLiteral("headphones"),
+            .type = QStringLiteral("support")};
+}
+
+AppNotification orderPlaced(const QString& orderName, const QUuid& unique)
+{
+    const QString name = displayLine(orderName, longestOrderName);
+    return {.id = QStringLiteral("order-placed-") + (name.isEmpty() ? unique.toString(QUuid::WithoutBraces) : name),
+            .title = translated("Order placed"),
+            .body = name.isEmpty()
+                        ? translated("Your order is confirmed. It will show under Orders in a few minutes.")
+                        : translated("Order %1 is confirmed. It will show under Orders in a few minutes.").arg(name),
+            .symbol = QStringLiteral("checkmark.seal"),
+            .type = QStringLiteral("order"),
+            .link = QStringLiteral("/orders")};
+}
+
+AppNotification unavailable(const QString& featureKey)
+{
+    return {.id = QStringLiteral("unavailable-") + featureKey,
+            .title = translated("Temporarily unavailable"),
+            .body = translated("This feature is paused for now. Please try again later."),
+            .symbol = QStringLiteral("pause.circle"),
+            .type = QStringLiteral("notice")};
+}
+
+AppNotification updateFailed()
+{
+    return {.id = QStringLiteral("self-update-failed"),
+            .title = translated("LOOMSTREET couldn't update itself"),
+            .body = translated("Click Update at the top of the window to install the new version from the disk image."),
+            .symbol = QStringLiteral("arrow.down.circle"),
+            .type = QStringLiteral("notice")};
+}
+
+AppNotification preview(const QUuid& unique)
+{
+    return {.id = QStringLiteral("preview-") + unique.toString(QUuid::WithoutBraces),
+            .title = translated("Notification preview"),
+            .body = translated("New order updates and customer service replies will appear here."),
+            .symbol = QStringLiteral("bell.badge"),
+            .type = QStringLiteral("preview")};
+}
+
+} // namespace loom::ownNotices

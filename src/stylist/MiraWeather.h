@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+
+#include <optional>
+
+namespace loom
+{
+
+/// The weather where the shopper is.
+struct MiraWeather {
+    Q_GADGET
+    Q_PROPERTY(QString city MEMBER city)
+    Q_PROPERTY(double temperature MEMBER temperature)
+
+public:
+    QString city;            ///< empty where it is not known
+    double temperature = 0;  ///< in degrees Celsius
+    std::optional<int> code; ///< WMO code table 4677, as forecast services give it
+    double wind = 0;         ///< in kilometres per hour
+    double rainChance = 0;   ///< in percent
+
+    bool operator==(const MiraWeather&) const = default;
+};
+
+} // namespace loom
+
+Q_DECLARE_METATYPE(loom::MiraWeather)
