@@ -101,10 +101,7 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
                             .locale = readSystemLocale(),
                             .openExternally = openInBrowser,
                             .heldKeys = [] { return QGuiApplication::queryKeyboardModifiers(); },
-                            .makeSystemSecrets =
-                                [] {
-                                    return std::make_unique<KeychainSecureStore>();
-                                },
+                            .makeSystemSecrets = [] { return std::make_unique<KeychainSecureStore>(); },
                             .location = location,
                             .desktopNotifications = notifications,
                             .launcherBadge = badge});

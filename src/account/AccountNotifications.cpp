@@ -93,12 +93,15 @@ QCoro::Task<ApiResult<NotificationPage>> AccountNotifications::page(QString curs
 
 QCoro::Task<ApiResult<NotificationPage>> AccountNotifications::readPage(QString cursor, std::stop_token stop)
 {
+    const int confirmations = m_confirmations;
     auto page = co_await m_api.page(cursor, stop);
     if (stop.stop_requested())
         co_return Unexpected(Failure(Cancelled()));
     if (!page)
         co_return page;
     restoreUntold();
+    if (confirmations != m_confirmations)
+        keepRead(*page);
     applyUntold(*page);
     if (cursor.isEmpty())
         takeFirst(*page);
@@ -137,6 +140,18 @@ void AccountNotifications::takeNext(const NotificationPage& page)
     m_nextCursor = page.nextCursor;
     m_unread = page.unreadCount;
     Q_EMIT listChanged();
+}
+
+void AccountNotifications::keepRead(NotificationPage& page) const
+{
+    QSet<QString> read;
+    for (const AccountNotification& notification : m_list) {
+        if (!notification.isUnread)
+            read.insert(notification.id);
+    }
+    for (AccountNotification& notification : page.notifications)
+        notification.isUnread = notification.isUnread && !read.contains(notification.id);
+    page.unreadCount = m_unread;
 }
 
 void AccountNotifications::applyUntold(NotificationPage& page)
@@ -227,6 +242,7 @@ void AccountNotifications::confirm(const QStringList& ids, int unread)
     for (const QString& id : ids)
         m_untold.remove(id);
     m_unread = unread;
+    ++m_confirmations;
     saveUntold();
     saveList();
     Q_EMIT listChanged();
@@ -274,7 +290,8 @@ void AccountNotifications::clear()
 void AccountNotifications::saveList()
 {
     NotificationPage page{.unreadCount = m_unread};
-    page.notifications.assign(m_list.begin(), m_list.begin() + std::min(m_list.size(), mostSaved));
+    const auto count = static_cast<std::ptrdiff_t>(std::min(m_list.size(), mostSaved));
+    page.notifications.assign(m_list.begin(), m_list.begin() + count);
     m_folder.save(listFile, [page = std::move(page), savedAt = m_clock.now()] { return snapshotOf(page, savedAt); });
 }
 

@@ -62,6 +62,8 @@ private:
     [[nodiscard]] QCoro::Task<ApiResult<NotificationPage>> readPage(QString cursor, std::stop_token stop);
     void takeFirst(const NotificationPage& page);
     void takeNext(const NotificationPage& page);
+    /// What a page that is older than the backend's last word on what was read says of it does not count.
+    void keepRead(NotificationPage& page) const;
     /// Takes out of what the backend calls unread what was read here.
     void applyUntold(NotificationPage& page);
     void restoreUntold();
@@ -81,6 +83,7 @@ private:
     int m_unread = 0;         ///< as the backend says
     QSet<QString> m_untold;   ///< read here, which the backend has not confirmed
     bool m_isAllRead = false; ///< and it is about to be told that all are
+    int m_confirmations = 0;  ///< how often it said that it heard
     bool m_didRestoreUntold = false;
     std::optional<APIError> m_moreFailure;
     Work m_loadingMore;

@@ -34,7 +34,7 @@ QCoro::Task<ApiResult<NotificationPage>> NotificationsAPI::page(QString cursor, 
 
 QCoro::Task<ApiResult<int>> NotificationsAPI::markRead(QStringList ids, std::stop_token stop)
 {
-    return tellRead({{QStringLiteral("ids"), QJsonArray::fromStringList(ids)}}, std::move(stop));
+    co_return co_await tellRead({{QStringLiteral("ids"), QJsonArray::fromStringList(ids)}}, stop);
 }
 
 QCoro::Task<ApiResult<int>> NotificationsAPI::markAllRead(std::stop_token stop)

@@ -156,7 +156,8 @@ void AppModel::connectStores()
         if (!m_session.isActive() || !m_didBootstrap)
             return;
         m_market.refreshRate();
-        m_weather.refresh();
+        if (m_mira.isOpen())
+            m_weather.refresh();
     });
     connect(&m_session, &AppSession::isOfflineChanged, &m_market, [this] {
         if (m_session.isOffline())
@@ -196,8 +197,11 @@ void AppModel::connectStores()
         }
         m_mira.forget(names);
         m_support.forget(names);
-        if (names.contains(RemovalGroups::stylist().first()))
+        // Who signs in takes along what they had begun; who leaves leaves nothing of it.
+        if (names.contains(RemovalGroups::account().first())) {
+            m_mira.forget({QLatin1String(MiraDraft::fileName)});
             m_measurements.forget();
+        }
         // What was recommended to a customer is nobody else's affair.
         if (names.contains(RemovalGroups::account().first()))
             m_folder.remove(HomeModel::snapshot);
@@ -205,10 +209,11 @@ void AppModel::connectStores()
     connect(&m_auth, &AuthStore::sessionChanged, this, [this] {
         if (!m_auth.isSignedIn())
             return;
-        m_mira.followSession();
         for (const auto& session : m_sessions)
             session->setSignInPresented(false);
     });
+    // Of whoever signs in later there is an announcement; not of a session that was kept.
+    connect(&m_auth, &AuthStore::sessionChanged, this, [this] { m_mira.followSession(); }, Qt::SingleShotConnection);
     // Back from the browser: to where it began.
     connect(&m_auth, &AuthStore::webAuthFinished, this, [this] {
         if (m_windows && keySession())
@@ -225,6 +230,10 @@ void AppModel::connectStores()
 
 void AppModel::connectNews()
 {
+    connect(&m_support, &SupportChatModel::stateChanged, &m_news, [this] {
+        if (m_support.isOnScreen())
+            m_news.notifier().supportSeen();
+    });
     connect(&m_session, &AppSession::isActiveChanged, &m_news, [this] {
         if (m_session.isActive() && m_didBootstrap)
             m_news.notifier().check();

@@ -264,19 +264,26 @@ AccountRemoval* AppModel::makeAccountRemoval(QObject* owner)
 
 MiraLookModel* AppModel::makeLook(QObject* owner, const QStringList& handles)
 {
-    return new MiraLookModel(handles,
-                             {.catalog = m_storefront,
-                              .sizes = m_sizeAPI,
-                              .cart = m_cart,
-                              .checkout = m_checkout,
-                              .market = m_market,
-                              .money = m_money},
-                             owner);
+    auto* const look = new MiraLookModel(handles,
+                                         {.catalog = m_storefront,
+                                          .sizes = m_sizeAPI,
+                                          .cart = m_cart,
+                                          .checkout = m_checkout,
+                                          .market = m_market,
+                                          .money = m_money},
+                                         owner);
+    connect(look, &MiraLookModel::added, this, [this](const QStringList& added) {
+        for (const QString& handle : added)
+            m_tracker.report(Tracker::CartAdded{.handle = handle});
+    });
+    return look;
 }
 
 SizeAdviceModel* AppModel::makeSizeAdvice(QObject* owner, ProductModel* product)
 {
-    return new SizeAdviceModel(*product, m_sizeAPI, m_market, owner);
+    auto* const advice = new SizeAdviceModel(*product, m_sizeAPI, m_market, owner);
+    connect(&m_auth, &AuthStore::sessionChanged, advice, &SizeAdviceModel::askAgain);
+    return advice;
 }
 
 NotificationsModel* AppModel::makeInbox(QObject* owner)

@@ -26,23 +26,25 @@ NewsDesk::NewsDesk(Services services, QObject* parent)
     , m_banners(services.clock)
     , m_badge(services.preferences, services.launcher)
     , m_settings(services.preferences)
-    , m_notifier(
-          {.preferences = services.preferences,
-           .folder = services.folder,
-           .clock = services.clock,
-           .random = services.random,
-           .network = services.network,
-           .banners = m_banners,
-           .desktop = services.desktop,
-           .inbox = m_inbox,
-           .account = {.page = [this](QString cursor, std::stop_token stop) { return m_account.page(cursor, stop); },
-                       .markRead =
-                           [this](const QString& id) {
-                               m_account.markRead(id);
-                           }},
-           .support = std::move(services.support),
-           .accountID = [this] { return accountID(m_auth); },
-           .hasOpenWindow = std::move(services.hasOpenWindow)})
+    , m_notifier({.preferences = services.preferences,
+                  .folder = services.folder,
+                  .clock = services.clock,
+                  .random = services.random,
+                  .network = services.network,
+                  .banners = m_banners,
+                  .desktop = services.desktop,
+                  .inbox = m_inbox,
+                  .account = {.page =
+                                  [this](QString cursor, std::stop_token stop) {
+                                      return m_account.page(std::move(cursor), std::move(stop));
+                                  },
+                              .markRead =
+                                  [this](const QString& id) {
+                                      m_account.markRead(id);
+                                  }},
+                  .support = std::move(services.support),
+                  .accountID = [this] { return accountID(m_auth); },
+                  .hasOpenWindow = std::move(services.hasOpenWindow)})
 {
     connect(&m_account, &AccountNotifications::listChanged, this, &NewsDesk::followAccount);
     connect(&m_auth, &AuthStore::sessionChanged, this, [this] {

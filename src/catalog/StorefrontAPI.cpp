@@ -237,12 +237,12 @@ QCoro::Task<ApiResult<QHash<QString, ProductListItem>>> StorefrontAPI::productsB
     for (const QStringList& chunk : chunks(handles, maximumCards)) {
         LOOM_CO_TRY(some, co_await m_client.send(queries::productsByHandles(chunk.size()), handleVariables(chunk),
                                                  Retry::Transient, readAliasedProducts, stop));
-        for (auto& [alias, item] : some) {
+        for (const auto& [alias, item] : some) {
             const qsizetype place = alias.mid(1).toLongLong();
             if (place < 0 || place >= chunk.size())
                 continue;
             noteCurrency(country, {item});
-            products.insert(chunk.at(place), std::move(item));
+            products.insert(chunk.at(place), item);
         }
     }
     co_return products;

@@ -50,7 +50,10 @@ std::optional<InAppPage> inAppPage(const QString& path)
     // With a scheme or a host it leads elsewhere.
     if (!url.isValid() || !url.isRelative() || !url.host().isEmpty() || !url.path().startsWith(QLatin1Char('/')))
         return std::nullopt;
-    const QStringList parts = url.path(QUrl::FullyDecoded).split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    // Decoded one by one: a number may itself hold what parts them.
+    QStringList parts = url.path(QUrl::FullyEncoded).split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    for (QString& part : parts)
+        part = QUrl::fromPercentEncoding(part.toUtf8());
     if (parts.size() == 1)
         return pageNamed(parts.first().toLower());
     if (parts.size() == 2)

@@ -5,6 +5,7 @@
 #include "catalog/DisplayText.h"
 #include "net/NetworkStatus.h"
 #include "notify/InboxNotices.h"
+#include "notify/NoticeText.h"
 #include "notify/NotificationBannerCenter.h"
 #include "notify/NotificationDigest.h"
 #include "notify/NotificationType.h"
@@ -55,6 +56,11 @@ AppNotification notificationOf(const QMap<QString, QString>& userInfo)
             .accountID = userInfo.value(QStringLiteral("accountID"))};
 }
 
+bool isSupport(const AppNotification& notification)
+{
+    return notification.type == QLatin1String("support");
+}
+
 Result<NotificationLedger, QString> readLedger(const QByteArray& bytes)
 {
     return decodeJson(bytes, decodeNotificationLedger);
@@ -73,7 +79,7 @@ DesktopNotifier::DesktopNotifier(Services services, QObject* parent)
         Q_EMIT settingsRequested(token);
     });
     connect(&m_services.banners, &NotificationBannerCenter::opened, this, [this](const AppNotification& notification) {
-        m_services.desktop.withdraw(requestPrefix + notification.id);
+        takeBack(notification.id);
         markRead(notification.id);
     });
     connect(&m_services.network, &NetworkStatus::changed, this, [this] {
@@ -117,10 +123,11 @@ void DesktopNotifier::accountChanged()
     if (owner == m_owner)
         return;
     letGoOfOwner();
-    m_owner = owner;
+    const bool isFirst = std::exchange(m_owner, owner).isEmpty();
     m_services.banners.keepOnly(*account);
     m_services.inbox.setOwner(owner);
-    static_cast<void>(openLedger());
+    // One from before the account changed is of no use to anybody, not even to whoever came back.
+    static_cast<void>(openLedger(isFirst ? m_services.folder.read(NotificationLedger::fileName) : std::nullopt));
 }
 
 void DesktopNotifier::letGoOfOwner()
@@ -130,16 +137,14 @@ void DesktopNotifier::letGoOfOwner()
     m_posts.clear();
     m_inFlight.clear();
     m_didReadAll = false;
+    m_didBreakOff = false;
     for (const QString& request : std::exchange(m_posted, {}))
         m_services.desktop.withdraw(request);
 }
 
-QCoro::Task<> DesktopNotifier::openLedger()
+QCoro::Task<> DesktopNotifier::openLedger(std::optional<QByteArray> bytes)
 {
     const Work::Run run = m_opening.begin();
-    // Another owner's is of no use to anybody: what happened before the account changed is never shown again.
-    const std::optional<QByteArray> bytes =
-        m_ledger ? std::nullopt : m_services.folder.read(NotificationLedger::fileName);
     m_ledger.reset();
     if (!bytes) {
         useLedger({});
@@ -158,7 +163,7 @@ void DesktopNotifier::useLedger(NotificationLedger ledger)
     const QDateTime now = m_services.clock.now();
     const bool isFresh = ledger.owner() != m_owner;
     m_ledger = isFresh ? NotificationLedger(m_owner, now) : std::move(ledger);
-    if (m_ledger->correctStart(now) || isFresh)
+    if (isFresh)
         saveLedger();
     for (const AppNotification& notification : std::exchange(m_unassigned, {}))
         deliver(notification);
@@ -184,7 +189,9 @@ void DesktopNotifier::deliver(const AppNotification& notification)
 
 void DesktopNotifier::deliverOrderPlaced(const QString& orderName)
 {
-    deliver(ownNotices::orderPlaced(orderName, m_services.random.uuid()));
+    AppNotification notification = ownNotices::orderPlaced(orderName, m_services.random.uuid());
+    notification.accountID = currentAccount();
+    deliver(notification);
 }
 
 void DesktopNotifier::deliverUnavailable(const QString& featureKey)
@@ -199,7 +206,12 @@ void DesktopNotifier::deliverUpdateFailed()
 
 void DesktopNotifier::deliverPreview()
 {
-    deliver(ownNotices::preview(m_services.random.uuid()));
+    const AppNotification notification = ownNotices::preview(m_services.random.uuid());
+    // It is for whoever sits here, and there is nothing in it to read later.
+    if (m_ledger)
+        static_cast<void>(deliverAll({{.notification = notification, .inboxDate = {}}}, m_owned.get_token()));
+    else
+        show(notification);
 }
 
 QCoro::Task<> DesktopNotifier::deliverAll(std::vector<Arrival> arrivals, std::stop_token stop)
@@ -207,6 +219,10 @@ QCoro::Task<> DesktopNotifier::deliverAll(std::vector<Arrival> arrivals, std::st
     arrivals = recorded(std::move(arrivals));
     if (arrivals.empty())
         co_return;
+    for (const Arrival& arrival : arrivals) {
+        if (arrival.inboxDate)
+            m_services.inbox.add(arrival.notification, *arrival.inboxDate);
+    }
     saveLedger();
     // On the disk first, on the screen second: whatever ends the process between the two, nothing is shown twice, which
     // is the worse of what could happen, for what was not shown still stands in the inbox. A disk that takes nothing is
@@ -238,10 +254,10 @@ void DesktopNotifier::showAll(const std::vector<Arrival>& arrivals)
     std::size_t count = 0;
     std::vector<AppNotification> beyond;
     for (const Arrival& arrival : arrivals) {
-        if (arrival.inboxDate)
-            m_services.inbox.add(arrival.notification, *arrival.inboxDate);
         if (arrival.isSeen || !isSwitchedOn(arrival.notification))
             continue; // recorded all the same, so that it does not come when its category is switched on
+        if (isSupport(arrival.notification) && isSupportOnScreen())
+            continue; // it came on screen in the meantime
         if (++count <= mostAtOnce)
             show(arrival.notification);
         else
@@ -283,7 +299,7 @@ QCoro::Task<> DesktopNotifier::postWaiting()
         m_posts.pop_front();
         if (permission != DesktopPermission::Authorised && permission != DesktopPermission::Provisional)
             continue;
-        if (notice.userInfo.contains(QStringLiteral("accountID")))
+        if (isPersonal(notificationOf(notice.userInfo)))
             m_posted.append(notice.requestIdentifier);
         m_services.desktop.post(notice);
     }
@@ -306,6 +322,32 @@ void DesktopNotifier::clicked(const QMap<QString, QString>& userInfo, const QStr
     m_services.banners.withdraw(notification.id);
     markRead(notification.id);
     Q_EMIT opened(notification, activationToken);
+}
+
+void DesktopNotifier::supportSeen()
+{
+    QStringList seen{QStringLiteral("digest-support")};
+    for (const InboxNotice& notice : m_services.inbox.notices()) {
+        if (isSupport(notice.notification))
+            seen.append(notice.notification.id);
+    }
+    for (const QString& id : seen) {
+        takeBack(id);
+        m_services.inbox.markRead(id);
+    }
+}
+
+void DesktopNotifier::takeBack(const QString& id)
+{
+    const QString request = requestPrefix + id;
+    std::erase_if(m_posts, [&request](const DesktopNotice& notice) { return notice.requestIdentifier == request; });
+    m_services.desktop.withdraw(request);
+    m_services.banners.withdraw(id);
+}
+
+bool DesktopNotifier::isSupportOnScreen() const
+{
+    return m_services.support.isOnScreen && m_services.support.isOnScreen();
 }
 
 void DesktopNotifier::markRead(const QString& id)

@@ -64,9 +64,11 @@ public:
 
     void deliver(const AppNotification& notification);
     void deliverOrderPlaced(const QString& orderName);
-    void deliverUnavailable(const QString& featureKey);
+    Q_INVOKABLE void deliverUnavailable(const QString& featureKey);
     void deliverUpdateFailed();
     Q_INVOKABLE void deliverPreview();
+    /// The conversation with customer service came on screen: nobody has to be told of its replies any more.
+    void supportSeen();
 
     /// None while it is not known who is signed in.
     [[nodiscard]] const std::optional<NotificationLedger>& ledger() const { return m_ledger; }
@@ -88,13 +90,20 @@ private:
         std::optional<QDateTime> inboxDate; ///< for those that this machine keeps itself
         bool isSeen = false;                ///< it is to be recorded, but not shown
     };
+    /// What a source said.
+    struct Reading {
+        std::vector<Arrival> arrivals;
+        bool isWhole = false; ///< nothing was left out
+    };
 
     [[nodiscard]] QCoro::Task<> lookFromTimeToTime();
     [[nodiscard]] QCoro::Task<> look();
-    [[nodiscard]] QCoro::Task<std::vector<Arrival>> supportReplies(std::stop_token stop);
-    [[nodiscard]] QCoro::Task<std::vector<Arrival>> accountNotifications(QString account, std::stop_token stop);
+    /// Who takes stock takes along what is dated before the ledger began, as seen.
+    [[nodiscard]] QCoro::Task<Reading> supportReplies(bool takesStock, std::stop_token stop);
+    [[nodiscard]] QCoro::Task<Reading> accountNotifications(QString account, bool takesStock, std::stop_token stop);
     [[nodiscard]] bool hasSupportConversation();
-    [[nodiscard]] QCoro::Task<> openLedger();
+    /// That of these bytes, if it is the owner's.
+    [[nodiscard]] QCoro::Task<> openLedger(std::optional<QByteArray> bytes);
     void useLedger(NotificationLedger ledger);
     void saveLedger();
     void letGoOfOwner();
@@ -105,6 +114,9 @@ private:
     [[nodiscard]] QCoro::Task<> postWaiting();
     void clicked(const QMap<QString, QString>& userInfo, const QString& activationToken);
     void markRead(const QString& id);
+    /// From wherever it shows, or is about to.
+    void takeBack(const QString& id);
+    [[nodiscard]] bool isSupportOnScreen() const;
     [[nodiscard]] bool isSwitchedOn(const AppNotification& notification) const;
     [[nodiscard]] QString currentAccount() const { return m_services.accountID().value_or(QString()); }
 
@@ -114,6 +126,7 @@ private:
     QSet<QString> m_inFlight;
     bool m_didAskPermission = false;
     bool m_didReadAll = false;                 ///< the whole list of the account, since it signed in
+    bool m_didBreakOff = false;                ///< behind the last page that was read there may still be news
     std::vector<AppNotification> m_unassigned; ///< delivered before the ledger was open
     std::deque<DesktopNotice> m_posts;         ///< on their way to the desktop
     QStringList m_posted;                      ///< request identifiers of what belongs to the account

@@ -44,17 +44,25 @@ void DesktopNotifier::check()
 QCoro::Task<> DesktopNotifier::look()
 {
     const Work::Run run = m_checking.begin();
+    // A clock that is behind the ledger is wrong, or was when the ledger began. From then on dates say nothing; what
+    // there is by now is recorded instead, and all that is not recorded is new.
+    const bool takesStock = m_ledger->startedAt() > m_services.clock.now();
     // A failure of one source is silent, and none of the other's business.
-    std::vector<Arrival> arrivals = co_await supportReplies(run.stop());
+    Reading reading = co_await supportReplies(takesStock, run.stop());
     if (run.isStopped())
         co_return;
     if (const QString account = currentAccount(); !account.isEmpty()) {
-        std::vector<Arrival> more = co_await accountNotifications(account, run.stop());
+        Reading more = co_await accountNotifications(account, takesStock, run.stop());
         if (run.isStopped())
             co_return;
-        std::ranges::move(more, std::back_inserter(arrivals));
+        std::ranges::move(more.arrivals, std::back_inserter(reading.arrivals));
+        reading.isWhole = reading.isWhole && more.isWhole;
     }
-    co_await deliverAll(std::move(arrivals), m_owned.get_token());
+    const QCoro::Task<> delivered = deliverAll(std::move(reading.arrivals), m_owned.get_token());
+    // After it, on the disk as well: whatever ends the process between the two, nothing comes again.
+    if (takesStock && reading.isWhole && m_ledger->correctStart(m_services.clock.now()))
+        saveLedger();
+    co_await delivered;
 }
 
 bool DesktopNotifier::hasSupportConversation()
@@ -64,43 +72,52 @@ bool DesktopNotifier::hasSupportConversation()
     return token && !token->isEmpty();
 }
 
-QCoro::Task<std::vector<DesktopNotifier::Arrival>> DesktopNotifier::supportReplies(std::stop_token stop)
+QCoro::Task<DesktopNotifier::Reading> DesktopNotifier::supportReplies(bool takesStock, std::stop_token stop)
 {
-    std::vector<Arrival> arrivals;
     if (!m_services.support.replies || !hasSupportConversation())
-        co_return arrivals;
+        co_return {.arrivals = {}, .isWhole = true};
     const auto replies = co_await m_services.support.replies(stop);
     if (stop.stop_requested() || !replies)
-        co_return arrivals;
-    const bool isSeen = m_services.support.isOnScreen && m_services.support.isOnScreen();
+        co_return {};
+    std::vector<Arrival> arrivals;
     for (const SupportReply& reply : *replies) {
-        if (reply.messageID.isEmpty() || !reply.date.isValid() || reply.date <= m_ledger->startedAt())
+        if (reply.messageID.isEmpty() || !reply.date.isValid())
             continue;
+        const bool isBefore = reply.date <= m_ledger->startedAt();
+        if (isBefore && !takesStock)
+            continue;
+        const bool isSeen = isBefore || isSupportOnScreen();
         AppNotification notification = ownNotices::supportReply(reply.messageID, reply.text);
         if (m_ledger->contains(notification.id))
             continue;
+        notification.accountID = currentAccount(); // whoever comes next is not to read it
         arrivals.push_back({.notification = std::move(notification),
                             .inboxDate = isSeen ? std::nullopt : std::optional(reply.date),
                             .isSeen = isSeen});
     }
-    co_return arrivals;
+    co_return {.arrivals = std::move(arrivals), .isWhole = true};
 }
 
-QCoro::Task<std::vector<DesktopNotifier::Arrival>> DesktopNotifier::accountNotifications(QString account,
-                                                                                         std::stop_token stop)
+QCoro::Task<DesktopNotifier::Reading> DesktopNotifier::accountNotifications(QString account, bool takesStock,
+                                                                            std::stop_token stop)
 {
     std::vector<Arrival> arrivals;
     if (!m_services.account.page)
-        co_return arrivals;
-    // The list is read as far as it holds news; only a ledger that has grown long is worth more than that.
-    const bool readsAll = !m_didReadAll && m_ledger->delivered().size() > prunedFrom;
+        co_return {.arrivals = {}, .isWhole = true};
+    // The list is read as far as it holds news, unless the ledger has grown long, or a page failed the last time: what
+    // stands behind that one would be hidden by those before it, which were delivered.
+    const bool readsAll = takesStock || m_didBreakOff || (!m_didReadAll && m_ledger->delivered().size() > prunedFrom);
     QSet<QString> present;
     QString cursor;
     bool goesOn = true;
     while (goesOn) {
         const auto page = co_await m_services.account.page(cursor, stop);
-        if (stop.stop_requested() || !page)
-            co_return arrivals;
+        if (stop.stop_requested())
+            co_return {};
+        if (!page) {
+            m_didBreakOff = m_didBreakOff || !cursor.isEmpty();
+            co_return {.arrivals = std::move(arrivals), .isWhole = false};
+        }
         const qsizetype known = present.size();
         const std::size_t before = arrivals.size();
         for (const AccountNotification& item : page->notifications) {
@@ -109,8 +126,12 @@ QCoro::Task<std::vector<DesktopNotifier::Arrival>> DesktopNotifier::accountNotif
             present.insert(key);
             if (present.size() == count)
                 continue; // a list that moved while it was read
-            if (item.isUnread && item.date && *item.date > m_ledger->startedAt() && !m_ledger->contains(key))
-                arrivals.push_back({.notification = notificationOf(item, key, account)});
+            if (!item.isUnread || !item.date || m_ledger->contains(key))
+                continue;
+            const bool isBefore = *item.date <= m_ledger->startedAt();
+            if (!isBefore || takesStock)
+                arrivals.push_back(
+                    {.notification = notificationOf(item, key, account), .inboxDate = {}, .isSeen = isBefore});
         }
         const bool hasNews = arrivals.size() > before;
         const bool hasMore = present.size() > known && static_cast<std::size_t>(present.size()) < mostRead;
@@ -122,7 +143,8 @@ QCoro::Task<std::vector<DesktopNotifier::Arrival>> DesktopNotifier::accountNotif
         if (m_ledger->prune(present))
             saveLedger();
     }
-    co_return arrivals;
+    m_didBreakOff = false;
+    co_return {.arrivals = std::move(arrivals), .isWhole = true};
 }
 
 } // namespace loom

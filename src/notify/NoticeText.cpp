@@ -13,4 +13,10 @@ QString adaptedForDesktop(const QString& text)
     return QString(text).replace(atAStart, QStringLiteral("\\1Click to "));
 }
 
+bool isPersonal(const AppNotification& notification)
+{
+    return !notification.accountID.isEmpty() || notification.type == QLatin1String("support") ||
+           notification.type == QLatin1String("digest");
+}
+
 } // namespace loom

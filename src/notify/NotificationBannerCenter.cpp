@@ -1,6 +1,7 @@
 #include "notify/NotificationBannerCenter.h"
 
 #include "base/Clock.h"
+#include "notify/NoticeText.h"
 
 #include <algorithm>
 
@@ -88,7 +89,7 @@ void NotificationBannerCenter::withdraw(const QString& id)
 void NotificationBannerCenter::keepOnly(const QString& accountID)
 {
     drop([&accountID](const AppNotification& notification) {
-        return !notification.accountID.isEmpty() && notification.accountID != accountID;
+        return isPersonal(notification) && notification.accountID != accountID;
     });
 }
 

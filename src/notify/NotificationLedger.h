@@ -38,8 +38,9 @@ public:
     bool record(const QString& id);
     /// `present`: every identifier that a complete read of the server's list gave. True when something left.
     bool prune(const QSet<QString>& present);
-    /// Begun later than now: the clock was set back, and nothing would be delivered until it has caught up. True when
-    /// it had to be corrected.
+    /// Begun later than now: the clock is wrong or was, and nothing would be delivered until it has caught up. Only
+    /// once everything that is dated until then is recorded; else it would come again. True when it had to be
+    /// corrected.
     bool correctStart(const QDateTime& now);
 
     /// Makes the bytes of the file, of what is recorded by now. Any thread.

@@ -15,6 +15,8 @@ namespace loom
 namespace
 {
 
+/// So many rows more are asked for at once.
+constexpr int wantedAtOnce = 20;
 /// So many rows may come or go one by one.
 constexpr std::size_t mostMerged = 500;
 
@@ -43,6 +45,7 @@ NotificationsModel::NotificationsModel(AccountNotifications& account, InboxNotic
 {
     connect(&account, &AccountNotifications::listChanged, this, &NotificationsModel::follow);
     connect(&inbox, &InboxNotices::changed, this, &NotificationsModel::follow);
+    connect(&account, &AccountNotifications::loadingMoreChanged, this, &NotificationsModel::readOn);
     follow();
 }
 
@@ -56,6 +59,8 @@ void NotificationsModel::setTab(int tab)
     endResetModel();
     Q_EMIT tabChanged();
     Q_EMIT rowsChanged();
+    if (m_tab != All && count() < wantedAtOnce)
+        want(wantedAtOnce); // what belongs here may stand far behind what does not
 }
 
 bool NotificationsModel::isEverythingEmpty() const
@@ -75,7 +80,28 @@ bool NotificationsModel::canLoadMore() const
 
 void NotificationsModel::loadMore()
 {
+    want(count() + wantedAtOnce);
+}
+
+void NotificationsModel::want(int rows)
+{
+    m_wanted = rows;
+    m_held = m_account.notifications().size();
     m_account.loadMore();
+    if (!m_account.isLoadingMore())
+        m_wanted = 0;
+}
+
+void NotificationsModel::readOn()
+{
+    if (m_wanted == 0 || m_account.isLoadingMore())
+        return;
+    // A failure ends it, and so does an answer that brings nothing: the next may be the same for ever.
+    const bool brought = m_account.notifications().size() > m_held && m_account.moreErrorText().isEmpty();
+    if (brought && count() < m_wanted)
+        want(m_wanted);
+    else
+        m_wanted = 0;
 }
 
 void NotificationsModel::markRead(int row)
@@ -101,11 +127,17 @@ std::vector<NotificationsModel::Row> NotificationsModel::wantedRows() const
     const QDateTime today = m_clock.now().toLocalTime().date().startOfDay();
     std::vector<Row> rows;
     bool isEarlier = false;
+    std::vector<Row> undated;
     const auto add = [&](Row row) {
         if (!belongs(row.item.type, m_tab))
             return;
-        // One without a date is taken to be as old as the one before it; days stay together whatever the dates say.
-        if (row.item.date ? *row.item.date < today : rows.empty())
+        // One without a date is taken to be as old as the one before it, and without one before it older than all;
+        // days stay together whatever the dates say.
+        if (!row.item.date && rows.empty()) {
+            undated.push_back(std::move(row));
+            return;
+        }
+        if (row.item.date && *row.item.date < today)
             isEarlier = true;
         row.isToday = !isEarlier;
         rows.push_back(std::move(row));
@@ -132,6 +164,7 @@ std::vector<NotificationsModel::Row> NotificationsModel::wantedRows() const
     }
     while (own != m_inbox.notices().end())
         addOwn();
+    std::ranges::move(undated, std::back_inserter(rows));
     return rows;
 }
 

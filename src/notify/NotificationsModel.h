@@ -33,11 +33,11 @@ public:
         SymbolRole,                            ///< "symbol": the name of an icon
         LinkRole,                              ///< "link"; empty where a click leads nowhere
         PictureRole,                           ///< "picture": an address, often empty
-        DateRole,                              ///< "date": "3:04 PM" of today, or "Nov 20, 2026"; empty when it has none
-        SectionRole,                           ///< "section": "Today" or "Earlier", in the language of the window
-        UnreadRole,                            ///< "isUnread"
-        LocalRole,                             ///< "isLocal": this machine said it
-        SupportRole,                           ///< "isSupport": about the conversation with customer service
+        DateRole,    ///< "date": "3:04 PM" of today, or "Nov 20, 2026"; empty when it has none
+        SectionRole, ///< "section": "Today" or "Earlier", in the language of the window
+        UnreadRole,  ///< "isUnread"
+        LocalRole,   ///< "isLocal": this machine said it
+        SupportRole, ///< "isSupport": about the conversation with customer service
     };
     Q_ENUM(Role)
 
@@ -54,6 +54,7 @@ public:
     [[nodiscard]] bool canLoadMore() const;
     [[nodiscard]] AccountNotifications* account() const { return &m_account; }
 
+    /// As much as brings some rows under this tab.
     Q_INVOKABLE void loadMore();
     Q_INVOKABLE void markRead(int row);
     Q_INVOKABLE void markAllRead();
@@ -83,12 +84,16 @@ private:
     [[nodiscard]] std::vector<Row> wantedRows() const;
     void follow();
     void show(std::vector<Row> rows);
+    void want(int rows);
+    void readOn();
 
     AccountNotifications& m_account;
     InboxNotices& m_inbox;
     const DateFormat& m_dates;
     const Clock& m_clock;
     int m_tab = All;
+    int m_wanted = 0;       ///< so many rows are to be there, if the account's list has them
+    std::size_t m_held = 0; ///< of that list, when it was last asked for more
     std::vector<Row> m_rows;
 };
 

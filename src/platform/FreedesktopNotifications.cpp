@@ -30,17 +30,32 @@ QDBusMessage call(const char* method)
     return QDBusMessage::createMethodCall(service, path, interface, QLatin1String(method));
 }
 
+/// There is a server, but it said nothing.
+bool isSilence(QDBusError::ErrorType error)
+{
+    return error == QDBusError::NoReply || error == QDBusError::Timeout || error == QDBusError::TimedOut;
+}
+
 } // namespace
 
-FreedesktopNotifications::FreedesktopNotifications(QString applicationID, QObject* parent)
+FreedesktopNotifications::FreedesktopNotifications(QString applicationID, QObject* parent,
+                                                   std::chrono::milliseconds pause)
     : DesktopNotifications(parent)
     , m_applicationID(std::move(applicationID))
     , m_bus(QDBusConnection::sessionBus())
+    , m_pause(pause)
 {
 }
 
 QCoro::Task<DesktopPermission> FreedesktopNotifications::permission()
 {
+    // One that was too busy to answer is not to be without news for the rest of the run.
+    if (m_asksAgain && m_asksAgain->hasExpired() && !m_asking.isRunning()) {
+        const Work::Run run = m_asking.begin();
+        static_cast<void>(co_await readCapabilities(run.stop()));
+        if (run.isStopped())
+            co_return DesktopPermission::Denied;
+    }
     co_return m_permission;
 }
 
@@ -82,6 +97,7 @@ void FreedesktopNotifications::forgetServer()
 {
     // Another one counts anew, and may be able to do other things.
     m_capabilities.reset();
+    m_asksAgain.reset();
     m_ids.clear();
     m_known.clear();
     m_tokens.clear();
@@ -96,6 +112,9 @@ QCoro::Task<bool> FreedesktopNotifications::readCapabilities(std::stop_token sto
     m_permission = isAnswer ? DesktopPermission::Authorised : DesktopPermission::Denied;
     if (isAnswer)
         m_capabilities = answer.arguments().value(0).toStringList();
+    m_asksAgain.reset();
+    if (!isAnswer && isSilence(QDBusError(answer).type()))
+        m_asksAgain = QDeadlineTimer(m_pause);
     co_return isAnswer;
 }
 
@@ -127,10 +146,18 @@ QCoro::Task<> FreedesktopNotifications::postWaiting()
         m_waiting.pop_front();
         QDBusMessage message = call("Notify");
         message.setArguments(argumentsOf(notice));
+        m_sending = notice.requestIdentifier;
+        m_isTakenBack = false;
         const QDBusMessage answer = co_await m_bus.asyncCall(message, answerTimeout);
         if (run.isStopped())
             co_return;
+        m_sending.clear();
         const bool isGone = !take(notice, answer);
+        if (m_isTakenBack) {
+            close(notice.requestIdentifier);
+            isAgain = false;
+            continue;
+        }
         if (isGone && !isAgain)
             m_waiting.push_front(notice); // to whichever comes in its place
         isAgain = isGone && !isAgain;
@@ -188,11 +215,20 @@ void FreedesktopNotifications::withdraw(const QString& requestIdentifier)
     std::erase_if(m_waiting, [&requestIdentifier](const DesktopNotice& notice) {
         return notice.requestIdentifier == requestIdentifier;
     });
+    if (m_sending == requestIdentifier)
+        m_isTakenBack = true; // its id comes with the answer
+    else
+        close(requestIdentifier);
+}
+
+void FreedesktopNotifications::close(const QString& requestIdentifier)
+{
     const auto id = m_ids.constFind(requestIdentifier);
     if (id == m_ids.cend())
         return;
     QDBusMessage message = call("CloseNotification");
     message << *id;
+    m_ids.erase(id); // another of the same is a new one
     m_bus.send(message);
 }
 

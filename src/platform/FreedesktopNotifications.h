@@ -5,10 +5,12 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QMap>
 #include <QStringList>
 
+#include <chrono>
 #include <deque>
 #include <optional>
 
@@ -22,7 +24,9 @@ class FreedesktopNotifications final : public DesktopNotifications
     Q_OBJECT
 
 public:
-    explicit FreedesktopNotifications(QString applicationID, QObject* parent = nullptr);
+    /// After a server gave no answer it is asked again when so much time has passed.
+    explicit FreedesktopNotifications(QString applicationID, QObject* parent = nullptr,
+                                      std::chrono::milliseconds pause = std::chrono::minutes(1));
 
     [[nodiscard]] QCoro::Task<DesktopPermission> permission() override;
     [[nodiscard]] QCoro::Task<DesktopPermission> requestPermission() override;
@@ -42,13 +46,18 @@ private:
     [[nodiscard]] bool take(const DesktopNotice& notice, const QDBusMessage& answer);
     [[nodiscard]] QVariantList argumentsOf(const DesktopNotice& notice) const;
     [[nodiscard]] bool can(const char* capability) const;
+    void close(const QString& requestIdentifier);
 
     QString m_applicationID;
     QDBusConnection m_bus;
     bool m_isFollowing = false;
     DesktopPermission m_permission = DesktopPermission::NotDetermined;
     std::optional<QStringList> m_capabilities; ///< of the server that runs, once it was asked
+    std::chrono::milliseconds m_pause;
+    std::optional<QDeadlineTimer> m_asksAgain; ///< when, after it gave no answer
     std::deque<DesktopNotice> m_waiting;
+    QString m_sending;                 ///< the request identifier of the one that the server has not answered yet
+    bool m_isTakenBack = false;        ///< that one
     QHash<QString, uint> m_ids;        ///< the server's, of what is on screen, by request identifier
     QMap<uint, DesktopNotice> m_known; ///< what it may still report a click on, by its own id
     QHash<uint, QString> m_tokens;     ///< each for the action that is reported next

@@ -15,10 +15,10 @@ namespace
 {
 
 template <typename Record>
-QCoro::Task<ApiResult<Record>> ask(WidgetClient& widget, QString path, QJsonObject body,
+QCoro::Task<ApiResult<Record>> ask(std::reference_wrapper<WidgetClient> widget, QString path, QJsonObject body,
                                    Record (*decode)(const JsonReader&), std::stop_token stop)
 {
-    LOOM_CO_TRY(answer, co_await widget.post(path, body, {.timeout = MiraAPI::timeout}, stop));
+    LOOM_CO_TRY(answer, co_await widget.get().post(path, body, {.timeout = MiraAPI::timeout}, stop));
     auto record = co_await QtConcurrent::run([answer, decode] { return decodeJson(answer, decode); });
     if (stop.stop_requested())
         co_return Unexpected(Failure(Cancelled()));

@@ -315,11 +315,12 @@ void MiraChatModel::setToken(const QString& token)
 void MiraChatModel::forget(const QStringList& files)
 {
     restore(); // what does not go stays
+    if (files.contains(QLatin1String(MiraDraft::fileName))) {
+        m_draft.forget();
+        Q_EMIT draftChanged();
+    }
     if (!files.contains(QLatin1String(MiraTopics::cacheFile)))
         return;
-    // What was begun belongs to the conversation that goes.
-    m_draft.forget();
-    Q_EMIT draftChanged();
     for (Work* const work : {&m_loading, &m_sending, &m_askingGuide, &m_askingOrders, &m_noticing})
         work->stop();
     m_topics.forget();

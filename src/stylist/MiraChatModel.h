@@ -59,6 +59,7 @@ public:
 
     /// Somebody looks: shows what was kept, then asks the service, unless it has just been asked.
     Q_INVOKABLE void open();
+    [[nodiscard]] bool isOpen() const { return m_isOpen; }
     /// Asks again, and says so where nothing came of it.
     Q_INVOKABLE void refresh();
     /// It is known by now who is signed in: what is open is asked for on their behalf.
@@ -167,6 +168,7 @@ private:
     bool m_isOpen = false;
     std::chrono::milliseconds m_askedAt{0}; ///< for the thread, last
     QString m_token;
+    quint64 m_answers = 0; ///< of the service to messages, so far
     QString m_guideName;
     std::optional<MiraFailure> m_failure;
     std::optional<MiraCard> m_product;

@@ -16,11 +16,13 @@ namespace
 
 constexpr std::chrono::seconds noticeTime{5};
 
-/// The service no longer knows the visitor token that came with a call. Who is signed in is another matter.
-bool isUnknownToken(const Failure& failure)
+/// The service no longer knows the visitor token that came with a call. Who is signed in is another matter; a guest has
+/// nothing else that could be refused.
+bool isUnknownToken(const Failure& failure, const CallerIdentity& caller)
 {
     const auto* const http = failure.isCancelled() ? nullptr : failure.error().as<APIError::Http>();
-    return http && (http->status == 401 || http->status == 404 || http->status == 410) && !isRefusedSession(*http);
+    return http && (http->status == 401 || http->status == 404 || http->status == 410) &&
+           (caller.email.isEmpty() || !isRefusedSession(*http));
 }
 
 } // namespace
@@ -148,6 +150,7 @@ QCoro::Task<> MiraChatModel::deliver(QString key, Attempt attempt)
         if (run.isStopped())
             co_return;
         if (answer) {
+            ++m_answers;
             QStringList sentences;
             for (const MiraMessage& reply : m_topics.take(key, answer->messages))
                 sentences += miraRowText(reply).sentences;
@@ -156,12 +159,10 @@ QCoro::Task<> MiraChatModel::deliver(QString key, Attempt attempt)
                 Q_EMIT replyArrived(sentences);
             co_return;
         }
-        if (isLast || request.visitorToken.isEmpty() || !isUnknownToken(answer.error())) {
+        if (isLast || request.visitorToken.isEmpty() || !isUnknownToken(answer.error(), m_services.api.identity())) {
             fail(key, answer.error());
             co_return;
         }
-        if (m_token == request.visitorToken)
-            setToken({});
         const auto opened = co_await openThread(run.stop());
         if (run.isStopped())
             co_return;
@@ -182,18 +183,21 @@ void MiraChatModel::fail(const QString& key, const Failure& failure)
 
 QCoro::Task<ApiResult<MiraChatModel::Opened>> MiraChatModel::openThread(std::stop_token stop)
 {
-    QString token = m_token;
+    QString held = m_token;
+    QString token = held;
+    quint64 answers = m_answers;
     auto answer = co_await m_services.api.init(token, m_guideName, stop);
     for (;;) {
         if (stop.stop_requested())
             co_return Unexpected(Failure(Cancelled()));
-        const bool isOvertaken = m_token != token; // another call was given a token first: that one counts
-        const bool isUnknown = !answer && !token.isEmpty() && isUnknownToken(answer.error());
+        // Another call was given a token first, and that one counts; or what was said meanwhile may be missing here.
+        const bool isOvertaken = m_token != held || (answer && m_answers != answers);
+        const bool isUnknown = !answer && !token.isEmpty() && isUnknownToken(answer.error(), m_services.api.identity());
         if (!isOvertaken && !isUnknown)
             break;
-        if (!isOvertaken)
-            setToken({});
-        token = m_token;
+        held = m_token;
+        answers = m_answers;
+        token = isOvertaken ? held : QString(); // kept until there is another: with it goes the conversation
         answer = co_await m_services.api.init(token, m_guideName, stop);
     }
     if (!answer)

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 
 #include <array>
+#include <charconv>
 #include <cmath>
 
 namespace loom
@@ -167,7 +168,11 @@ QString errorDescription(MiraMeasurements::Problem problem)
 
 QString shownMeasure(double value)
 {
-    QString text = QString::number(value, 'f', 1);
+    // As "%.1f" of C rounds: what is exactly in the middle to the even digit, which Qt's own does not.
+    std::array<char, 400> digits{};
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, 1).ptr;
+    QString text = QString::fromLatin1(digits.data(), end - digits.data());
     if (text.endsWith(QLatin1String(".0")))
         text.chop(2);
     return text;

@@ -55,7 +55,10 @@ QString leadingHandle(QStringView text)
         return character == QChar::ReplacementCharacter || character.isSpace() || !character.isPrint() ||
                QStringView(u"/?#").contains(character);
     });
-    return isHandle ? decoded : handle;
+    // No piece has a longer one, and one that has would spoil the question about the others.
+    constexpr qsizetype longestHandle = 255;
+    const QString& found = isHandle ? decoded : handle;
+    return found.size() <= longestHandle ? found : QString();
 }
 
 /// Takes out the lines that are only the path of a product, with their ends.

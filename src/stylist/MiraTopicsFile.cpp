@@ -62,7 +62,9 @@ std::vector<MiraEntry> readEntries(const JsonReader& json)
     std::vector<MiraEntry> entries = JsonReader::decodeEach(json.optionalList("messages"), readEntry);
     QSet<QString> keys;
     std::erase_if(entries, [&keys](const MiraEntry& entry) {
-        return std::exchange(keys, keys + QSet<QString>{entry.key}).contains(entry.key);
+        const bool isKnown = keys.contains(entry.key);
+        keys.insert(entry.key);
+        return isKnown;
     });
     return entries;
 }

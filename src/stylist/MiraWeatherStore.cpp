@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
 
 namespace loom
@@ -40,8 +41,8 @@ MiraWeather readWeather(const JsonReader& json)
     MiraWeather weather{.city =
                             displayLine(json.optionalText("city").value_or(QString()), MiraWeatherStore::longestCity),
                         .temperature = json.decimal("temperature")};
-    if (const auto code = json.optionalInteger("code"); code && *code >= 0 && *code < 100)
-        weather.code = static_cast<int>(*code);
+    if (const auto code = json.optionalInteger("code"))
+        weather.code = static_cast<int>(std::clamp<qint64>(*code, -1, 1000)); // beyond, all mean the same
     weather.wind = json.optionalDecimal("wind").value_or(0);
     weather.rainChance = json.optionalDecimal("rainChance").value_or(0);
     if (!(std::abs(weather.temperature) < 100)) // colder and hotter it is nowhere
@@ -231,8 +232,8 @@ QCoro::Task<> MiraWeatherStore::fetch(Place place)
     } else {
         question = {{QStringLiteral("city"), place.city}};
     }
-    const auto body = co_await m_services.widget.post(QStringLiteral("/weather"), question,
-                                                      {.identity = Identity::Anonymous}, run.stop());
+    const auto body = co_await m_services.widget.post(
+        QStringLiteral("/weather"), question, {.identity = Identity::Anonymous, .timeout = timeout}, run.stop());
     if (run.isStopped())
         co_return;
     const auto answer =

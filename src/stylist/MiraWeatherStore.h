@@ -43,6 +43,7 @@ public:
     /// and weather as old as this says nothing any more.
     static constexpr std::chrono::hours usefulness{3};
     static constexpr qsizetype longestCity = 120;
+    static constexpr std::chrono::seconds timeout{8};
 
     struct Services {
         WidgetClient& widget;

@@ -54,6 +54,14 @@ void SizeAdviceModel::choose()
         m_product.choose(option(), recommendedSize());
 }
 
+void SizeAdviceModel::askAgain()
+{
+    m_asking.stop();
+    m_advice.clear();
+    m_wasAsked = false;
+    askOnce();
+}
+
 void SizeAdviceModel::askOnce()
 {
     // One size needs no advice.

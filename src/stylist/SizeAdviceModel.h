@@ -37,6 +37,8 @@ public:
     /// With what is chosen otherwise, it can be bought in that size.
     [[nodiscard]] bool isAvailable() const;
 
+    /// Somebody else is signed in, or nobody: what was advised is nothing to them.
+    void askAgain();
     /// Chooses the recommended size.
     Q_INVOKABLE void choose();
 

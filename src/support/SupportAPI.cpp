@@ -23,10 +23,10 @@ QCoro::Task<ApiResult<Record>> decoded(QByteArray answer, Record (*decode)(const
 }
 
 template <typename Record>
-QCoro::Task<ApiResult<Record>> ask(WidgetClient& widget, QString path, QJsonObject body,
+QCoro::Task<ApiResult<Record>> ask(std::reference_wrapper<WidgetClient> widget, QString path, QJsonObject body,
                                    Record (*decode)(const JsonReader&), std::stop_token stop)
 {
-    LOOM_CO_TRY(answer, co_await widget.post(path, body, {.timeout = SupportAPI::timeout}, stop));
+    LOOM_CO_TRY(answer, co_await widget.get().post(path, body, {.timeout = SupportAPI::timeout}, stop));
     co_return co_await decoded(answer, decode, stop);
 }
 
@@ -58,17 +58,17 @@ QCoro::Task<ApiResult<SupportInitResponse>> SupportAPI::init(QString visitorToke
 {
     QJsonObject body;
     insertKnown(body, QStringLiteral("visitorToken"), visitorToken);
-    return ask(m_widget, QStringLiteral("/support-init"), identified(body), decodeSupportInit, stop);
+    co_return co_await ask(m_widget, QStringLiteral("/support-init"), identified(body), decodeSupportInit, stop);
 }
 
 QCoro::Task<ApiResult<SupportRepliesResponse>> SupportAPI::message(Message message, std::stop_token stop)
 {
-    return ask(m_widget, QStringLiteral("/support-message"),
-               identified({{QStringLiteral("visitorToken"), message.visitorToken},
-                           {QStringLiteral("body"), message.body},
-                           {QStringLiteral("lang"), message.language},
-                           {QStringLiteral("clientID"), message.clientID}}),
-               decodeSupportReplies, stop);
+    co_return co_await ask(m_widget, QStringLiteral("/support-message"),
+                           identified({{QStringLiteral("visitorToken"), message.visitorToken},
+                                       {QStringLiteral("body"), message.body},
+                                       {QStringLiteral("lang"), message.language},
+                                       {QStringLiteral("clientID"), message.clientID}}),
+                           decodeSupportReplies, stop);
 }
 
 QCoro::Task<ApiResult<SupportRepliesResponse>> SupportAPI::upload(Message message, SupportFile file,
@@ -90,7 +90,7 @@ QCoro::Task<ApiResult<SupportRepliesResponse>> SupportAPI::replies(QString visit
 {
     QJsonObject body{{QStringLiteral("visitorToken"), visitorToken}};
     insertKnown(body, QStringLiteral("after"), after);
-    return ask(m_widget, QStringLiteral("/support-replies"), body, decodeSupportReplies, stop);
+    co_return co_await ask(m_widget, QStringLiteral("/support-replies"), body, decodeSupportReplies, stop);
 }
 
 QCoro::Task<ApiResult<void>> SupportAPI::read(QString visitorToken, QString upTo, std::stop_token stop)

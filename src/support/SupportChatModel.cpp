@@ -73,6 +73,7 @@ void SupportChatModel::view(QObject* viewer, Viewing viewing)
     if (!viewer || m_viewers.value(viewer, Away) == viewing)
         return;
     const bool wasOpen = !m_viewers.isEmpty();
+    const bool wasOnScreen = isOnScreen();
     if (viewing == Away) {
         m_viewers.remove(viewer);
         disconnect(viewer, &QObject::destroyed, this, nullptr);
@@ -89,6 +90,8 @@ void SupportChatModel::view(QObject* viewer, Viewing viewing)
         static_cast<void>(load(Asked::ByItself));
         static_cast<void>(poll());
     }
+    if (isOnScreen() != wasOnScreen)
+        Q_EMIT stateChanged();
 }
 
 bool SupportChatModel::isOnScreen() const
@@ -109,8 +112,11 @@ QString SupportChatModel::failure() const
 
 QCoro::Task<> SupportChatModel::load(Asked asked)
 {
-    // Whoever sends the first message opens the conversation already; twice would make two of them.
-    if (m_token.isEmpty() && m_sending.isRunning())
+    // Whoever is opening the conversation already goes on with it; twice would make two of them.
+    const auto isBeingOpened = [this] {
+        return m_token.isEmpty() && m_sending.isRunning();
+    };
+    if (isBeingOpened() || (m_token.isEmpty() && m_loading.isRunning()))
         co_return;
     const Work::Run run = m_loading.begin();
     if (asked == Asked::ByShopper) {
@@ -120,10 +126,15 @@ QCoro::Task<> SupportChatModel::load(Asked asked)
     ApiResult<void> outcome;
     if (m_isOpen)
         outcome = co_await ask(run.stop());
-    else
-        outcome = co_await open(run.stop());
     if (run.isStopped())
         co_return;
+    if (!m_isOpen) {
+        if (isBeingOpened())
+            co_return;
+        outcome = co_await open(run.stop());
+        if (run.isStopped())
+            co_return;
+    }
     finish(outcome);
     static_cast<void>(deliver()); // what waited for the conversation
 }
@@ -144,17 +155,22 @@ QCoro::Task<> SupportChatModel::poll()
         const ApiResult<void> outcome = co_await ask(run.stop());
         if (run.isStopped())
             co_return;
-        finish(outcome);
+        if (m_isOpen)
+            finish(outcome);
+        else
+            static_cast<void>(load(Asked::ByItself)); // the service does not know it any more
     }
 }
 
 QCoro::Task<ApiResult<void>> SupportChatModel::open(std::stop_token stop)
 {
-    ApiResult<SupportInitResponse> answer = co_await m_services.api.init(m_token, stop);
+    const QString token = m_token;
+    ApiResult<SupportInitResponse> answer = co_await m_services.api.init(token, stop);
     if (stop.stop_requested())
         co_return Unexpected(Failure(Cancelled()));
-    if (!answer && !m_token.isEmpty() && isUnknownConversation(answer.error())) {
-        dropConversation();
+    if (!answer && !token.isEmpty() && isUnknownConversation(answer.error())) {
+        if (m_token == token)
+            dropConversation();
         answer = co_await m_services.api.init({}, stop);
         if (stop.stop_requested())
             co_return Unexpected(Failure(Cancelled()));
@@ -175,10 +191,8 @@ QCoro::Task<ApiResult<void>> SupportChatModel::ask(std::stop_token stop)
     const auto answer = co_await m_services.api.replies(token, m_thread.lastID(), stop);
     if (stop.stop_requested() || token != m_token)
         co_return Unexpected(Failure(Cancelled()));
-    if (!answer && isUnknownConversation(answer.error())) {
+    if (!answer && isUnknownConversation(answer.error()))
         dropConversation();
-        co_return co_await open(stop);
-    }
     if (!answer)
         co_return Unexpected(answer.error());
     take(*answer);

@@ -141,6 +141,8 @@ QCoro::Task<> SupportChatModel::deliver()
         const auto outcome = co_await carry(key, run.stop());
         if (run.isStopped())
             co_return;
+        if (!outcome && m_token.isEmpty() && m_loading.isRunning())
+            co_return;
         if (outcome)
             take(*outcome); // and with it what was sent
         m_thread.fail(key, outcome ? std::nullopt : outcome.error());
@@ -167,6 +169,8 @@ QCoro::Task<Result<SupportRepliesResponse, std::optional<SupportFailure>>> Suppo
         entry.file->mimeType = read->mimeType;
     }
     for (int attempt = 1;; ++attempt) {
+        if (m_token.isEmpty() && m_loading.isRunning())
+            co_return Unexpected(Unsent()); // it goes with the conversation that is being opened
         if (m_token.isEmpty()) {
             const ApiResult<void> opened = co_await open(stop);
             if (stop.stop_requested() || !opened)

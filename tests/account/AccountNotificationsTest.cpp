@@ -142,6 +142,28 @@ TEST_F(AccountNotificationsTest, WhatIsReadIsReadAtOnceAndToldUntilItIsConfirmed
     EXPECT_FALSE(QFile::exists(directory.path() + QStringLiteral("/lst_notifications_state.json")));
 }
 
+TEST_F(AccountNotificationsTest, APageOlderThanTheConfirmationMakesNothingUnreadAgain)
+{
+    begin(page({QStringLiteral("b"), QStringLiteral("a")}, 2));
+    const std::size_t asked = server.requests().size();
+    server.expect(path(listCall),
+                  page({QStringLiteral("c"), QStringLiteral("b"), QStringLiteral("a")}, 3).pauseAfter(0));
+    store.reload();
+    server.waitForRequests(asked + 1);
+    server.expect(path(readCall), unread(2));
+    store.markRead(QStringLiteral("b"));
+    waitUntil(
+        [this] {
+            folder.waitUntilWritten();
+            return !QFile::exists(directory.path() + QStringLiteral("/lst_notifications_state.json"));
+        },
+        "the backend confirms it");
+    server.proceed();
+    settle();
+    EXPECT_EQ(shown(), QStringLiteral("c* b a*"));
+    EXPECT_EQ(store.unreadCount(), 2);
+}
+
 TEST_F(AccountNotificationsTest, AllAreReadAtOnceAndByTheirIdsWhereThatFails)
 {
     begin(page({QStringLiteral("b"), QStringLiteral("a")}, 12));

@@ -53,8 +53,9 @@ protected:
     /// they travel side by side.
     [[nodiscard]] QStringList queries(qsizetype count)
     {
-        // What the windows show is written a moment later, and the configuration is asked for from time to time.
-        const int writing = model->windows().empty() ? 0 : 2;
+        // What the windows show is written a moment later, and from time to time the configuration and news are asked
+        // for.
+        const int writing = model->windows().empty() ? 0 : 3;
         waitUntil([&] { return asked.size() >= count && clock.sleepers() <= writing; }, "every query is answered");
         drainEvents();
         QStringList sorted = std::exchange(asked, {});

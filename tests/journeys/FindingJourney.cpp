@@ -106,7 +106,7 @@ TEST_F(FindingJourney, ADepartmentADesignerASearchAndALinkLeadToThePiece)
 
     follow(QStringLiteral(" LOOMSTREET://collections/dresses/products/sabine-bias-slip-dress?variant=1#sizes"));
     window.awaitPage(dress);
-    window.awaitText(QStringLiteral("3235 sold"));
+    window.awaitText(QStringLiteral("3,235 sold"));
     const auto isDressed = [this] {
         return !window.findInOrder(QStringLiteral("card."), window.find(QStringLiteral("outfit"))).isEmpty();
     };

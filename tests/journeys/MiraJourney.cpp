@@ -1,14 +1,8 @@
 #include "commerce/CartStore.h"
 #include "commerce/WishlistStore.h"
-#include "kit/Journey.h"
-#include "stylist/MiraChatModel.h"
+#include "kit/StylistJourney.h"
 #include "stylist/MiraLookModel.h"
-#include "support/FakeClock.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <filesystem>
+#include "stylist/MiraWeatherStore.h"
 
 namespace loom
 {
@@ -18,87 +12,12 @@ namespace
 
 const QString dress = QStringLiteral("Sabine bias slip dress");
 const QString dressPage = QStringLiteral("/products/sabine-bias-slip-dress");
-const QString miraPage = QStringLiteral("/pages/mira");
-const QString odile = QStringLiteral("odile-tiered-dress");
 const QString blazer = QStringLiteral("linden-tailored-blazer");
-const QString unconfirmed = QStringLiteral("This message has not been confirmed. You can try again.");
 const QString ines = QStringLiteral("ines.marinho@example.com");
-const QString messagePath = QStringLiteral("/api/support/widget/message");
 
-/// Writing to the stylist, and what comes of it.
-class MiraJourney : public Journey
+/// From a piece to a conversation about it, and from there to the checkout.
+class MiraJourney : public StylistJourney
 {
-protected:
-    [[nodiscard]] MiraChatModel& mira() const { return *shop->model().mira(); }
-    [[nodiscard]] int count() const { return mira().thread()->count(); }
-    [[nodiscard]] static QQuickItem* field(const WindowDriver& window)
-    {
-        return window.await(QStringLiteral("input"), window.await(QStringLiteral("composer")));
-    }
-    void openDock() const
-    {
-        window.press(QStringLiteral("Ctrl+Shift+M"));
-        waitUntil([this] { return field(window)->hasActiveFocus(); }, "the keyboard writes to her");
-        waitUntil([this] { return !mira().isLoading(); }, "the thread is there");
-    }
-    void openPage(const Circumstances& circumstances = {})
-    {
-        start(miraPage, circumstances);
-        window.awaitPage(QStringLiteral("Mira"));
-        waitUntil([this] { return !mira().isLoading(); }, "the thread is there");
-    }
-    void say(const QString& words) const
-    {
-        window.click(field(window));
-        window.type(words);
-        window.press(QStringLiteral("Return"));
-    }
-    void awaitAnswer() const
-    {
-        waitUntil([this] { return !mira().isReplying(); }, "she has replied");
-        window.awaitFrame();
-    }
-    void sayAndAwait(const QString& words) const
-    {
-        say(words);
-        awaitAnswer();
-        EXPECT_EQ(mira().failure(), QString());
-    }
-    /// What she says next.
-    void script(const QJsonArray& next) { store.setStylist({{QStringLiteral("next"), next}}); }
-    [[nodiscard]] QJsonObject lastMessage() { return store.messages().last().toObject(); }
-    [[nodiscard]] QString lastBody() { return lastMessage()[u"body"].toString(); }
-    [[nodiscard]] QVariant latest(MiraThreadModel::Role role, int row = 0) const
-    {
-        return mira().thread()->index(row).data(role);
-    }
-    [[nodiscard]] int timesShown(const QString& text) const
-    {
-        return static_cast<int>(window.texts(window.await(QStringLiteral("thread"))).count(text));
-    }
-    void fill(const QString& name, const QString& text) const
-    {
-        const QQuickItem* const input = window.await(QStringLiteral("input"), window.await(name));
-        window.click(window.await(name));
-        waitUntil([input] { return input->hasActiveFocus(); }, "the field has the keyboard");
-        window.press(QStringLiteral("Ctrl+A"));
-        window.type(text);
-    }
-    void signIn() const
-    {
-        window.click(QStringLiteral("account"));
-        window.click(window.await(QStringLiteral("tab1"), window.await(QStringLiteral("modes"))));
-        fill(QStringLiteral("email"), ines);
-        fill(QStringLiteral("password"), QStringLiteral("atelier24"));
-        window.press(QStringLiteral("Return"));
-        window.awaitGone(QStringLiteral("signInSheet"));
-        waitUntil([this] { return shop->model().auth()->isSignedIn(); }, "Ines is signed in");
-    }
-    void retryLast() const
-    {
-        const QQuickItem* const problem = window.await(QStringLiteral("problem"));
-        window.click(window.await(QStringLiteral("retry"), problem->parentItem()->parentItem()));
-    }
 };
 
 TEST_F(MiraJourney, AConversationEndsWithALookInTheBagInTheRightSizes)
@@ -124,7 +43,7 @@ TEST_F(MiraJourney, AConversationEndsWithALookInTheBagInTheRightSizes)
     // She asks for the shopper's measurements, and the sheet for them is at hand.
     sayAndAwait(QStringLiteral("Which size should I take?"));
     window.click(QStringLiteral("measurements"));
-    window.click(window.await(QStringLiteral("segment1"), window.await(QStringLiteral("units"))));
+    window.click(window.await(QStringLiteral("segment1"), window.await(QStringLiteral("measurementsSheet"))));
     fill(QStringLiteral("feet"), QStringLiteral("2"));
     fill(QStringLiteral("inches"), QStringLiteral("7"));
     fill(QStringLiteral("weight"), QStringLiteral("137"));
@@ -142,8 +61,9 @@ TEST_F(MiraJourney, AConversationEndsWithALookInTheBagInTheRightSizes)
     QQuickItem* const sheet = window.await(QStringLiteral("lookSheet"));
     QList<QQuickItem*> pieces;
     const auto isAdvised = [](const QQuickItem* piece) {
-        return piece->property("phase") == MiraLookModel::Ready &&
-               (piece->property("sizes").toList().size() < 2 || !piece->property("recommendedSize").toString().isEmpty());
+        return piece->property("phase").toInt() == static_cast<int>(MiraLookModel::Phase::Ready) &&
+               (piece->property("sizes").toList().size() < 2 ||
+                !piece->property("recommendedSize").toString().isEmpty());
     };
     waitUntil(
         [&] {
@@ -234,117 +154,14 @@ TEST_F(MiraJourney, WhatTheShopperCannotSeeInTheirWordsGoesAlongByteForByte)
     mira().anchorLook(blazer, QStringLiteral("Linden [tailored] blazer"));
     window.await(QStringLiteral("context.anchor"));
     sayAndAwait(QStringLiteral("And around it?"));
-    EXPECT_EQ(lastBody(), QStringLiteral("And around it?\n[Build the look around: Linden (tailored) blazer]\n") + weather);
+    EXPECT_EQ(lastBody(),
+              QStringLiteral("And around it?\n[Build the look around: Linden (tailored) blazer]\n") + weather);
     window.click(QStringLiteral("context.anchor"));
     window.click(QStringLiteral("context.weather"));
     sayAndAwait(QStringLiteral("Only this"));
     EXPECT_EQ(lastBody(), QStringLiteral("Only this"));
 }
 
-/// Time passes only while a test lets it.
-class MiraFailureJourney : public MiraJourney
-{
-protected:
-    FakeClock clock;
-};
+} // namespace
 
-TEST_F(MiraFailureJourney, EveryFailureHasItsSentenceAndTheMessageStaysUntilItArrives)
-{
-    struct Failing {
-        const char* kind;
-        int status;
-        const char* code;
-        const char* sentence;
-    };
-    tolerate(QStringLiteral("Connection closed"));
-    openPage({.clock = &clock});
-    for (const Failing& failing : {
-             Failing{"status", 429, "RATE_LIMITED", "You're sending messages too quickly. Wait a moment first."},
-             Failing{"status", 400, "BAD_INPUT", "This message couldn't be sent as written."},
-             Failing{"status", 500, "OOPS", "LOOMSTREET is having trouble right now."},
-             Failing{"status", 403, "OOPS", "Couldn't reach LOOMSTREET."},
-             Failing{"stall", 500, "", "Mira took too long to respond."},
-             Failing{"drop", 500, "", "You appear to be offline."},
-         }) {
-        SCOPED_TRACE(failing.sentence);
-        const bool isDropped = failing.kind == std::string_view("drop");
-        const QString words = QStringLiteral("Say %1").arg(QString::fromLatin1(failing.sentence));
-        const int before = count();
-        shop->network().setOffline(isDropped);
-        store.setStylist(
-            {{QStringLiteral("next"), QJsonArray{QStringLiteral("As you wish.")}},
-             {QStringLiteral("fail"), QJsonObject{{QStringLiteral("kind"), QString::fromLatin1(failing.kind)},
-                                                  {QStringLiteral("status"), failing.status},
-                                                  {QStringLiteral("code"), QString::fromLatin1(failing.code)},
-                                                  {QStringLiteral("times"), 1}}}});
-        const auto asked = [this] {
-            const QJsonArray all = store.requests();
-            return std::ranges::count_if(all, [](const QJsonValue& one) { return one[u"path"] == messagePath; });
-        };
-        const auto askedBefore = asked();
-        say(words);
-        if (failing.kind == std::string_view("stall")) {
-            waitUntil([&] { return asked() > askedBefore; }, "the message is on its way");
-            clock.advance(std::chrono::seconds(20));
-        }
-        window.awaitText(unconfirmed);
-        window.awaitText(QString::fromLatin1(failing.sentence), window.await(QStringLiteral("strip")));
-        EXPECT_EQ(count(), before + 1);
-        shop->network().setOffline(false);
-        retryLast();
-        awaitAnswer();
-        EXPECT_EQ(count(), before + 2);
-        EXPECT_EQ(timesShown(words), 1);
-        window.awaitNoText(unconfirmed);
-        window.awaitGone(QStringLiteral("strip"));
-    }
-}
-
-TEST_F(MiraJourney, WhatWasWrittenOutlivesACrashAndIsNeverSaidTwice)
-{
-    const QTemporaryDir folder;
-    const QTemporaryDir crashed;
-    openPage({.folder = folder.path()});
-    sayAndAwait(QStringLiteral("Hello"));
-    store.setStylist({{QStringLiteral("lose"), 1}});
-    const QString lost = QStringLiteral("Is the blazer lined?");
-    say(lost);
-    window.awaitText(unconfirmed);
-    const QString begun = QStringLiteral("And does it come in gr");
-    window.type(begun);
-    const auto isWritten = [&](const char* name, const QString& text) {
-        QFile file(folder.filePath(QStringLiteral("data/") + QLatin1String(name)));
-        return file.open(QIODevice::ReadOnly) && file.readAll().contains(text.toUtf8());
-    };
-    waitUntil([&] { return isWritten("lst_mira_draft.json", begun) && isWritten("lst_mira_topics.json", lost); },
-              "both are on the disk");
-    // What a process that ends this moment leaves behind.
-    std::filesystem::copy(folder.path().toStdString(), crashed.path().toStdString(),
-                          std::filesystem::copy_options::recursive);
-    shop.reset();
-
-    store.setStylist({{QStringLiteral("delay"), 600}}); // what was kept is there before the service has answered
-    start(miraPage, {.folder = crashed.path()});
-    window.awaitText(lost);
-    window.awaitText(QStringLiteral("Hello"));
-    EXPECT_EQ(field(window)->property("text"), begun);
-    waitUntil([this] { return !mira().isLoading(); }, "the thread is there");
-    // The service had it all the time, and an answer to it.
-    window.awaitNoText(unconfirmed);
-    EXPECT_EQ(timesShown(lost), 1);
-    EXPECT_EQ(count(), 4);
-    EXPECT_EQ(store.messages().size(), 2);
-
-    // And once more, by the button.
-    store.setStylist({{QStringLiteral("delay"), 0}, {QStringLiteral("lose"), 1}});
-    window.click(field(window));
-    window.type(QStringLiteral("een?"));
-    window.press(QStringLiteral("Return"));
-    window.awaitText(unconfirmed);
-    retryLast();
-    awaitAnswer();
-    window.awaitNoText(unconfirmed);
-    EXPECT_EQ(timesShown(begun + QStringLiteral("een?")), 1);
-    EXPECT_EQ(count(), 6);
-    EXPECT_EQ(store.messages().size(), 3);
-}
+} // namespace loom

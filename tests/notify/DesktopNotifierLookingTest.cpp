@@ -106,6 +106,78 @@ TEST_F(DesktopNotifierLookingTest, RepliesAreLookedForOnlyInAConversationAndShow
     EXPECT_EQ(inbox.notices().size(), 2);
 }
 
+TEST_F(DesktopNotifierLookingTest, RepliesThatAreSeenInTheConversationAreTakenBackAndRead)
+{
+    beginConversation();
+    launch();
+    replies = {reply(QStringLiteral("m1"), QStringLiteral("One")), reply(QStringLiteral("m2"), QStringLiteral("Two"))};
+    list = {item(QStringLiteral("a"))};
+    look();
+    EXPECT_EQ(banners.current()->id, QStringLiteral("support-m1"));
+    isSupportOnScreen = true;
+    notifier->supportSeen();
+    EXPECT_EQ(banner(), QStringList{QStringLiteral("account-a")});
+    EXPECT_TRUE(desktop.withdrawn.contains(QStringLiteral("lst-support-m1")));
+    EXPECT_TRUE(desktop.withdrawn.contains(QStringLiteral("lst-support-m2")));
+    EXPECT_FALSE(desktop.withdrawn.contains(QStringLiteral("lst-account-a")));
+    EXPECT_TRUE(std::ranges::none_of(inbox.notices(), &InboxNotice::isUnread));
+
+    isSupportOnScreen = false;
+    replies = {reply(QStringLiteral("m3"), QStringLiteral("Three"))};
+    notifier->check(); // on its way to the disk
+    EXPECT_TRUE(notifier->inFlight().contains(QStringLiteral("support-m3")));
+    isSupportOnScreen = true;
+    notifier->supportSeen();
+    settle();
+    EXPECT_EQ(posted().size(), 3);
+    EXPECT_FALSE(inbox.notices().front().isUnread);
+}
+
+TEST_F(DesktopNotifierLookingTest, AGuestsRepliesAreGoneForWhoSignsIn)
+{
+    account = QString();
+    beginConversation();
+    launch();
+    replies = {reply(QStringLiteral("m1"), QStringLiteral("For the guest"))};
+    look();
+    EXPECT_EQ(posted().size(), 1);
+    replies.clear();
+    become(QStringLiteral("7"));
+    EXPECT_TRUE(banner().isEmpty());
+    EXPECT_EQ(desktop.withdrawn, QStringList{QStringLiteral("lst-support-m1")});
+}
+
+TEST_F(DesktopNotifierLookingTest, AClockThatIsWrongNeitherReplaysNorSilences)
+{
+    const QDateTime right = clock.now();
+    for (const int days : {-20000, -3}) {
+        SCOPED_TRACE(days);
+        clock.setNow(right);
+        const NotificationLedger ledger(QStringLiteral("account-7"), right);
+        folder.save(NotificationLedger::fileName, ledger.encoder());
+        desktop.posted.clear();
+        beginConversation();
+        replies = {reply(QStringLiteral("old"), QStringLiteral("Before"), -60)};
+        list = {item(QStringLiteral("new"), 10), item(QStringLiteral("b"), -60), item(QStringLiteral("a"), -90)};
+        pageSize = 2;
+        failsFrom = 2;
+        clock.setNow(right.addDays(days));
+        launch();
+        EXPECT_EQ(notifier->ledger()->startedAt(), right) << "the list was not read to its end";
+        failsFrom = SIZE_MAX;
+        look();
+        EXPECT_EQ(notifier->ledger()->startedAt(), clock.now());
+        list.insert(list.begin(), item(QStringLiteral("meanwhile"), 1));
+        look();
+        clock.setNow(right.addSecs(60));
+        list.insert(list.begin(), item(QStringLiteral("later"), 1));
+        look();
+        launch();
+        EXPECT_EQ(posted(), (QStringList{QStringLiteral("account-new"), QStringLiteral("account-meanwhile"),
+                                         QStringLiteral("account-later")}));
+    }
+}
+
 TEST_F(DesktopNotifierLookingTest, OfManyAtOnceTwentyComeAndADigestOfEachCategoryStandsForTheRest)
 {
     launch();
@@ -138,6 +210,24 @@ TEST_F(DesktopNotifierLookingTest, AListIsReadAsFarAsItHoldsNews)
     EXPECT_EQ(notifier->ledger()->delivered().size(), 19);
     look();
     EXPECT_EQ(pagesRead, 4);
+}
+
+TEST_F(DesktopNotifierLookingTest, WhatALookDidNotReachBecauseAPageFailedComesWithALaterOne)
+{
+    launch();
+    pageSize = 10;
+    addItems(30);
+    failsFrom = 10;
+    for (int i = 0; i < 2; ++i) {
+        look();
+        EXPECT_EQ(notifier->ledger()->delivered().size(), 10);
+    }
+    failsFrom = SIZE_MAX;
+    look();
+    EXPECT_EQ(notifier->ledger()->delivered().size(), 30);
+    pagesRead = 0;
+    look();
+    EXPECT_EQ(pagesRead, 1);
 }
 
 TEST_F(DesktopNotifierLookingTest, TenThousandAtOnceAreRecordedAndAnEndlessListIsNotReadForEver)

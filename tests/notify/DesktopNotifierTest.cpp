@@ -74,6 +74,9 @@ TEST_F(DesktopNotifierTest, ARunThatEndsInTheMiddleOfADeliveryDoesNotRepeatIt)
     notifier->deliverOrderPlaced(QStringLiteral("LST1"));
     settle();
     EXPECT_TRUE(posted().isEmpty());
+    InboxNotices kept(folder);
+    kept.setOwner(QStringLiteral("account-7"));
+    EXPECT_EQ(kept.notices().size(), 1); // nor is it lost
 
     notifier->deliverOrderPlaced(QStringLiteral("LST2"));
     notifier->deliverOrderPlaced(QStringLiteral("LST2"));
@@ -120,29 +123,66 @@ TEST_F(DesktopNotifierTest, ALedgerThatCannotBeReadBeginsAnewAndReplaysNothing)
 
 TEST_F(DesktopNotifierTest, EveryChangeOfTheAccountBeginsALedger)
 {
+    folder.save(QStringLiteral("lst_support_visitor_token"), QJsonValue(QStringLiteral("token-1")));
     launch();
     list = {item(QStringLiteral("mine"))};
+    replies = {{.messageID = QStringLiteral("m1"), .text = QStringLiteral("For you"), .date = clock.now().addSecs(1)}};
     look();
     notifier->deliverOrderPlaced(QStringLiteral("LST1"));
+    notifier->deliverUnavailable(QStringLiteral("x"));
     settle();
-    EXPECT_EQ(banners.waitingCount(), 1);
+    EXPECT_EQ(banners.waitingCount(), 3);
 
     clock.advance(std::chrono::seconds(1));
     become(QString());
     EXPECT_EQ(notifier->ledger()->owner(), QStringLiteral("guest"));
-    EXPECT_EQ(desktop.withdrawn, QStringList{QStringLiteral("lst-account-mine")});
-    EXPECT_EQ(banner(), QStringList{order}); // what belonged to the account is gone
+    EXPECT_EQ(desktop.withdrawn, (QStringList{QStringLiteral("lst-support-m1"), QStringLiteral("lst-account-mine"),
+                                              QStringLiteral("lst-order-placed-LST1")}));
+    EXPECT_EQ(banner(), QStringList{QStringLiteral("unavailable-x")}); // what belonged to the account is gone
     EXPECT_TRUE(inbox.notices().empty());
     look();
-    EXPECT_EQ(posted().size(), 2);
+    EXPECT_EQ(posted().size(), 4);
 
     clock.advance(std::chrono::seconds(5));
     become(QStringLiteral("7"));
-    EXPECT_EQ(posted().size(), 2); // dated before the sign-in
+    EXPECT_EQ(posted().size(), 4); // dated before the sign-in
     list.insert(list.begin(), item(QStringLiteral("new")));
     list.front().date = clock.now().addMSecs(1);
     look();
     EXPECT_EQ(posted().last(), QStringLiteral("account-new"));
+}
+
+TEST_F(DesktopNotifierTest, WhoLeavesAndComesBackWhileTheLedgerIsReadBeginsOneAsWell)
+{
+    const NotificationLedger old(QStringLiteral("account-7"), clock.now().addDays(-1));
+    folder.save(NotificationLedger::fileName, old.encoder());
+    folder.waitUntilWritten();
+    list = {item(QStringLiteral("between"), -60)};
+    notifier = std::make_unique<DesktopNotifier>(services());
+    notifier->start();
+    ASSERT_FALSE(notifier->ledger());
+    for (const char* const next : {"", "7"}) {
+        account = QString::fromLatin1(next);
+        notifier->accountChanged();
+    }
+    settle();
+    EXPECT_EQ(notifier->ledger()->startedAt(), clock.now());
+    EXPECT_TRUE(posted().isEmpty());
+}
+
+TEST_F(DesktopNotifierTest, APreviewShowsWhoeverIsHereAndLeavesNothingInTheInbox)
+{
+    account.reset();
+    launch();
+    notifier->deliverPreview();
+    settle();
+    EXPECT_EQ(posted().size(), 1);
+    EXPECT_EQ(banner().size(), 1);
+    become(QStringLiteral("7"));
+    notifier->deliverPreview();
+    settle();
+    EXPECT_EQ(posted().size(), 2);
+    EXPECT_TRUE(inbox.notices().empty());
 }
 
 TEST_F(DesktopNotifierTest, WhatIsDeliveredBeforeItIsKnownWhoIsHereWaits)
@@ -268,7 +308,9 @@ TEST_F(DesktopNotifierTest, ABannerThatIsOpenedIsReadAndLeavesTheDesktop)
     launch();
     list = {item(QStringLiteral("a"))};
     look();
-    notifier->deliverUnavailable(QStringLiteral("imageSearch"));
+    // As pages call it.
+    ASSERT_TRUE(
+        QMetaObject::invokeMethod(notifier.get(), "deliverUnavailable", Q_ARG(QString, QStringLiteral("imageSearch"))));
     settle();
     banners.open();
     EXPECT_EQ(read, QStringList{QStringLiteral("a")});

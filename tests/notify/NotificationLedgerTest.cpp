@@ -33,7 +33,7 @@ TEST(NotificationLedgerTest, ItsFileHoldsTheThreeKeysAndIsReadBack)
     EXPECT_EQ(NotificationLedger::ownerOf({}), QStringLiteral("guest"));
 }
 
-TEST(NotificationLedgerTest, AClockThatWasSetBackDoesNotSilenceIt)
+TEST(NotificationLedgerTest, ABeginningAheadOfTheClockIsCorrectedOnce)
 {
     NotificationLedger ledger(QStringLiteral("guest"), began);
     EXPECT_FALSE(ledger.correctStart(began));

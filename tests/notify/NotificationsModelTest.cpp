@@ -31,12 +31,17 @@ protected:
         drainEvents();
     }
 
-    void take(const QList<QJsonObject>& items)
+    void foretell(const QList<QJsonObject>& items, const QString& nextCursor = {})
     {
         QJsonArray list;
         for (const QJsonObject& item : items)
             list.append(item);
-        server.expect(path("/notifications"), Answer::json({{QStringLiteral("notifications"), list}}));
+        server.expect(path("/notifications"), Answer::json({{QStringLiteral("notifications"), list},
+                                                            {QStringLiteral("nextCursor"), nextCursor}}));
+    }
+    void take(const QList<QJsonObject>& items, const QString& nextCursor = {})
+    {
+        foretell(items, nextCursor);
         ASSERT_TRUE(run(account.page({}, {})));
     }
     [[nodiscard]] static QJsonObject item(const QString& id, int hoursAgo, const char* type = "restock")
@@ -80,6 +85,11 @@ TEST_F(NotificationsModelTest, NoticesOfThisMachineStandAmongTheAccountsByDateAn
     EXPECT_EQ(at(0, NotificationsModel::SymbolRole), QStringLiteral("hanger"));
     EXPECT_TRUE(at(3, NotificationsModel::LocalRole).toBool());
 
+    take({undated, item(QStringLiteral("a"), 0), item(QStringLiteral("c"), 30)});
+    EXPECT_EQ(rows(), QStringLiteral("aT unavailable-xT cE order-placed-LST1E undatedE"))
+        << "it makes no day of its own";
+
+    take({item(QStringLiteral("future"), -9000), item(QStringLiteral("a"), 0), undated});
     clock.advance(std::chrono::hours(24));
     model.refreshDays();
     EXPECT_TRUE(rows().startsWith(QStringLiteral("futureT aE undatedE")));
@@ -120,6 +130,28 @@ TEST_F(NotificationsModelTest, TabsShowTheirOwnAndRowsAreReadWhereTheyBelong)
     EXPECT_EQ(resets, 0);
     waitUntil([this] { return server.requests().size() >= 4; }, "the backend is told");
     drainEvents();
+}
+
+TEST_F(NotificationsModelTest, ATabReadsOnUntilItHasRowsOrNothingMoreComes)
+{
+    const QString next = QStringLiteral("next");
+    ASSERT_TRUE(signInAs(auth, QStringLiteral("jane@mail.example")));
+    take({item(QStringLiteral("a"), 1)}, next);
+    foretell({item(QStringLiteral("b"), 2)}, next);
+    foretell({item(QStringLiteral("v"), 3, "vessa_like")}, next);
+    foretell({item(QStringLiteral("v"), 3, "vessa_like")}, next); // the same for ever
+    model.setTab(NotificationsModel::Vessa);
+    server.waitForRequests(5);
+    waitUntil([this] { return !account.isLoadingMore(); }, "it reads no further");
+    EXPECT_EQ(rows(), QStringLiteral("vT"));
+
+    foretell({item(QStringLiteral("c"), 4)}, next);
+    server.expect(path("/notifications"), Answer::drop());
+    model.loadMore();
+    server.waitForRequests(7);
+    waitUntil([this] { return !account.isLoadingMore(); }, "it reads no further");
+    EXPECT_TRUE(account.canLoadMore());
+    EXPECT_FALSE(account.moreErrorText().isEmpty());
 }
 
 } // namespace

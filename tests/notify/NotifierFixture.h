@@ -144,6 +144,7 @@ protected:
     std::vector<AccountNotification> list; ///< what the server says, the newest first
     std::size_t pageSize = 1000;
     bool isFailing = false;
+    std::size_t failsFrom = SIZE_MAX; ///< a page that begins there cannot be read
     std::vector<SupportReply> replies;
     int pagesRead = 0;
     int repliesRead = 0;
@@ -157,6 +158,8 @@ private:
         if (isFailing)
             co_return apiFailure(APIError::Timeout{});
         const std::size_t from = cursor.toULongLong();
+        if (from >= failsFrom)
+            co_return apiFailure(APIError::Timeout{});
         const std::size_t to = std::min(list.size(), from + pageSize);
         NotificationPage page;
         page.notifications.assign(list.begin() + static_cast<std::ptrdiff_t>(from),

@@ -48,6 +48,7 @@ public:
     }
     void appear() { ASSERT_TRUE(m_bus.registerService(serverName)); }
     void vanish() { ASSERT_TRUE(m_bus.unregisterService(serverName)); }
+    void answerAtLast() { m_bus.send(m_held.createReply(m_last)); }
     void tell(const char* signal, const QVariantList& arguments)
     {
         QDBusMessage message = QDBusMessage::createSignal(serverPath, serverName, QLatin1String(signal));
@@ -61,13 +62,17 @@ public:
 
     QStringList capabilities;
     bool isSilent = false; ///< gives no answers
+    bool isBusy = false;   ///< as the bus has it when the time is over
     std::vector<Shown> shown;
     QList<uint> closed;
 
 public Q_SLOTS:
     Q_SCRIPTABLE QStringList GetCapabilities()
     {
-        setDelayedReply(isSilent);
+        if (isBusy)
+            sendErrorReply(QDBusError::NoReply);
+        else
+            setDelayedReply(isSilent);
         return capabilities;
     }
     Q_SCRIPTABLE uint Notify(const QString& application, uint replaced, const QString& icon, const QString& title,
@@ -78,12 +83,14 @@ public Q_SLOTS:
         shown.push_back(
             {.replaced = replaced, .icon = icon, .title = title, .body = body, .actions = actions, .hints = hints});
         setDelayedReply(isSilent);
+        m_held = message();
         return replaced != 0 ? replaced : ++m_last;
     }
     Q_SCRIPTABLE void CloseNotification(uint id) { closed.append(id); }
 
 private:
     QDBusConnection m_bus;
+    QDBusMessage m_held; ///< the last Notify
     uint m_last = 40;
 };
 
@@ -186,6 +193,37 @@ TEST_F(FreedesktopNotificationsTest, OneOfTheSameRequestReplacesTheOneOnScreenAn
     post(*running, "a", QStringLiteral("x"));
     server.waitForShown(5);
     EXPECT_EQ(server.shown[4].replaced, 0);
+}
+
+TEST_F(FreedesktopNotificationsTest, WhatIsTakenBackBeforeTheServerAnswersIsClosedWhenItDoes)
+{
+    server.appear();
+    const auto running = launch();
+    EXPECT_EQ(ask(*running, "ask"), authorised);
+    server.isSilent = true;
+    post(*running, "a", QStringLiteral("x"));
+    server.waitForShown(1);
+    running->write("withdraw a\n");
+    EXPECT_EQ(ask(*running, "permission"), authorised); // it has read so far
+    EXPECT_TRUE(server.closed.isEmpty());
+    server.isSilent = false;
+    server.answerAtLast();
+    waitUntil([this] { return !server.closed.isEmpty(); }, "it is closed");
+    EXPECT_EQ(server.closed, QList<uint>{41});
+    post(*running, "a", QStringLiteral("x"));
+    server.waitForShown(2);
+    EXPECT_EQ(server.shown[1].replaced, 0);
+}
+
+TEST_F(FreedesktopNotificationsTest, AServerThatWasTooBusyIsAskedAgain)
+{
+    server.appear();
+    server.isBusy = true;
+    const auto running = launch();
+    EXPECT_EQ(ask(*running, "ask"), denied);
+    EXPECT_EQ(ask(*running, "permission"), denied);
+    server.isBusy = false;
+    EXPECT_EQ(ask(*running, "permission"), authorised);
 }
 
 TEST_F(FreedesktopNotificationsTest, ClicksComeBackWithTheirTokenAndOnlyFromTheServer)

@@ -153,7 +153,7 @@ QCoro::Task<> printPermission(QCoro::Task<DesktopPermission> task)
 int runNotifications()
 {
     const QString application = QStringLiteral("com.loomstreet.Loomstreet");
-    FreedesktopNotifications notifications(application);
+    FreedesktopNotifications notifications(application, nullptr, std::chrono::milliseconds(0));
     LauncherEntryBadge badge(application);
     QObject::connect(&notifications, &DesktopNotifications::activated, &notifications,
                      [](const QMap<QString, QString>& userInfo, const QString& token) {

@@ -58,6 +58,29 @@ TEST_F(SupportChatModelTest, OnlyWhatSomebodyWatchesIsRead)
     EXPECT_FALSE(chat->isOnScreen()) << "who goes away looks no more";
 }
 
+TEST_F(SupportChatModelTest, WhoLooksAgainWhileItIsBegunBeginsNoOther)
+{
+    int onScreen = 0;
+    QObject::connect(chat.get(), &SupportChatModel::stateChanged, &viewer, [&] { onScreen += chat->isOnScreen(); });
+    server.expect(path("init"), opened({}).pauseAfter(1));
+    chat->view(&viewer, SupportChatModel::Open);
+    server.waitForRequests(1);
+    EXPECT_EQ(onScreen, 0);
+    chat->view(&viewer, SupportChatModel::Watching);
+    EXPECT_EQ(onScreen, 1) << "whoever takes back notices hears of it";
+    chat->view(&viewer, SupportChatModel::Away);
+    chat->view(&viewer, SupportChatModel::Watching);
+    chat->retry();
+    server.proceed();
+    settle(*chat); // another request would fail the test
+
+    server.expect(path("replies"), failed(404, "NOT_FOUND")); // it is gone meanwhile
+    server.expect(path("init"), opened({message("s1", "outbound", "Hi")}, 0, "token-2"));
+    clock.advance(SupportChatModel::pollInterval);
+    waitUntil([&] { return chat->thread()->count() == 1; }, "it is begun anew");
+    settle(*chat);
+}
+
 TEST_F(SupportChatModelTest, AnUnknownConversationIsBegunAnew)
 {
     folder.save(QLatin1String(SupportChatModel::tokenFile), QStringLiteral("token-0"));

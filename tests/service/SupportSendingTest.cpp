@@ -103,6 +103,35 @@ TEST_F(SupportSendingTest, TheFirstMessageOpensOneConversation)
     waitForRow("I: Lost ?");
 }
 
+TEST_F(SupportSendingTest, AConversationThatIsUnknownToTwoAtOnceIsBegunOnce)
+{
+    for (const bool waitsForTheSecond : {false, true}) {
+        SCOPED_TRACE(waitsForTheSecond);
+        chat.reset();
+        chat = made();
+        chat->forget({QLatin1String(SupportChatModel::tokenFile)});
+        folder.save(QLatin1String(SupportChatModel::tokenFile), QStringLiteral("token-0"));
+        chat = made();
+        const std::size_t before = server.requests().size();
+        Answer unknown = failed(404, "NOT_FOUND");
+        Answer anew = opened({});
+        (waitsForTheSecond ? anew : unknown).pauseAfter(1);
+        server.expect(path("init"), unknown);
+        server.expect(path("init"), anew);
+        server.expect(path("message"), failed(404, "NOT_FOUND"));
+        server.expect(path("message"), replies({message("s1", "outbound", "Early")}));
+        chat->view(&viewer, SupportChatModel::Open);
+        send("Early");
+        server.waitForRequests(before + (waitsForTheSecond ? 3 : 2));
+        drainEvents();
+        server.proceed();
+        waitForRow("I: Early"); // another that begins one would fail the test
+        EXPECT_EQ(server.requests().size(), before + 4);
+        EXPECT_EQ(server.requests().back().json().value(QStringLiteral("visitorToken")), QLatin1String("token-1"));
+        chat->view(&viewer, SupportChatModel::Away);
+    }
+}
+
 TEST_F(SupportSendingTest, AFileTravelsAsAFormWithItsWords)
 {
     open(*chat, opened({}));

@@ -99,7 +99,8 @@ TEST_F(MeasurementsModelTest, WhatIsWrongIsSaidUntilItIsChanged)
     model->setHip(" ");
     model->save();
     EXPECT_EQ(messages.size(), 1);
-    EXPECT_EQ(json(kept().constData()), json(R"({"height": 170.18, "weight": 58.9670081, "bust": 50.8, "fit": "regular"})"));
+    EXPECT_EQ(json(kept().constData()),
+              json(R"({"height": 170.18, "weight": 58.9670081, "bust": 50.8, "fit": "regular"})"));
 }
 
 TEST_F(MeasurementsModelTest, WhatWasSavedFillsTheSheetUntilItIsForgotten)

@@ -163,6 +163,70 @@ TEST_F(MiraChatModelTest, AMessageThatGotLostCanBeTriedAgainAndIsNeverShownTwice
     EXPECT_EQ(mira->thread()->count(), 6);
 }
 
+TEST_F(MiraChatModelTest, AnAttemptThatNeverArrivedDoesNotTakeTheSameWordsSaidLaterForItself)
+{
+    open();
+    next = {Next::NeverHear, Next::Reply, Next::Lose};
+    say(QStringLiteral("Yes"));
+    mira->retryMessage(key(0));
+    settle();
+    clock.advance(1min);
+    say(QStringLiteral("Yes"));
+    EXPECT_EQ(shownThread(), "> Yes | Gladly. | > Yes?");
+    mira->retryMessage(key(0)); // it is there
+    settle();
+    EXPECT_EQ(shownThread(), "> Yes | Gladly. | > Yes | Gladly.");
+    EXPECT_EQ(sent("/message").size(), 3U);
+}
+
+TEST_F(MiraChatModelTest, TheEchoIsKnownByItsWordsWhateverElseTheAnswerHolds)
+{
+    on("/message", [this](const ReceivedRequest& request) {
+        note(true, QStringLiteral("From the telephone"));
+        note(true, request.json().value(QStringLiteral("body")).toString());
+        note(false, QStringLiteral("To both."));
+        return Answer::json({{QStringLiteral("messages"), conversation}});
+    });
+    open();
+    say(QStringLiteral("From here"));
+    EXPECT_EQ(mira->thread()->count(), 3);
+    mira->refresh();
+    settle();
+    EXPECT_EQ(shownThread(), "> From the telephone | > From here | To both.");
+
+    // Words that the service changed.
+    on("/message", [this](const ReceivedRequest&) {
+        note(true, QStringLiteral("(cleaned)"));
+        return Answer::json({{QStringLiteral("messages"), QJsonArray{conversation.last()}}});
+    });
+    say(QStringLiteral("<b>"));
+    EXPECT_EQ(shownThread(), "> From the telephone | > From here | To both. | > <b>");
+}
+
+TEST_F(MiraChatModelTest, AThreadThatWasReadBeforeAnAnswerToAMessageTakesNothingAway)
+{
+    for (const bool isFirst : {true, false}) {
+        open();
+        // The service has looked before the message came, and is heard after its answer.
+        const QJsonObject early{{QStringLiteral("visitorToken"), QStringLiteral("t-1")},
+                                {QStringLiteral("messages"), conversation}};
+        const auto asked = server.requests().size();
+        on("/init", [early](auto&) { return Answer::json(early).pauseAfter(0); });
+        mira->refresh();
+        server.waitForRequests(asked + 1);
+        mira->sendText(QStringLiteral("Hi"));
+        waitUntil([this] { return !mira->isReplying(); }, "the reply");
+        on("/init", [this](auto&) {
+            return Answer::json(
+                {{QStringLiteral("visitorToken"), QStringLiteral("t-1")}, {QStringLiteral("messages"), conversation}});
+        });
+        server.proceed();
+        settle();
+        EXPECT_EQ(shownThread(), isFirst ? "> Hi | Gladly." : "> Hi | Gladly. | > Hi | Gladly.");
+        EXPECT_EQ(mira->topics()->count(), 1);
+    }
+}
+
 TEST_F(MiraChatModelTest, WhatWasWrittenSurvivesACrashWhateverStateItIsIn)
 {
     open();
@@ -240,6 +304,33 @@ TEST_F(MiraChatModelTest, ATokenThatExpiredIsReplacedOnceAndTheMessageGoesOn)
     EXPECT_EQ(mira->failure(), QString());
     EXPECT_EQ(sent("/init").size(), opened.size() + 2);
     EXPECT_EQ(mira->thread()->count(), 4);
+}
+
+TEST_F(MiraChatModelTest, ATokenIsKeptUntilTheServiceGivesAnother)
+{
+    isStrict = true;
+    open();
+    say(QStringLiteral("Before"));
+    const auto answer = [this](auto&& refused) {
+        on("/init", [this, refused](const ReceivedRequest& request) {
+            const QString token = request.json().value(QStringLiteral("visitorToken")).toString();
+            return refused(token) ? Answer::json({}, refused(QString()) ? 404 : 401)
+                                  : Answer::json({{QStringLiteral("visitorToken"), QStringLiteral("t-2")},
+                                                  {QStringLiteral("messages"), conversation}});
+        });
+        mira->refresh();
+        settle();
+        return sent("/init").back().value(QStringLiteral("visitorToken")).toString();
+    };
+    // For a while the service is not there at all.
+    EXPECT_EQ(answer([](const QString&) { return true; }), QString());
+    EXPECT_FALSE(mira->failure().isEmpty());
+    restart();
+    EXPECT_EQ(answer([](const QString&) { return false; }), QStringLiteral("t-1"));
+    // A guest has nothing but the token that could be refused.
+    EXPECT_EQ(answer([](const QString& token) { return token == QLatin1String("t-2"); }), QString());
+    EXPECT_EQ(mira->failure(), QString());
+    EXPECT_EQ(mira->thread()->count(), 2);
 }
 
 TEST_F(MiraChatModelTest, TopicsAreSlicesOfOneConversationThatKeepTheirMessages)

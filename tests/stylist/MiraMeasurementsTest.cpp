@@ -137,7 +137,8 @@ TEST(MiraMeasurementsTest, ValuesAreKeptInMetricAndShownInBoth)
     EXPECT_EQ(MiraMeasurements::shownHeight(170), (Height{"5", "6.9"}));
     EXPECT_EQ(MiraMeasurements::enteredHeight({.unit = SizeUnit::Imperial, .inches = "67"}), 67 * 2.54);
     EXPECT_EQ(MiraMeasurements::enteredHeight({.unit = SizeUnit::Imperial, .height = "170"}), std::nullopt);
-    const std::pair<double, const char*> rows[] = {{170, "170"}, {170.04, "170"}, {170.05001, "170.1"}, {69.96, "70"}};
+    const std::pair<double, const char*> rows[] = {{170, "170"},  {170.04, "170"}, {170.05001, "170.1"},
+                                                   {69.96, "70"}, {65.25, "65.2"}, {65.75, "65.8"}};
     for (const auto& [value, shown] : rows)
         EXPECT_EQ(shownMeasure(value), shown);
 }

@@ -49,6 +49,7 @@ TEST(MiraRulesTest, AReplyShowsItsWordsAndItsLinksAsCards)
          {"links end where a handle does",
           "(https://shop.example/products/a) **/products/b**, \"/products/c\", /products/ä-ö!",
           "(https://shop.example/products/a) **/products/b**, \"/products/c\", /products/ä-ö!", "a b c ä-ö"},
+         {"longer than any handle", "/products/" + QString(256, u'a'), "/products/" + QString(256, u'a'), ""},
          {"nothing that could be a handle", "/products/...\n/products/", "/products/...\n/products/", ""},
          {"each product once", "/products/a /products/b /products/a", "/products/a /products/b /products/a", "a b"},
          {"two empty lines and more", "a\n\n\n\nb\n\nc\nd", "a\n\nb\n\nc\nd", ""},

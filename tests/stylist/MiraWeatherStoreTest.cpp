@@ -101,6 +101,24 @@ TEST_F(MiraWeatherStoreTest, ADesktopThatDoesNotTellIsNotAskedAgainAndACityCanBe
     EXPECT_EQ(weather.city(), QString());
 }
 
+TEST_F(MiraWeatherStoreTest, ConditionsBeyondTheTableAreStormsAndSilenceEndsAfterEightSeconds)
+{
+    for (const auto& [code, condition] : {std::pair(QJsonValue(250), "Stormy"), std::pair(QJsonValue(1e15), "Stormy"),
+                                          std::pair(QJsonValue(-1), "Mild"), std::pair(QJsonValue(), "Mild")}) {
+        weatherAnswers[QStringLiteral("Oslo")].insert(QStringLiteral("code"), code);
+        weather.setCity(QStringLiteral("Oslo"));
+        settleWeather(weather);
+        EXPECT_EQ(weather.condition(), QString::fromLatin1(condition));
+    }
+    on("/weather", [](auto&) { return Answer::silence(); });
+    const auto before = server.requests().size();
+    weather.setCity(QStringLiteral("Oslo"));
+    server.waitForRequests(before + 1);
+    clock.advance(8s);
+    settleWeather(weather);
+    EXPECT_FALSE(weather.failure().isEmpty());
+}
+
 TEST_F(MiraWeatherStoreTest, AnAnswerThatIsNoWeatherChangesNothing)
 {
     weather.setCity(QStringLiteral("Oslo"));

@@ -114,7 +114,7 @@ FocusScope {
                             const enter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter
                             // The Tab key leads on, and Enter ends what an input method is composing.
                             if (event.key === Qt.Key_Tab || event.key === Qt.Key_Backtab) {
-                                const forwards = event.key === Qt.Key_Tab
+                                const forwards = event.key === Qt.Key_Tab && (event.modifiers & Qt.ShiftModifier) === 0
                                 input.nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
                                 event.accepted = true
                             } else if (enter && (event.modifiers & (Qt.ShiftModifier | Qt.AltModifier)) === 0 && preeditText === "") {

@@ -14,7 +14,7 @@ FocusScope {
     signal retry()
 
     function takeFocus(): void {
-        if (visible && takesFocus && !(Window.activeFocusItem instanceof TextInput))
+        if (visible && takesFocus && !(Window.activeFocusItem instanceof TextInput) && !(Window.activeFocusItem instanceof TextEdit))
             button.forceActiveFocus(Qt.OtherFocusReason)
     }
 

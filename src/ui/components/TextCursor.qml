@@ -11,8 +11,16 @@ Item {
     readonly property bool shown: field?.selectionStart !== undefined && field.activeFocus && !field.readOnly
                                   && field.selectionStart === field.selectionEnd
     property bool lit: true
+    // Where nobody types for ten seconds or so it stays lit: a window that is left alone is to rest.
+    property int flashes: 0
+    readonly property int mostFlashes: 20
 
-    onShownChanged: lit = true
+    function begin(): void {
+        lit = true
+        flashes = 0
+    }
+
+    onShownChanged: begin()
 
     Rectangle {
         width: 1
@@ -25,9 +33,12 @@ Item {
         id: flash
 
         interval: Application.styleHints.cursorFlashTime / 2
-        running: cursor.shown && interval > 0 && !Theme.reducedMotion
+        running: cursor.shown && interval > 0 && !Theme.reducedMotion && cursor.flashes < cursor.mostFlashes
         repeat: true
-        onTriggered: cursor.lit = !cursor.lit
+        onTriggered: {
+            cursor.lit = !cursor.lit
+            ++cursor.flashes
+        }
         onRunningChanged: cursor.lit = true
     }
     Connections {
@@ -35,7 +46,7 @@ Item {
 
         // A moving cursor stays lit.
         function onCursorPositionChanged() {
-            cursor.lit = true
+            cursor.begin()
             if (flash.running)
                 flash.restart()
         }

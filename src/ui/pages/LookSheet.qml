@@ -26,6 +26,14 @@ SheetPlace {
         former?.destroy()
     }
 
+    // Sizes that suit one shopper are nothing to the next.
+    Connections {
+        target: place.app.auth
+        function onSessionChanged(): void {
+            place.withdraw()
+            place.handles = [] // the next is made anew
+        }
+    }
     Component {
         id: holders
 

@@ -123,6 +123,10 @@ FocusScope {
         id: announcer
     }
     Connections {
+        target: thread.app.auth
+        function onSessionChanged(): void { announcer.stop() }
+    }
+    Connections {
         target: thread.mira
         // Of several places that show her, the one that is looked at says it.
         enabled: thread.shown && thread.Window.active

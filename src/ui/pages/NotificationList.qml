@@ -16,7 +16,9 @@ FocusScope {
     property color backdrop: Theme.surface
 
     readonly property var account: inbox.account
+    // Under a tab without rows older pages are read, which may have some.
     readonly property bool waiting: account.phase === AccountContent.Waiting && inbox.isEverythingEmpty
+                                    || account.isLoadingMore && inbox.count === 0
     readonly property bool failed: account.phase === AccountContent.Failed && inbox.isEverythingEmpty
     readonly property bool guest: account.phase === AccountContent.NeedsAccount
     readonly property bool empty: inbox.count === 0 && !waiting && !failed

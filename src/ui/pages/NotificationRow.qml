@@ -15,7 +15,9 @@ Pressable {
     property bool isUnread: false
     property int inset: Theme.space3
 
-    accessibleName: (isUnread ? [qsTranslate("Loomstreet", "Unread"), title, body, date] : [title, body, date]).filter(part => part !== "").join(", ")
+    readonly property var parts: [isUnread ? qsTranslate("Loomstreet", "Unread") : "", title, body, date]
+
+    accessibleName: parts.filter(part => part !== "").join(", ")
     Accessible.role: Accessible.ListItem
 
     contentItem: Item {

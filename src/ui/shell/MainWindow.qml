@@ -168,39 +168,30 @@ Window {
                 begun: window.wasSeen
             }
             // The piece beside the page.
-            Loader {
+            PanePlace {
                 id: preview
 
-                readonly property bool wanted: window.session.isPreviewShown
-
                 anchors { right: dock.covers ? parent.right : dock.left; top: bar.bottom; bottom: parent.bottom }
-                width: wanted ? window.session.selected.previewWidth : 0
-                visible: wanted
-                onWantedChanged: {
-                    if (wanted && status === Loader.Null)
-                        setSource("PreviewPane.qml", { app: window.app, session: window.session })
-                    else if (!wanted && activeFocus)
-                        pages.takeFocus()
-                }
-                Component.onCompleted: wantedChanged() // it may have been there when the window closed
+                app: window.app
+                session: window.session
+                pane: "PreviewPane.qml"
+                wanted: window.session.isPreviewShown
+                paneWidth: wanted ? window.session.selected.previewWidth : 0
+                onFocusLeft: pages.takeFocus()
             }
             // The stylist beside both, or over them where too little would be left.
-            Loader {
+            PanePlace {
                 id: dock
 
-                readonly property bool wanted: window.session.isMiraDocked
                 readonly property bool covers: wanted && parent.width - Theme.layoutMiraDock < 560
 
                 anchors { right: parent.right; top: bar.bottom; bottom: parent.bottom }
-                width: covers ? parent.width : wanted ? Theme.layoutMiraDock : 0
-                visible: wanted
-                onWantedChanged: {
-                    if (wanted && status === Loader.Null)
-                        setSource("MiraDock.qml", { app: window.app, session: window.session })
-                    else if (!wanted && activeFocus)
-                        pages.takeFocus()
-                }
-                Component.onCompleted: wantedChanged()
+                app: window.app
+                session: window.session
+                pane: "MiraDock.qml"
+                wanted: window.session.isMiraDocked
+                paneWidth: covers ? parent.width : Theme.layoutMiraDock
+                onFocusLeft: pages.takeFocus()
             }
         }
         Hairline {
@@ -233,10 +224,9 @@ Window {
             open: window.session.isSignInPresented
             onCloseAsked: window.session.isSignInPresented = false
         }
-        // Over panels, too, and in the window that is worked in.
+        // Over panels, too.
         WindowToasts {
             anchors { left: sidebar.right; right: parent.right; top: strip.bottom; topMargin: Theme.space1_5 }
-            visible: window.active
             app: window.app
             session: window.session
         }

@@ -28,6 +28,8 @@ Toast {
     actionText: (shown?.link ?? "") !== "" || (shown?.type ?? "").startsWith("support") ? qsTranslate("Loomstreet", "Open") : ""
 
     onHeldChanged: {
+        if (!wanted)
+            return // another window shows it by now, and may hold it
         if (held && open)
             banners.hold()
         else

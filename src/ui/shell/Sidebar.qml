@@ -42,6 +42,7 @@ Rectangle {
             focus: ListView.isCurrentItem
             count: rawValue === "cart" ? sidebar.app.cart.itemCount : rawValue === "wishlist" ? sidebar.app.wishlist.count
                    : rawValue === "notifications" ? sidebar.app.badge.count : 0
+            countText: rawValue === "notifications" ? sidebar.app.badge.text : count
             selected: sidebar.session.selected ? sidebar.session.selected.selection === index : false
             onChosen: sidebar.session.selected.selectItem(index)
         }

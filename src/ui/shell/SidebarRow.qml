@@ -17,6 +17,7 @@ FocusScope {
     property bool rail: false
     property bool selected: false
     property int count: 0
+    property string countText: String(row.count)
 
     signal chosen()
 
@@ -86,7 +87,7 @@ FocusScope {
                 active: row.count > 0 && !row.rail
                 sourceComponent: TextLabel {
                     objectName: "count"
-                    text: row.count // qmllint disable unqualified
+                    text: row.countText // qmllint disable unqualified
                     elide: Text.ElideNone
                     type: Theme.type.small
                     figures: true

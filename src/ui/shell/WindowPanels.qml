@@ -8,22 +8,14 @@ Item {
     required property AppModel app
     required property WindowSession session
 
-    PanelPlace { wanted: panels.session.isCartOpen; panel: "CartPanel" }
-    PanelPlace { wanted: panels.session.isHistoryOpen; panel: "FootprintsPanel" }
-    PanelPlace { wanted: panels.session.isInboxOpen; panel: "InboxPanel" }
-    PanelPlace { wanted: panels.session.isSupportOpen; panel: "SupportPanel" }
-
-    component PanelPlace: Loader {
-        property bool wanted: false
-        property string panel: ""
-
-        function make(): void {
-            if (wanted && status === Loader.Null)
-                setSource(panel + ".qml", { app: panels.app, session: panels.session })
-        }
-
+    component Place: PanePlace {
         anchors.fill: parent
-        onWantedChanged: make()
-        Component.onCompleted: make() // it may have been asked for before the window was there
+        paneWidth: parent?.width ?? 0
+        visible: true // a panel that closes is still to be seen
     }
+
+    Place { app: panels.app; session: panels.session; pane: "CartPanel.qml"; wanted: panels.session.isCartOpen }
+    Place { app: panels.app; session: panels.session; pane: "FootprintsPanel.qml"; wanted: panels.session.isHistoryOpen }
+    Place { app: panels.app; session: panels.session; pane: "InboxPanel.qml"; wanted: panels.session.isInboxOpen }
+    Place { app: panels.app; session: panels.session; pane: "SupportPanel.qml"; wanted: panels.session.isSupportOpen }
 }
