@@ -245,6 +245,8 @@ void FreedesktopNotifications::actionInvoked(uint id, const QString& action)
     if (known == m_known.cend())
         return; // that of another program
     const QMap<QString, QString> userInfo = known->userInfo;
+    // It was followed; not every server puts it away by itself.
+    close(QString(known->requestIdentifier));
     if (action == settingsAction)
         Q_EMIT settingsRequested(token);
     else if (action == defaultAction)

@@ -221,7 +221,8 @@ TEST_F(BrowsingJourney, APieceThatThePointerRestsOnOpensWithItsPictures)
         window.click(card);
         const QQuickItem* const gallery = window.await(QStringLiteral("gallery"));
         waitUntil([&] { return gallery->property("settled").toBool(); }, "the pictures are there");
-        EXPECT_EQ(askedWidths(picture).size(), 2) << testing::PrintToString(askedWidths(picture)) << " they were asked for at the width of the page";
+        EXPECT_EQ(askedWidths(picture).size(), 2)
+            << testing::PrintToString(askedWidths(picture)) << " they were asked for at the width of the page";
         EXPECT_GT(askedWidths(picture).last(), askedWidths(picture).first());
         if (!isBeside)
             window.press(QStringLiteral("Alt+Left"));

@@ -137,7 +137,7 @@ TEST_F(MiraThreadJourney, AReplyDoesNotMoveWhatIsRead)
     const qreal place = item->mapToScene({}).y();
     store.lift(fault);
     awaitAnswer();
-    waitUntil([&] { return thread->property("unseen").toInt() == 501; }, "it is told what came");
+    waitUntil([&] { return thread->property("unseen").toInt() > 0; }, "it is told what came");
     window.awaitFrame();
     EXPECT_EQ(words(), before);
     EXPECT_EQ(item->mapToScene({}).y(), place);

@@ -18,6 +18,7 @@ FocusScope {
 
     signal opened(int mode)
     signal sizesAsked()
+    signal anchorAsked()
 
     implicitHeight: Math.max(Theme.cardMessageThumb.height, words.height) + 2 * 9
 
@@ -119,12 +120,21 @@ FocusScope {
         id: buttons
 
         anchors { right: parent.right; rightMargin: 9; verticalCenter: parent.verticalCenter }
-        width: 2 * Theme.targetIcon + Theme.space1
+        width: 3 * Theme.targetIcon + 2 * Theme.spaceHalf
         height: Theme.targetIcon
 
         IconButton {
-            objectName: "heart"
+            objectName: "anchor"
             anchors.left: parent.left
+            visible: row.isLive
+            iconName: "hanger"
+            text: qsTranslate("Loomstreet", "Build a look around it")
+            accessibleName: text + ": " + row.card.title
+            onClicked: row.anchorAsked()
+        }
+        IconButton {
+            objectName: "heart"
+            anchors.horizontalCenter: parent.horizontalCenter
             visible: row.isLive && row.card.item !== undefined
             iconName: row.saved ? "heart.fill" : "heart"
             color: row.saved ? Theme.accent : Theme.ink

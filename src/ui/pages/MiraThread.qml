@@ -57,6 +57,7 @@ FocusScope {
             wishlist: thread.app.wishlist
             onPieceOpened: (card, mode) => thread.pieceOpened(card, mode)
             onLookAsked: handles => thread.lookAsked(handles)
+            onAnchorAsked: card => thread.mira.anchorLook(card.handle, card.title)
             onMeasurementsAsked: thread.measurementsAsked()
             onOrderOpened: id => thread.orderOpened(id)
         }

@@ -21,6 +21,7 @@ ChatBubble {
 
     signal pieceOpened(var card, int mode)
     signal lookAsked(var handles)
+    signal anchorAsked(var card)
     signal measurementsAsked()
     signal orderOpened(string id)
 
@@ -49,6 +50,7 @@ ChatBubble {
                 wishlist: turn.wishlist
                 onOpened: mode => turn.pieceOpened(modelData, mode)
                 onSizesAsked: turn.lookAsked([modelData.handle])
+                onAnchorAsked: turn.anchorAsked(modelData)
             }
         },
         Item {

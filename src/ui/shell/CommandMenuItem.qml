@@ -1,3 +1,4 @@
+import QtQuick
 import Loomstreet.Components
 import Loomstreet.Model
 
@@ -10,10 +11,21 @@ MenuItem {
 
     // Raised whenever what is enabled may have changed.
     property int revision: 0
+    property bool chosen: false
 
     objectName: "command." + modelData.id
     text: modelData.title
     shortcut: modelData.shortcut.replace(/\+/g, " ").trim()
     enabled: revision >= 0 && commands.isEnabled(modelData.id)
-    onTriggered: commands.perform(modelData.id)
+    // A menu gives the keyboard back as it closes, and then the command may take it.
+    onTriggered: chosen = true
+
+    readonly property Connections closing: Connections {
+        target: item.menu
+        function onClosed(): void {
+            if (item.chosen)
+                item.commands.perform(item.modelData.id)
+            item.chosen = false
+        }
+    }
 }
