@@ -1,24 +1,12 @@
 #include "account/NotificationsAPI.h"
 
-#include "base/JsonReader.h"
+#include "net/DecodedAnswer.h"
 #include "net/WidgetClient.h"
 
 #include <QJsonArray>
-#include <QtConcurrentRun>
-#include <qcoro/qcorofuture.h>
 
 namespace loom
 {
-
-namespace
-{
-
-Result<NotificationPage, QString> readPage(const QByteArray& json)
-{
-    return decodeJson(json, decodeNotificationPage);
-}
-
-} // namespace
 
 QCoro::Task<ApiResult<NotificationPage>> NotificationsAPI::page(QString cursor, std::stop_token stop)
 {
@@ -26,10 +14,7 @@ QCoro::Task<ApiResult<NotificationPage>> NotificationsAPI::page(QString cursor, 
     if (!cursor.isEmpty())
         question.insert(QStringLiteral("cursor"), cursor);
     LOOM_CO_TRY(body, co_await m_widget.post(QStringLiteral("/notifications"), question, {}, stop));
-    auto answer = co_await QtConcurrent::run(readPage, body);
-    if (stop.stop_requested())
-        co_return Unexpected(Failure(Cancelled()));
-    co_return decodedAnswer(std::move(answer));
+    co_return co_await decodedElsewhere(body, decodeNotificationPage, stop);
 }
 
 QCoro::Task<ApiResult<int>> NotificationsAPI::markRead(QStringList ids, std::stop_token stop)

@@ -151,13 +151,15 @@ AppModel::~AppModel() = default;
 void AppModel::connectStores()
 {
     connect(&m_market, &MarketStore::revisionChanged, &m_cart, &CartStore::syncBuyerCountry);
-    // A rate that grew old while nobody looked is measured again when somebody does.
-    connect(&m_session, &AppSession::isActiveChanged, &m_market, [this] {
+    // What grew old while nobody looked is asked for again when somebody does.
+    connect(&m_session, &AppSession::isActiveChanged, this, [this] {
         if (!m_session.isActive() || !m_didBootstrap)
             return;
         m_market.refreshRate();
+        m_remoteConfig.becameActive();
         if (m_mira.isOpen())
             m_weather.refresh();
+        m_news.notifier().check();
     });
     connect(&m_session, &AppSession::isOfflineChanged, &m_market, [this] {
         if (m_session.isOffline())
@@ -165,10 +167,6 @@ void AppModel::connectStores()
         if (m_market.countriesFailure())
             m_market.refreshCountries();
         m_recoSaving.complete();
-    });
-    connect(&m_session, &AppSession::isActiveChanged, &m_remoteConfig, [this] {
-        if (m_session.isActive() && m_didBootstrap)
-            m_remoteConfig.becameActive();
     });
     const auto follow = [this] {
         m_remoteConfig.setLanguage(m_market.context().language);
@@ -234,10 +232,6 @@ void AppModel::connectNews()
         if (m_support.isOnScreen())
             m_news.notifier().supportSeen();
     });
-    connect(&m_session, &AppSession::isActiveChanged, &m_news, [this] {
-        if (m_session.isActive() && m_didBootstrap)
-            m_news.notifier().check();
-    });
     connect(&m_news.banners(), &NotificationBannerCenter::opened, this,
             [this](const AppNotification& news, int window) {
                 if (auto* const session = qobject_cast<WindowSession*>(m_news.banners().hostOf(window)))
@@ -272,8 +266,7 @@ void AppModel::retranslate()
 
 void AppModel::openNews(WindowSession& session, const AppNotification& news)
 {
-    // Own notices and the account's name the conversation alike, and carry no link to it.
-    if (news.type == QLatin1String("support") || news.type == QLatin1String("support_reply"))
+    if (news.isAboutSupport())
         session.setSupportOpen(true);
     else if (!news.link.isEmpty())
         session.selected()->openNotice(news.link);

@@ -1,11 +1,10 @@
 #include "discovery/RecoAPI.h"
 
 #include "catalog/MarketStore.h"
+#include "net/DecodedAnswer.h"
 #include "net/WidgetClient.h"
 
 #include <QSet>
-#include <QtConcurrentRun>
-#include <qcoro/qcorofuture.h>
 
 #include <array>
 
@@ -137,10 +136,7 @@ auto RecoAPI::get(QString path, Query query, std::chrono::milliseconds timeout, 
             query.append({QLatin1String(key), value});
     }
     LOOM_CO_TRY(body, co_await m_widget.get(path, std::move(query), {.timeout = timeout}, stop));
-    auto record = co_await QtConcurrent::run([body, decode] { return decodeJson(body, decode); });
-    if (stop.stop_requested())
-        co_return Unexpected(Failure(Cancelled()));
-    co_return decodedAnswer(std::move(record));
+    co_return co_await decodedElsewhere(body, decode, stop);
 }
 
 QString RecoAPI::viewed() const

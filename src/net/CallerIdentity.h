@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QString>
 
 namespace loom
@@ -14,5 +15,11 @@ struct CallerIdentity {
 
     bool operator==(const CallerIdentity&) const = default;
 };
+
+/// Adds to a body what is known; an empty text is left out.
+void insertKnown(QJsonObject& body, const QString& key, const QString& value);
+
+/// Adds "name", "email" and "customer", as far as somebody is signed in.
+void insertCustomer(QJsonObject& body, const CallerIdentity& caller);
 
 } // namespace loom

@@ -16,6 +16,7 @@ struct AppNotification {
     Q_PROPERTY(QString type MEMBER type)
     Q_PROPERTY(QString link MEMBER link)
     Q_PROPERTY(QString accountID MEMBER accountID)
+    Q_PROPERTY(bool isAboutSupport READ isAboutSupport)
 
 public:
     QString id;    ///< what the ledger knows it by
@@ -25,6 +26,9 @@ public:
     QString type;      ///< "support", "order", "notice", "preview", "digest", or as the server says
     QString link;      ///< where a click leads; empty for nowhere
     QString accountID; ///< whose it is; empty where it is nobody's in particular
+
+    /// It leads to the conversation with customer service, and needs no link.
+    [[nodiscard]] bool isAboutSupport() const;
 
     bool operator==(const AppNotification&) const = default;
 };

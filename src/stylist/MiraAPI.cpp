@@ -1,12 +1,10 @@
 #include "stylist/MiraAPI.h"
 
-#include "base/JsonReader.h"
+#include "net/DecodedAnswer.h"
 #include "net/WidgetClient.h"
 #include "stylist/MiraReading.h"
 
 #include <QJsonArray>
-#include <QtConcurrentRun>
-#include <qcoro/qcorofuture.h>
 
 namespace loom
 {
@@ -19,17 +17,7 @@ QCoro::Task<ApiResult<Record>> ask(std::reference_wrapper<WidgetClient> widget, 
                                    Record (*decode)(const JsonReader&), std::stop_token stop)
 {
     LOOM_CO_TRY(answer, co_await widget.get().post(path, body, {.timeout = MiraAPI::timeout}, stop));
-    auto record = co_await QtConcurrent::run([answer, decode] { return decodeJson(answer, decode); });
-    if (stop.stop_requested())
-        co_return Unexpected(Failure(Cancelled()));
-    co_return decodedAnswer(std::move(record));
-}
-
-/// Adds what is only told while somebody is signed in.
-void insertKnown(QJsonObject& body, const QString& key, const QString& value)
-{
-    if (!value.isEmpty())
-        body.insert(key, value);
+    co_return co_await decodedElsewhere(answer, decode, stop);
 }
 
 } // namespace
@@ -61,9 +49,7 @@ QCoro::Task<ApiResult<MiraSendResponse>> MiraAPI::message(MiraMessageRequest req
                      {QStringLiteral("attachments"), attachments},
                      {QStringLiteral("guide"), request.guideName},
                      {QStringLiteral("visitorId"), identity.visitorId}};
-    insertKnown(body, QStringLiteral("name"), identity.name);
-    insertKnown(body, QStringLiteral("email"), identity.email);
-    insertKnown(body, QStringLiteral("customer"), identity.customer);
+    insertCustomer(body, identity);
     return ask(m_widget, QStringLiteral("/message"), body, decodeMiraSend, stop);
 }
 

@@ -150,6 +150,8 @@ private:
     /// Takes over the service's thread; once more without the token if the service does not know it any more.
     [[nodiscard]] QCoro::Task<ApiResult<Opened>> openThread(std::stop_token stop);
     [[nodiscard]] QCoro::Task<> deliver(QString key, Attempt attempt);
+    /// The same for a message that cannot go out without it; false when it is not to be sent.
+    [[nodiscard]] QCoro::Task<bool> openFor(QString key, std::stop_token stop);
     void fail(const QString& key, const Failure& failure);
     void setToken(const QString& token);
     void setFailure(std::optional<MiraFailure> failure);

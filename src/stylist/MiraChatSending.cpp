@@ -115,19 +115,22 @@ void MiraChatModel::discardMessage(const QString& key)
         showThread();
 }
 
+QCoro::Task<bool> MiraChatModel::openFor(QString key, std::stop_token stop)
+{
+    const auto opened = co_await openThread(stop);
+    if (stop.stop_requested())
+        co_return false; // the model may be gone
+    if (!opened)
+        fail(key, opened.error());
+    co_return opened.hasValue();
+}
+
 QCoro::Task<> MiraChatModel::deliver(QString key, Attempt attempt)
 {
     const Work::Run run = m_sending.begin();
     setFailure({});
-    if (attempt == Attempt::Again || m_token.isEmpty()) {
-        const auto opened = co_await openThread(run.stop());
-        if (run.isStopped())
-            co_return;
-        if (!opened) {
-            fail(key, opened.error());
-            co_return;
-        }
-    }
+    if ((attempt == Attempt::Again || m_token.isEmpty()) && !co_await openFor(key, run.stop()))
+        co_return;
     if (attempt == Attempt::Again) {
         const MiraEntry* const entry = m_topics.entry(key);
         if (!entry || entry->state != MiraEntry::State::Unconfirmed)
@@ -163,13 +166,8 @@ QCoro::Task<> MiraChatModel::deliver(QString key, Attempt attempt)
             fail(key, answer.error());
             co_return;
         }
-        const auto opened = co_await openThread(run.stop());
-        if (run.isStopped())
+        if (!co_await openFor(key, run.stop()))
             co_return;
-        if (!opened) {
-            fail(key, opened.error());
-            co_return;
-        }
     }
 }
 

@@ -2,9 +2,9 @@
 
 #include "base/Clock.h"
 #include "catalog/DateFormat.h"
+#include "catalog/DayLabel.h"
 #include "stylist/MiraCards.h"
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QVariantMap>
 
@@ -15,11 +15,6 @@ namespace loom
 
 namespace
 {
-
-QString translate(const char* text)
-{
-    return QCoreApplication::translate("Loomstreet", text);
-}
 
 /// Whether the word stands in the text by itself.
 bool names(const QString& text, const QString& word)
@@ -204,12 +199,7 @@ QString MiraThreadModel::dayLabel(std::size_t place) const
     const QDate day = dayOf(place);
     if (!day.isValid() || (place > 0 && dayOf(place - 1) == day))
         return {};
-    const QDate today = m_clock.now().toLocalTime().date();
-    if (day == today)
-        return translate("Today");
-    if (day.addDays(1) == today)
-        return translate("Yesterday");
-    return m_dates.day(m_rows[place].entry.message.createdAt);
+    return loom::dayLabel(m_rows[place].entry.message.createdAt, m_clock.now(), m_dates);
 }
 
 QVariant MiraThreadModel::orderOf(const Row& row) const

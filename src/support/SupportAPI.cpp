@@ -1,11 +1,8 @@
 #include "support/SupportAPI.h"
 
-#include "base/JsonReader.h"
+#include "net/DecodedAnswer.h"
 #include "net/WidgetClient.h"
 #include "support/SupportReading.h"
-
-#include <QtConcurrentRun>
-#include <qcoro/qcorofuture.h>
 
 namespace loom
 {
@@ -14,26 +11,11 @@ namespace
 {
 
 template <typename Record>
-QCoro::Task<ApiResult<Record>> decoded(QByteArray answer, Record (*decode)(const JsonReader&), std::stop_token stop)
-{
-    auto record = co_await QtConcurrent::run([answer, decode] { return decodeJson(answer, decode); });
-    if (stop.stop_requested())
-        co_return Unexpected(Failure(Cancelled()));
-    co_return decodedAnswer(std::move(record));
-}
-
-template <typename Record>
 QCoro::Task<ApiResult<Record>> ask(std::reference_wrapper<WidgetClient> widget, QString path, QJsonObject body,
                                    Record (*decode)(const JsonReader&), std::stop_token stop)
 {
     LOOM_CO_TRY(answer, co_await widget.get().post(path, body, {.timeout = SupportAPI::timeout}, stop));
-    co_return co_await decoded(answer, decode, stop);
-}
-
-void insertKnown(QJsonObject& body, const QString& key, const QString& value)
-{
-    if (!value.isEmpty())
-        body.insert(key, value);
+    co_return co_await decodedElsewhere(answer, decode, stop);
 }
 
 } // namespace
@@ -48,9 +30,7 @@ QJsonObject SupportAPI::identified(QJsonObject body) const
 {
     const CallerIdentity identity = m_identity();
     body.insert(QStringLiteral("visitorId"), identity.visitorId);
-    insertKnown(body, QStringLiteral("name"), identity.name);
-    insertKnown(body, QStringLiteral("email"), identity.email);
-    insertKnown(body, QStringLiteral("customer"), identity.customer);
+    insertCustomer(body, identity);
     return body;
 }
 
@@ -82,7 +62,7 @@ QCoro::Task<ApiResult<SupportRepliesResponse>> SupportAPI::upload(Message messag
         .fieldName = QStringLiteral("file"), .fileName = file.name, .mimeType = file.mimeType, .bytes = file.bytes};
     LOOM_CO_TRY(answer,
                 co_await m_widget.upload(QStringLiteral("/support-upload"), fields, uploaded, stop, uploadSilence));
-    co_return co_await decoded(answer, decodeSupportReplies, stop);
+    co_return co_await decodedElsewhere(answer, decodeSupportReplies, stop);
 }
 
 QCoro::Task<ApiResult<SupportRepliesResponse>> SupportAPI::replies(QString visitorToken, QString after,

@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "catalog/DateFormat.h"
+#include "catalog/DayLabel.h"
 #include "catalog/RowMerge.h"
 
 #include <QCoreApplication>
@@ -106,12 +107,7 @@ QString SupportThreadModel::dayLabel(std::size_t row) const
     const QDate day = dayOf(row);
     if (!day.isValid() || (row + 1 < m_rows.size() && dayOf(row + 1) == day))
         return {};
-    const qint64 age = day.daysTo(m_clock.now().toLocalTime().date());
-    if (age == 0)
-        return QCoreApplication::translate("Loomstreet", "Today");
-    if (age == 1)
-        return QCoreApplication::translate("Loomstreet", "Yesterday");
-    return m_dates.day(m_rows[row].message.createdAt);
+    return loom::dayLabel(m_rows[row].message.createdAt, m_clock.now(), m_dates);
 }
 
 QVariant SupportThreadModel::data(const QModelIndex& index, int role) const

@@ -25,7 +25,7 @@ Toast {
     tone: shown?.type === "order" ? "success" : "plain"
     title: shown?.title ?? ""
     text: shown?.body ?? ""
-    actionText: (shown?.link ?? "") !== "" || (shown?.type ?? "").startsWith("support") ? qsTranslate("Loomstreet", "Open") : ""
+    actionText: (shown?.link ?? "") !== "" || (shown?.isAboutSupport ?? false) ? qsTranslate("Loomstreet", "Open") : ""
 
     onHeldChanged: {
         if (!wanted)

@@ -186,7 +186,6 @@ void WindowManager::retranslate()
 {
     m_model.retranslate();
     m_engine.retranslate();
-    askAgain(m_model);
     for (const auto& window : std::as_const(m_windows))
         evaluateAgain(window);
     for (const auto& window : std::as_const(m_checkouts))

@@ -1,0 +1,13 @@
+#include "notify/AppNotification.h"
+
+#include "notify/NotificationType.h"
+
+namespace loom
+{
+
+bool AppNotification::isAboutSupport() const
+{
+    return notificationType(type).tab == NotificationCategory::Support;
+}
+
+} // namespace loom
