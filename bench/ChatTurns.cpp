@@ -17,6 +17,8 @@ void chat(TimedJourney& journey, Shop& shop)
     MiraChatModel& mira = *shop.model().mira();
     const WindowDriver window = shop.openWindow();
     journey.awaitPage(window, QStringLiteral("Explore"));
+    for (int frame = 0; frame < 60; ++frame) // what the page still does is not the stylist's
+        window.awaitFrame();
 
     journey.step("the stylist with a long thread");
     window.press(QStringLiteral("Ctrl+Shift+M"));

@@ -7,7 +7,7 @@ add_library(loom_options INTERFACE)
 target_compile_definitions(loom_options INTERFACE
   QT_NO_CAST_FROM_BYTEARRAY QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
   QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400
-  QT_MESSAGELOGCONTEXT LOOM_VERSION="${PROJECT_VERSION}")
+  QT_MESSAGELOGCONTEXT LOOM_VERSION="${PROJECT_VERSION}" LOOM_BUILD=${LOOM_BUILD})
 # Precompiled headers carry no time stamp, so that ccache can reuse what was built from them.
 target_compile_options(loom_options INTERFACE -Xclang -fno-pch-timestamp)
 if(LOOM_SANITIZE)
@@ -40,11 +40,13 @@ target_precompile_headers(loom_core_pch PRIVATE ${CMAKE_CURRENT_LIST_DIR}/CorePr
 # loom_library(<folder> SOURCES <file>... [DEPENDS <folder>...] [LIBRARIES <target>...])
 function(loom_library folder)
   cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LIBRARIES" ${ARGN})
-  set(target loom_${folder})
+  string(REPLACE "/" "_" name ${folder})
+  set(target loom_${name})
   add_library(${target} STATIC ${ARG_SOURCES})
   loom_strict_warnings(${ARG_SOURCES})
-  set(root ${CMAKE_BINARY_DIR}/include/${folder})
-  file(MAKE_DIRECTORY ${root})
+  set(root ${CMAKE_BINARY_DIR}/include/${name})
+  cmake_path(GET folder PARENT_PATH above)
+  file(MAKE_DIRECTORY ${root}/${above})
   file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${folder} ${root}/${folder} SYMBOLIC)
   target_include_directories(${target} PUBLIC ${root})
   target_link_libraries(${target} PUBLIC loom_core_kit ${ARG_LIBRARIES})

@@ -4,10 +4,13 @@
 #include "base/SystemClock.h"
 #include "platform/BrowserOpening.h"
 #include "platform/DesktopAppearance.h"
+#include "platform/DesktopGlobalKey.h"
+#include "platform/EndRequests.h"
 #include "platform/FreedesktopNotifications.h"
 #include "platform/KeychainSecureStore.h"
 #include "platform/LaunchOptions.h"
 #include "platform/LauncherEntryBadge.h"
+#include "platform/PulseVoiceAudio.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemLocaleReading.h"
 #include "platform/SystemLocation.h"
@@ -30,6 +33,8 @@
 #include <QThread>
 #include <QtConcurrent>
 
+#include <cstdio>
+#include <optional>
 #include <span>
 
 using namespace loom;
@@ -38,6 +43,7 @@ namespace
 {
 
 const QString applicationID = QStringLiteral("com.loomstreet.Loomstreet");
+const QString tryHelp = QStringLiteral(" Try \"loomstreet --help\".");
 
 /// Where this user's files of the application live.
 QString dataFolder()
@@ -54,10 +60,10 @@ QString pictureCacheFolder()
 /// What another start, or the desktop, asks for.
 void obey(const Activation& activation, AppLifecycle& lifecycle)
 {
-    if (!activation.links.isEmpty())
+    if (!activation.action.isEmpty())
+        lifecycle.handleAction(activation.action, activation.links);
+    else if (!activation.links.isEmpty())
         lifecycle.handleOpen(activation.links);
-    else if (!activation.action.isEmpty())
-        lifecycle.handleAction(activation.action);
     else
         lifecycle.handleReopen();
 }
@@ -86,6 +92,8 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
     SystemLocation location(applicationID);
     FreedesktopNotifications notifications(applicationID);
     LauncherEntryBadge badge(applicationID);
+    PulseVoiceAudio voiceAudio(clock, applicationID);
+    DesktopGlobalKey muteKey;
     // Connected before the model is, whose windows come forward in the name of the click.
     WindowActivation comingForward;
     const auto followClick = [&comingForward](const QString& token) {
@@ -104,7 +112,10 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
                             .makeSystemSecrets = [] { return std::make_unique<KeychainSecureStore>(); },
                             .location = location,
                             .desktopNotifications = notifications,
-                            .launcherBadge = badge});
+                            .launcherBadge = badge,
+                            .voiceAudio = voiceAudio,
+                            .muteKey = muteKey,
+                            .isSafeMode = options.isSafeMode});
     WindowManager windows(engine, model, appearance);
     model.setWindowHost(&windows);
     // Behind every other translator, so that it is asked first.
@@ -118,13 +129,20 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
         comingForward.follow(activation);
         obey(activation, lifecycle);
     });
-    QObject::connect(&model, &AppModel::quitRequested, &lifecycle, [&lifecycle] {
-        if (lifecycle.shouldTerminate())
-            QCoreApplication::quit();
+    QObject::connect(&model, &AppModel::quitRequested, &lifecycle, [&lifecycle, &model] {
+        if (!lifecycle.shouldTerminate())
+            return;
+        model.call()->hangUp(); // a call whose window closes would ask for the chat, and so for a window
+        QCoreApplication::quit();
     });
     QObject::connect(
         qGuiApp, &QGuiApplication::applicationStateChanged, model.session(),
         [&model](Qt::ApplicationState state) { model.session()->setActive(state == Qt::ApplicationActive); });
+
+    // A desktop that ends asks its programs to end, too; that is no accident.
+    const EndRequests ends([&model] { Q_EMIT model.quitRequested(); });
+    model.crashReporter().start();
+    model.crashReporter().setActive(model.session()->isActive());
 
     std::optional<EventLoopProbe> probe;
     if (!options.eventLoopReportFile.isEmpty())
@@ -134,6 +152,7 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
     if (const WindowSession* const session = model.keySession())
         report.watch(windows.windowOf(*session));
     const int status = QCoreApplication::exec();
+    model.crashReporter().markCleanExit();
     // Who signs out and quits is not to be signed in again at the next start.
     const QDeadlineTimer lastMoment(std::chrono::seconds(2));
     while (model.auth()->isSaving() && !lastMoment.hasExpired()) {
@@ -145,19 +164,54 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
     return status;
 }
 
+int say(std::FILE* file, const QString& text, int status)
+{
+    std::fputs(qUtf8Printable(text), file);
+    return status;
+}
+
+/// The exit code of a process that could not do what it was started for.
+int complain(const QString& problem)
+{
+    return say(stderr, QStringLiteral("loomstreet: %1\n").arg(problem), 1);
+}
+
+/// What needs no window, and so neither a display nor the time it takes to open one.
+std::optional<int> answerAtOnce(const LaunchOptions& options, int argc, char* argv[])
+{
+    using Purpose = LaunchOptions::Purpose;
+    if (options.purpose == Purpose::Help)
+        return say(stdout, helpText(), 0);
+    if (options.purpose == Purpose::Version)
+        return say(stdout, versionText(), 0);
+    if (options.purpose != Purpose::Quit)
+        return {};
+    if (!options.problem.isEmpty())
+        return complain(options.problem + tryHelp);
+    const QCoreApplication application(argc, argv);
+    const auto reached = SingleInstance(applicationID).tell({.links = {}, .action = QStringLiteral("quit")});
+    return reached == SingleInstance::Reached::NoAnswer ? complain(QStringLiteral("the instance does not answer.")) : 0;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    prepareApplication(applicationID);
-    Activation start = readLaunch();
     const std::span<char*> given(argv, static_cast<std::size_t>(argc));
+    QStringList arguments;
+    for (const char* const argument : given)
+        arguments.append(QString::fromLocal8Bit(argument));
+    const LaunchOptions wishes = readLaunchOptions(arguments);
+    if (const std::optional<int> status = answerAtOnce(wishes, argc, argv))
+        return *status;
+    prepareApplication(applicationID, wishes.isSafeMode ? Rendering::Software : Rendering::Hardware);
+    Activation start = readLaunch();
     int optionCount = countOfOptions(argc, argv);
-    QStringList data;
-    for (const char* const argument : given.subspan(static_cast<std::size_t>(optionCount)))
-        data.append(QString::fromLocal8Bit(argument));
+    const QStringList data = arguments.mid(optionCount);
     QGuiApplication application(optionCount, argv);
     const LaunchOptions options = readLaunchOptions(QCoreApplication::arguments() + data);
+    if (!options.problem.isEmpty())
+        return complain(options.problem + tryHelp);
     start.links = options.links;
     start.action = options.action;
     // Reading certificates takes longer than all the rest of this; they are needed with the first request.
@@ -169,8 +223,10 @@ int main(int argc, char* argv[])
     const auto preloaded = WindowManager::preload(engine);
 
     SingleInstance instance(applicationID);
-    if (instance.claim(start) == SingleInstance::Role::Second)
-        return 0;
+    if (instance.claim(start) == SingleInstance::Role::Second) {
+        return options.isSafeMode ? complain(QStringLiteral("an instance runs already; \"loomstreet --quit\" ends it."))
+                                  : 0;
+    }
     registerFonts();
     DesktopAppearance appearance;
     if (!authority.result())
@@ -178,7 +234,12 @@ int main(int argc, char* argv[])
     const std::optional<AppConfig> config = AppConfig::load();
     if (!config) {
         const auto window = WindowManager::showConfigurationMissing(engine, appearance);
-        QObject::connect(&instance, &SingleInstance::activated, window.get(), &QWindow::requestActivate);
+        QObject::connect(&instance, &SingleInstance::activated, window.get(), [&window](const Activation& activation) {
+            if (activation.action == QLatin1String("quit"))
+                QCoreApplication::quit();
+            else
+                window->requestActivate();
+        });
         return QCoreApplication::exec();
     }
     return runShop(*config, options, instance, engine, appearance);

@@ -14,6 +14,8 @@ A small but complete fashion store on this machine, reached through a CONNECT pr
   --control-port N    port of the control server, 0 for any free one (default 0)
   --ready-file FILE   written when the store is ready, with what an application needs to know
   --parent-pid PID    end when the process PID is gone
+  --voice-script TEXT what shoppers say in calls, a line for each time they speak, with "|" between them
+                      (default: $LOOMSTREET_VOICE_SCRIPT, else a short conversation)
   --verbose           log every request to standard error
   --help              this text
 
@@ -26,7 +28,7 @@ export function defaultStateDir(environment = process.env) {
   return join(environment.XDG_CACHE_HOME || join(homedir(), '.cache'), 'loomstreet-sandbox');
 }
 
-export function readOptions(args) {
+export function readOptions(args, environment = process.env) {
   let values;
   try {
     ({ values } = parseArgs({
@@ -39,6 +41,7 @@ export function readOptions(args) {
         'control-port': { type: 'string', default: '0' },
         'ready-file': { type: 'string' },
         'parent-pid': { type: 'string' },
+        'voice-script': { type: 'string', default: environment.LOOMSTREET_VOICE_SCRIPT ?? '' },
         verbose: { type: 'boolean', default: false },
         help: { type: 'boolean', default: false },
       },
@@ -55,6 +58,7 @@ export function readOptions(args) {
     controlPort: wholeNumber('--control-port', values['control-port'], 0, 65535),
     parentPid: values['parent-pid'] === undefined ? null : wholeNumber('--parent-pid', values['parent-pid'], 1, 2 ** 31),
     stateDir: resolve(values['state-dir'] ?? defaultStateDir()),
+    voiceScript: values['voice-script'] === '' ? null : values['voice-script'].split('|').map((line) => line.trim()).filter(Boolean),
     readyFile: values['ready-file'] === undefined ? null : resolve(values['ready-file']),
   };
 }

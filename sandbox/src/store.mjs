@@ -4,6 +4,7 @@ import { join } from 'node:path';
 import { accountControls } from './accounts/controls.mjs';
 import { openSignIns } from './accounts/signIns.mjs';
 import { BackendSite } from './backend/site.mjs';
+import { crashReportControls, CrashReports } from './backend/endpoints/crashReports.mjs';
 import { Tracker } from './backend/endpoints/track.mjs';
 import { Wishlists } from './backend/endpoints/wishlist.mjs';
 import { Catalog } from './catalog/catalog.mjs';
@@ -47,15 +48,17 @@ import { supportControls } from './support/controls.mjs';
 import { Conversations } from './support/conversations.mjs';
 import { SupportFiles } from './support/files.mjs';
 import { SupportSettings } from './support/settings.mjs';
+import { Calls } from './voice/calls.mjs';
+import { voiceControls } from './voice/controls.mjs';
 import { BareWebSite, WebSite } from './web/site.mjs';
 
 /**
  * Starts the whole store and resolves once it answers: {ready, catalog, close}. ready is what an application needs to
  * know to shop here. log(line) is told of requests, announce(line) of the codes that a real store would send by mail; now()
- * is the time that codes and sessions go by.
+ * is the time that codes and sessions go by. voiceScript is what shoppers say in calls, line by line.
  */
 export async function startStore({
-  seed = 'loomstreet', pieces = 420, stateDir, port = 0, controlPort = 0, startedAt = Date.now(), log = null, announce = () => {}, now = Date.now,
+  seed = 'loomstreet', pieces = 420, stateDir, port = 0, controlPort = 0, startedAt = Date.now(), log = null, announce = () => {}, now = Date.now, voiceScript = null,
 }) {
   const certificatesLoaded = loadCertificates(stateDir, { domain, hostNames });
   const journal = new Journal({ log });
@@ -63,6 +66,7 @@ export async function startStore({
   const carts = new Carts();
   const settings = new CheckoutSettings();
   const tracker = new Tracker();
+  const crashReports = new CrashReports();
   const wishlists = new Wishlists();
   const catalog = new Catalog({ seed, count: pieces, startedAt });
   const signIns = openSignIns({ now, announce, startedAt });
@@ -85,8 +89,9 @@ export async function startStore({
   const recoModes = new RecoModes();
   const remoteConfig = new RemoteConfig({ startedAt });
   const stylist = new Stylist({ catalog, orders, index: () => storefront.index, seed, now });
+  const calls = new Calls({ accounts: signIns.accounts, catalog, stylist, seed, now, script: voiceScript });
   const backend = {
-    ...signIns, alerts, conversations, happenings, notifications, supportFiles, carts, catalog, customers, handOvers, orders, recoModes, recommender, remoteConfig, settings, tracker, wishlists,
+    ...signIns, alerts, calls, conversations, happenings, notifications, supportFiles, carts, catalog, crashReports, customers, handOvers, orders, recoModes, recommender, remoteConfig, settings, tracker, wishlists,
     stylist, sentenceSearch: new SentenceSearch({ catalog, recommender, index: () => storefront.index }),
   };
   const sites = new Map([
@@ -100,8 +105,8 @@ export async function startStore({
 
   const reset = () => {
     const kept = [
-      faults, carts, checkouts, handOvers, stock, prices, settings, ...Object.values(signIns), orders, alerts, tracker, wishlists, recoModes,
-      remoteConfig, journal, supportSettings, supportFiles, conversations, notifications, happenings, stylist,
+      faults, carts, checkouts, handOvers, stock, prices, settings, ...Object.values(signIns), orders, alerts, tracker, crashReports, wishlists, recoModes,
+      remoteConfig, journal, supportSettings, supportFiles, conversations, notifications, happenings, stylist, calls,
     ];
     kept.forEach((part) => part.clear());
     pages.release();
@@ -114,7 +119,9 @@ export async function startStore({
     ...accountControls({ ...signIns, orders, faults }),
     ...recoControls({ recoModes }),
     ...configControls({ remoteConfig }),
+    ...crashReportControls({ crashReports }),
     ...stylistControls({ stylist, faults }),
+    ...voiceControls({ calls }),
     ...notificationControls({ accounts: signIns.accounts, notifications }),
     ...supportControls({ conversations, supportSettings }),
   };
@@ -136,6 +143,7 @@ export async function startStore({
     },
     async close() {
       faults.clear();
+      calls.clear();
       proxy.endTunnels();
       secure.endSessions();
       control.closeAllConnections?.();

@@ -38,3 +38,22 @@ test('a summary of a wishlist is taken whole or not at all', async () => {
   const { value } = await client.control('GET', '/wishlist');
   assert.deepEqual(value.map(({ time, ...kept }) => kept), [{ items: [item], email: 'jane@mail.example', platform: 'macos' }]);
 });
+
+test('a crash report is taken once, whole, and in its form alone', async () => {
+  const report = {
+    platform: 'macos', appVersion: '1.4.2', build: 312, os: 'Debian', kind: 'abnormal_exit', summary: 'App did not quit normally', count: 1,
+    visitorId: 'visitor-1', device: { architecture: 'arm64' }, payload: { startedAt: '2026-11-21T20:21:35.120Z' },
+  };
+  const send = (change) => client.backend('/api/support/widget/app-version/crash-reports', { publicKey, ...report, ...change });
+  const another = { ...report, payload: { startedAt: '2026-11-21T21:00:00.000Z' } };
+  for (const good of [{}, {}, another]) assert.equal((await send(good)).status, 200);
+  const large = (size) => ({ payload: { exception: 'x'.repeat(size - '{"exception":""}'.length) } });
+  for (const wrong of [{ platform: undefined }, { count: '1' }, { payload: [] }, { email: 'jane@mail.example' }, large(92161)]) {
+    assert.equal((await send(wrong)).status, 400, JSON.stringify(wrong).slice(0, 80));
+  }
+  const { value } = await client.control('GET', '/crash-reports');
+  assert.deepEqual(value.map(({ report: kept }) => kept), [report, another]);
+  assert.equal((await send(large(92160))).status, 200);
+  await client.control('DELETE', '/crash-reports');
+  assert.deepEqual((await client.control('GET', '/crash-reports')).value, []);
+});

@@ -92,6 +92,7 @@ const ways = {
     '/vessa/product-stats': () => ({ handles: 'one,'.repeat(251) }),
     '/brand-stats': () => ({ vendor: '' }),
     '/app-version/config': () => ({ platform: 'toaster' }),
+    '/app-version/crash-reports': () => ({ count: 0 }),
     '/shopify-checkout/prepare': () => ({ locale: 'english' }),
     '/shopify-checkout/revoke': () => ({ appToken: 7 }),
     '/wishlist-sync': () => ({ items: [{}] }),

@@ -30,6 +30,8 @@ struct AppConfig {
     [[nodiscard]] static QString bundleIdentifier();
     /// The version of the running application, or "1.0.0" where it has none.
     [[nodiscard]] static QString appVersion();
+    /// Tells releases of the same version apart.
+    [[nodiscard]] static constexpr qint64 appBuild() { return LOOM_BUILD; }
 };
 
 } // namespace loom

@@ -100,14 +100,21 @@ void AppLifecycle::handleOpen(const QStringList& links)
         handleReopen();
 }
 
-void AppLifecycle::handleAction(const QString& name)
+void AppLifecycle::handleAction(const QString& name, const QStringList& links)
 {
-    // Where there is none, the window that is opened anyway is the new one.
-    if (name == QLatin1String("new-window") && m_model.keySession()) {
-        m_model.openWindow(WindowSeed{});
+    const QStringList opened = acceptable(links);
+    if (name == QLatin1String("quit")) {
+        Q_EMIT m_model.quitRequested();
         return;
     }
-    handleReopen();
+    // Where there is none, the window that is opened anyway is the new one.
+    if (name == QLatin1String("new-window") && m_model.keySession()) {
+        m_model.openWindow(WindowSeed{.link = opened.isEmpty() ? std::nullopt : std::optional(opened.first())});
+        for (const QString& link : opened.mid(1))
+            handleOpen(link);
+        return;
+    }
+    handleOpen(links);
     WindowSession& session = *m_model.keySession();
     session.setSignInPresented(false); // it would lie over what is asked for
     if (name == QLatin1String("search"))

@@ -38,8 +38,9 @@ public:
     /// Opens links that anybody may have written, as far as they are acceptable. Without one of those only the front
     /// window comes forward.
     void handleOpen(const QStringList& links);
-    /// Does what an action of the desktop entry promises; one that is not known brings the front window forward.
-    void handleAction(const QString& name);
+    /// Does what an action of the desktop entry promises, with the links that came with it, or quits; an action that is
+    /// not known brings the front window forward.
+    void handleAction(const QString& name, const QStringList& links = {});
 
     /// The links of a request that are worth opening: no longer than an address can sensibly be, without control
     /// characters, and not more of them than anybody would open tabs for.

@@ -41,7 +41,16 @@ AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
               .openExternally = m_platform.openExternally,
               .supportBase = m_config.supportBase,
               .supportKey = m_config.supportKey})
-    , m_remoteConfig(m_auth.widget(), m_folder, m_platform.clock)
+    , m_remoteConfig(m_auth.widget(), m_folder, m_platform.clock,
+                     m_platform.isSafeMode ? RemoteConfig::Source::BuiltIn : RemoteConfig::Source::Store)
+    , m_crashReporter(m_auth.widget(), m_preferences, m_folder, m_remoteConfig, m_platform.clock,
+                      {.version = AppConfig::appVersion(),
+                       .build = AppConfig::appBuild(),
+                       .visitorID = [this] { return visitorID(); },
+                       .hasConsent =
+                           [this] {
+                               return m_settings.sharesUsage();
+                           }})
     , m_storefrontClient(m_config.shopifyDomain, m_config.storefrontToken, m_platform.locale, m_transport,
                          m_platform.clock)
     , m_storefront(m_storefrontClient)
@@ -127,6 +136,27 @@ AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
                   [this] {
                       return !m_sessions.empty();
                   }})
+    , m_calls({.audio = m_platform.voiceAudio,
+               .muteKey = m_platform.muteKey,
+               .auth = m_auth,
+               .orders = m_orders,
+               .cart = m_cart,
+               .wishlist = m_wishlist,
+               .chat = m_mira,
+               .weather = m_weather,
+               .features = m_remoteConfig,
+               .storefront = m_storefront,
+               .market = m_market,
+               .money = m_money,
+               .preferences = m_preferences,
+               .clock = m_platform.clock,
+               .locale = m_platform.locale,
+               .supportBase = m_config.supportBase,
+               .storeHost = StorePages(m_config.storeWebURL).storeHost(),
+               .visitorID =
+                   [this] {
+                       return visitorID();
+                   }})
     , m_closedTabs(m_folder)
     , m_services{.clock = m_platform.clock,
                  .random = m_platform.random,
@@ -141,6 +171,9 @@ AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
 {
     connectStores();
     connectNews();
+    connectCalls();
+    if (m_platform.isSafeMode)
+        m_savedWindows.end();
     m_wishlist.load();
     m_recentlyViewed.load();
     m_auth.load();
@@ -153,6 +186,7 @@ void AppModel::connectStores()
     connect(&m_market, &MarketStore::revisionChanged, &m_cart, &CartStore::syncBuyerCountry);
     // What grew old while nobody looked is asked for again when somebody does.
     connect(&m_session, &AppSession::isActiveChanged, this, [this] {
+        m_crashReporter.setActive(m_session.isActive());
         if (!m_session.isActive() || !m_didBootstrap)
             return;
         m_market.refreshRate();
@@ -175,6 +209,11 @@ void AppModel::connectStores()
     connect(&m_market, &MarketStore::revisionChanged, &m_remoteConfig, follow);
     // Later: by then the texts are looked up anew.
     connect(&m_remoteConfig, &RemoteConfig::copyChanged, &m_texts, &TextChanges::changed, Qt::QueuedConnection);
+    // By then it is known whether the store wants any.
+    connect(&m_remoteConfig, &RemoteConfig::fetchingChanged, this, [this] {
+        if (!m_remoteConfig.fetching())
+            m_crashReporter.sendWaiting();
+    });
     connect(&m_remoteConfig, &RemoteConfig::featuresChanged, this, [this] {
         for (const auto& session : m_sessions)
             session->resolvePagesAgain();
@@ -199,6 +238,7 @@ void AppModel::connectStores()
         if (names.contains(RemovalGroups::account().first())) {
             m_mira.forget({QLatin1String(MiraDraft::fileName)});
             m_measurements.forget();
+            m_calls.session().forget();
         }
         // What was recommended to a customer is nobody else's affair.
         if (names.contains(RemovalGroups::account().first()))
@@ -246,6 +286,24 @@ void AppModel::connectNews()
             [this] { showSettings(QStringLiteral("notifications")); });
 }
 
+void AppModel::connectCalls()
+{
+    MiraVoiceSession& call = m_calls.session();
+    connect(&call, &MiraVoiceSession::windowRequested, this, [this] { m_windows->showCall(); });
+    connect(&call, &MiraVoiceSession::chatRequested, this, &AppModel::dockMira);
+    connect(&call, &MiraVoiceSession::opening, this, [this](const MiraVoiceDestination& destination) {
+        WindowSession& session = *frontSession();
+        Router& tab = *session.selected();
+        if (const auto* const item = std::get_if<SidebarItem>(&destination.place))
+            tab.select(*item);
+        else
+            tab.push(std::get<Route>(destination.place));
+        m_windows->raise(session); // the shopper may speak from behind other windows
+        if (m_calls.session().isWindowShown())
+            m_windows->showCall();
+    });
+}
+
 QCoro::Task<ApiResult<std::vector<SupportReply>>> AppModel::supportReplies(std::stop_token stop)
 {
     const ApiResult<std::vector<SupportMessage>> messages = co_await m_support.newReplies(stop);
@@ -262,6 +320,7 @@ void AppModel::retranslate()
     m_mira.thread()->retranslate();
     m_support.retranslate();
     m_news.settings().retranslate();
+    m_calls.session().retranslate();
 }
 
 void AppModel::openNews(WindowSession& session, const AppNotification& news)

@@ -14,6 +14,7 @@
 #include "app/AppConfig.h"
 #include "app/AppSession.h"
 #include "app/AppSettings.h"
+#include "app/CallDesk.h"
 #include "app/ClosedTabs.h"
 #include "app/NewsDesk.h"
 #include "app/SavedWindows.h"
@@ -50,6 +51,7 @@
 #include "net/HttpTransport.h"
 #include "net/Tracker.h"
 #include "notify/NotificationsModel.h"
+#include "services/CrashReporter.h"
 #include "services/RemoteConfig.h"
 #include "services/ToolsModel.h"
 #include "storage/ChosenSecureStore.h"
@@ -62,6 +64,7 @@
 #include "stylist/MiraSizeAPI.h"
 #include "stylist/MiraWeatherStore.h"
 #include "stylist/SizeAdviceModel.h"
+#include "stylist/voice/VoiceDevicesModel.h"
 #include "support/SupportAPI.h"
 #include "support/SupportChatModel.h"
 
@@ -86,6 +89,11 @@ struct AppPlatform {
     LocationSource& location;
     DesktopNotifications& desktopNotifications;
     LauncherBadge& launcherBadge;
+    VoiceAudio& voiceAudio;
+    GlobalKey& muteKey;
+    /// Starts without what the last start left that may be in its way: neither its windows nor what the store changed
+    /// of the application. Both stay for the next start.
+    bool isSafeMode = false;
 };
 
 /// The root: creates every long-lived client and store once, in order, hands each what it needs, and owns the open
@@ -107,6 +115,7 @@ class AppModel final : public QObject
     Q_PROPERTY(loom::RemoteConfig* remoteConfig READ remoteConfig CONSTANT)
     Q_PROPERTY(loom::NotInterested* notInterested READ notInterested CONSTANT)
     Q_PROPERTY(loom::MiraChatModel* mira READ mira CONSTANT)
+    Q_PROPERTY(loom::MiraVoiceSession* call READ call CONSTANT)
     Q_PROPERTY(loom::MiraWeatherStore* weather READ weather CONSTANT)
     Q_PROPERTY(loom::MeasurementsModel* measurements READ measurements CONSTANT)
     Q_PROPERTY(loom::SupportChatModel* support READ support CONSTANT)
@@ -131,6 +140,7 @@ public:
     [[nodiscard]] ProfileStore* profile() { return &m_profile; }
     [[nodiscard]] AlertsStore* alerts() { return &m_alerts; }
     [[nodiscard]] MiraChatModel* mira() { return &m_mira; }
+    [[nodiscard]] MiraVoiceSession* call() { return &m_calls.session(); }
     [[nodiscard]] MiraWeatherStore* weather() { return &m_weather; }
     [[nodiscard]] MeasurementsModel* measurements() { return &m_measurements; }
     [[nodiscard]] SupportChatModel* support() { return &m_support; }
@@ -140,6 +150,7 @@ public:
     [[nodiscard]] NotificationSettings* notificationSettings() { return &m_news.settings(); }
     [[nodiscard]] AppSession* session() { return &m_session; }
     [[nodiscard]] RemoteConfig* remoteConfig() { return &m_remoteConfig; }
+    [[nodiscard]] CrashReporter& crashReporter() { return m_crashReporter; }
     [[nodiscard]] NotInterested* notInterested() { return &m_notInterested; }
     [[nodiscard]] MarketStore* market() { return &m_market; }
     [[nodiscard]] AppSettings* settings() { return &m_settings; }
@@ -173,7 +184,8 @@ public:
     WindowSession& openWindow(const WindowSeed& seed);
     /// As it was saved; `state` has a tab at least.
     WindowSession& openSavedWindow(const WindowState& state);
-    /// Opens what was open last, with a link in front of it, if there is one. False where there was nothing.
+    /// Opens what was open last, with a link in front of it, if there is one. False where there was nothing, and in
+    /// safe mode.
     bool restoreWindows(const std::optional<QString>& link = {});
     /// What is open now is what the next start opens; nothing that closes from here on counts.
     void saveWindowsForNextStart() { m_savedWindows.saveAndEnd(); }
@@ -224,6 +236,7 @@ public:
     [[nodiscard]] Q_INVOKABLE loom::TrackingModel* makeTracking(QObject* owner, const QString& number,
                                                                 const QString& carrier);
     [[nodiscard]] Q_INVOKABLE loom::NotificationsModel* makeInbox(QObject* owner);
+    [[nodiscard]] Q_INVOKABLE loom::VoiceDevicesModel* makeVoiceDevices(QObject* owner);
     [[nodiscard]] Q_INVOKABLE loom::AppCommands* makeCommands(QObject* owner, loom::WindowSession* session);
 
     /// Shows the stylist in a window of her own, and brings her back beside the page of the window in front.
@@ -248,6 +261,7 @@ private:
     /// Who tells whom.
     void connectStores();
     void connectNews();
+    void connectCalls();
     [[nodiscard]] QCoro::Task<ApiResult<std::vector<SupportReply>>> supportReplies(std::stop_token stop);
     static void openNews(WindowSession& session, const AppNotification& news);
     void takePendingCheckout(WindowSession& session);
@@ -273,6 +287,7 @@ private:
     ChosenSecureStore m_secrets;
     AuthStore m_auth;
     RemoteConfig m_remoteConfig;
+    CrashReporter m_crashReporter;
     StorefrontClient m_storefrontClient;
     StorefrontAPI m_storefront;
     Tracker m_tracker;
@@ -304,6 +319,7 @@ private:
     SupportAPI m_supportAPI;
     SupportChatModel m_support;
     NewsDesk m_news;
+    CallDesk m_calls;
     bool m_didBootstrap = false;
     ClosedTabs m_closedTabs;
     WindowServices m_services;

@@ -291,6 +291,11 @@ NotificationsModel* AppModel::makeInbox(QObject* owner)
     return new NotificationsModel(m_news.account(), m_news.inbox(), m_dates, m_platform.clock, owner);
 }
 
+VoiceDevicesModel* AppModel::makeVoiceDevices(QObject* owner)
+{
+    return new VoiceDevicesModel(m_platform.voiceAudio, m_calls.session(), m_preferences, m_platform.clock, owner);
+}
+
 AppCommands* AppModel::makeCommands(QObject* owner, WindowSession* session)
 {
     if (auto* const made = given<AppCommands>(owner))

@@ -30,6 +30,8 @@ WindowSession& AppModel::openSavedWindow(const WindowState& state)
 
 bool AppModel::restoreWindows(const std::optional<QString>& link)
 {
+    if (m_platform.isSafeMode)
+        return false;
     const std::vector<WindowState> windows = m_savedWindows.load();
     m_begun.clear();
     // The one that was in front comes last, and so to the front.
@@ -88,6 +90,9 @@ void AppModel::closeWindow(WindowSession* session)
     closed->setParent(this);
     closed->deleteLater();
     m_sessions.erase(found);
+    // A call is never without a sign of itself.
+    if (m_sessions.empty() && !m_savedWindows.hasEnded() && m_calls.session().isActive())
+        m_calls.session().showInWindow();
 }
 
 void AppModel::windowBecameKey(WindowSession* session)

@@ -59,6 +59,12 @@ void SavedWindows::save()
 void SavedWindows::saveAndEnd()
 {
     save();
+    end();
+}
+
+void SavedWindows::end()
+{
+    m_saving.stop();
     m_hasEnded = true;
 }
 

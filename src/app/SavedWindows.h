@@ -28,6 +28,8 @@ public:
     void save();
     /// Writes it for the last time: the windows close because the application ends.
     void saveAndEnd();
+    /// What is written stays, whatever happens to the windows.
+    void end();
     [[nodiscard]] bool hasEnded() const { return m_hasEnded; }
 
 private:

@@ -24,6 +24,9 @@ public:
     virtual void showCheckout(CheckoutModel& checkout) = 0;
     /// Shows the stylist in a window of her own, or brings that to the front.
     virtual void showMira() = 0;
+    /// Shows the call with her in a window of its own, or brings that to the front. It closes by itself when the call
+    /// goes elsewhere.
+    virtual void showCall() = 0;
     /// Whether any main window can be seen.
     [[nodiscard]] virtual bool hasVisibleWindow() const = 0;
     /// Gives every open window the application's style.

@@ -8,7 +8,7 @@ namespace loom
 /// What another start of the application, or the desktop, asks of the instance that runs.
 struct Activation {
     QStringList links;
-    QString action;          ///< an action of the desktop entry; empty for none
+    QString action;          ///< an action of the desktop entry, which the links are for, or "quit"; empty for none
     QString startupId;       ///< the launch this belongs to, as X11 desktops number them
     QString activationToken; ///< the same for Wayland
 

@@ -34,7 +34,16 @@ public:
 public Q_SLOTS:
     void Activate(const QVariantMap& data) { pass({}, {}, data); }
     void Open(const QStringList& links, const QVariantMap& data) { pass(links, {}, data); }
-    void ActivateAction(const QString& action, const QVariantList&, const QVariantMap& data) { pass({}, action, data); }
+    /// The parameters are links that the action is about.
+    void ActivateAction(const QString& action, const QVariantList& parameters, const QVariantMap& data)
+    {
+        QStringList links;
+        for (const QVariant& parameter : parameters) {
+            if (parameter.typeId() == QMetaType::QString)
+                links.append(parameter.toString());
+        }
+        pass(links, action, data);
+    }
 
 private:
     void pass(const QStringList& links, const QString& action, const QVariantMap& data)

@@ -21,41 +21,72 @@ int countOfOptions(int argc, const char* const* argv)
 
 LaunchOptions readLaunchOptions(const QStringList& arguments)
 {
-    const auto option = [](const char* name, const char* description, const char* value) {
-        return QCommandLineOption(QLatin1String(name), QLatin1String(description), QLatin1String(value));
+    const auto flag = [](const QStringList& names) {
+        return QCommandLineOption(names);
     };
-    const QCommandLineOption authority =
-        option("ca-file", "Trust the certificate authorities in FILE as well.", "FILE");
-    const QCommandLineOption startReport =
-        option("start-report", "Write to FILE how long the first frames took.", "FILE");
-    const QCommandLineOption eventLoopReport =
-        option("event-loop-report", "Write to FILE how long the turns of the main thread took.", "FILE");
-    const QCommandLineOption screenshot =
-        option("screenshot", "Save the first page to FILE once its pictures are there, then quit.", "FILE");
-
-    const QCommandLineOption action =
-        option("action", "Do ACTION, as the desktop entry names them, in the running instance.", "ACTION");
-    QCommandLineOption service(QStringLiteral("service"));
-    service.setFlags(QCommandLineOption::HiddenFromHelp);
+    const auto valued = [](const char* name) {
+        return QCommandLineOption(QLatin1String(name), QString(), QStringLiteral("VALUE"));
+    };
+    const QCommandLineOption help = flag({QStringLiteral("help"), QStringLiteral("h")});
+    const QCommandLineOption version = flag({QStringLiteral("version"), QStringLiteral("v")});
+    const QCommandLineOption newWindow = flag({QStringLiteral("new-window")});
+    const QCommandLineOption quit = flag({QStringLiteral("quit")});
+    const QCommandLineOption safeMode = flag({QStringLiteral("safe-mode")});
+    const QCommandLineOption service = flag({QStringLiteral("service")});
+    const QCommandLineOption action = valued("action");
+    const QCommandLineOption authority = valued("ca-file");
+    const QCommandLineOption startReport = valued("start-report");
+    const QCommandLineOption eventLoopReport = valued("event-loop-report");
+    const QCommandLineOption screenshot = valued("screenshot");
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("The shopping client of an online fashion store."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOptions({action, service, authority, startReport, eventLoopReport, screenshot});
-    parser.addPositionalArgument(QStringLiteral("link"), QStringLiteral("A link to open."), QStringLiteral("[link…]"));
-    parser.process(arguments);
+    // The libraries' own options begin with one dash: their letters are not ours.
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.addOptions({help, version, newWindow, quit, safeMode, service, action, authority, startReport,
+                       eventLoopReport, screenshot});
+    const bool isUnderstood = parser.parse(arguments);
 
-    LaunchOptions options{.links = parser.positionalArguments(),
-                          .action = parser.value(action),
+    LaunchOptions options{.problem = isUnderstood ? QString() : parser.errorText(),
+                          .links = parser.positionalArguments(),
+                          .action = parser.isSet(newWindow) ? QStringLiteral("new-window") : parser.value(action),
                           .isService = parser.isSet(service),
+                          .isSafeMode = parser.isSet(safeMode),
                           .authorityFile = parser.value(authority),
                           .startReportFile = parser.value(startReport),
                           .eventLoopReportFile = parser.value(eventLoopReport),
                           .screenshotFile = parser.value(screenshot)};
+    if (parser.isSet(help))
+        options.purpose = LaunchOptions::Purpose::Help;
+    else if (parser.isSet(version))
+        options.purpose = LaunchOptions::Purpose::Version;
+    else if (parser.isSet(quit) || options.action == QLatin1String("quit"))
+        options.purpose = LaunchOptions::Purpose::Quit;
     if (options.authorityFile.isEmpty())
         options.authorityFile = qEnvironmentVariable("LOOMSTREET_CA_FILE");
     return options;
+}
+
+QString helpText()
+{
+    return QStringLiteral(R"(Usage: loomstreet [OPTION]... [--] [LINK]...
+
+The shopping client of an online fashion store. Opens the links in the instance
+that runs, or starts one.
+
+  --new-window     open a further window
+  --action ACTION  do what the desktop entry offers: new-window, search or bag
+  --quit           end the instance that runs, if one does
+  --safe-mode      start with software rendering, without the windows of last
+                   time, and with the built-in configuration
+  --ca-file FILE   trust the certificate authorities in FILE as well
+  -h, --help       print this help
+  -v, --version    print the version
+)");
+}
+
+QString versionText()
+{
+    return QStringLiteral("LOOMSTREET " LOOM_VERSION "\n");
 }
 
 bool addCertificateAuthority(const QString& file)

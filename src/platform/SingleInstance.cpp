@@ -49,10 +49,11 @@ QDBusMessage callFor(const Activation& start, const QString& service, const QStr
         message.setArguments(arguments);
         return message;
     };
+    // What an action is about travels as its parameters.
+    if (!start.action.isEmpty())
+        return call("ActivateAction", {start.action, QVariantList(start.links.begin(), start.links.end()), data});
     if (!start.links.isEmpty())
         return call("Open", {start.links, data});
-    if (!start.action.isEmpty())
-        return call("ActivateAction", {start.action, QVariantList(), data});
     return call("Activate", {data});
 }
 
@@ -110,10 +111,7 @@ SingleInstance::Role SingleInstance::claimOnBus(const Activation& start)
         return claimSocket(start);
     }
 
-    const QDBusMessage answer =
-        bus.call(callFor(start, m_applicationID, objectPath(m_applicationID)), QDBus::Block, answerTimeout);
-    if (answer.type() == QDBusMessage::ErrorMessage)
-        qCWarning(logPlatform) << "the running instance does not answer:" << answer.errorName();
+    static_cast<void>(callOnBus(callFor(start, m_applicationID, objectPath(m_applicationID))));
     return Role::Second;
 }
 
@@ -135,17 +133,47 @@ SingleInstance::Role SingleInstance::claimSocket(const Activation& start)
         qCWarning(logPlatform) << "cannot find out whether another instance runs: no lock at" << m_lock->fileName();
         return Role::First;
     }
-    QLocalSocket socket;
-    socket.connectToServer(name);
-    if (socket.waitForConnected(answerTimeout)) {
-        socket.write(requestFor(start));
-        socket.disconnectFromServer();
-        if (socket.state() != QLocalSocket::UnconnectedState)
-            socket.waitForDisconnected(answerTimeout);
-    } else {
-        qCWarning(logPlatform) << "the running instance does not answer:" << socket.errorString();
-    }
+    if (sendToSocket(start) != Reached::Instance)
+        qCWarning(logPlatform) << "the running instance does not answer";
     return Role::Second;
+}
+
+SingleInstance::Reached SingleInstance::tell(const Activation& request) const
+{
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected() || !bus.interface()->isServiceRegistered(m_applicationID))
+        return sendToSocket(request);
+    QDBusMessage call = callFor(request, m_applicationID, objectPath(m_applicationID));
+    // Should the instance have ended meanwhile, nobody is to be started in its place.
+    call.setAutoStartService(false);
+    return callOnBus(call) ? Reached::Instance : Reached::NoAnswer;
+}
+
+bool SingleInstance::callOnBus(const QDBusMessage& call)
+{
+    const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, answerTimeout);
+    if (answer.type() != QDBusMessage::ErrorMessage)
+        return true;
+    qCWarning(logPlatform) << "the running instance does not answer:" << answer.errorName();
+    return false;
+}
+
+SingleInstance::Reached SingleInstance::sendToSocket(const Activation& request) const
+{
+    QLocalSocket socket;
+    socket.connectToServer(runtimeFile(m_applicationID));
+    if (!socket.waitForConnected(answerTimeout)) {
+        const auto error = socket.error();
+        // What a crash leaves behind refuses.
+        return error == QLocalSocket::ServerNotFoundError || error == QLocalSocket::ConnectionRefusedError
+                   ? Reached::Nobody
+                   : Reached::NoAnswer;
+    }
+    socket.write(requestFor(request));
+    socket.disconnectFromServer();
+    return socket.state() == QLocalSocket::UnconnectedState || socket.waitForDisconnected(answerTimeout)
+               ? Reached::Instance
+               : Reached::NoAnswer;
 }
 
 void SingleInstance::readRequest()

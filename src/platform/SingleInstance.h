@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class QDBusMessage;
 class QLocalServer;
 class QLockFile;
 
@@ -22,6 +23,7 @@ class SingleInstance final : public QObject
 
 public:
     enum class Role { First, Second };
+    enum class Reached { Nobody, Instance, NoAnswer };
 
     /// `applicationID` is a name in reverse-domain form, such as "com.example.Program".
     explicit SingleInstance(QString applicationID, QObject* parent = nullptr);
@@ -30,6 +32,8 @@ public:
     /// Finds out whether another instance runs. If so it has been asked to do what this start is for, and this process
     /// should end.
     [[nodiscard]] Role claim(const Activation& start);
+    /// Asks the instance that runs, and neither is nor starts one where none does.
+    [[nodiscard]] Reached tell(const Activation& request) const;
 
 Q_SIGNALS:
     /// Another start, or the desktop, asks for a window, and for what it is to show.
@@ -38,6 +42,8 @@ Q_SIGNALS:
 private:
     [[nodiscard]] Role claimOnBus(const Activation& start);
     [[nodiscard]] Role claimSocket(const Activation& start);
+    [[nodiscard]] static bool callOnBus(const QDBusMessage& call);
+    [[nodiscard]] Reached sendToSocket(const Activation& request) const;
     void readRequest();
 
     QString m_applicationID;

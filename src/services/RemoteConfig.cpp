@@ -36,12 +36,13 @@ RemoteConfigValues readCache(DataFolder& folder)
 
 } // namespace
 
-RemoteConfig::RemoteConfig(WidgetClient& widget, DataFolder& folder, Clock& clock, QObject* parent)
+RemoteConfig::RemoteConfig(WidgetClient& widget, DataFolder& folder, Clock& clock, Source source, QObject* parent)
     : QObject(parent)
     , m_widget(widget)
     , m_folder(folder)
     , m_clock(clock)
-    , m_values(readCache(folder))
+    , m_source(source)
+    , m_values(source == Source::Store ? readCache(folder) : Values())
     , m_fetching([this] { Q_EMIT fetchingChanged(); })
 {
     updatePromo();
@@ -81,7 +82,8 @@ void RemoteConfig::setLanguage(AppLanguage language)
 
 void RemoteConfig::start()
 {
-    static_cast<void>(fetchFromTimeToTime());
+    if (m_source == Source::Store)
+        static_cast<void>(fetchFromTimeToTime());
 }
 
 QCoro::Task<> RemoteConfig::fetchFromTimeToTime()
@@ -95,7 +97,7 @@ QCoro::Task<> RemoteConfig::fetchFromTimeToTime()
 
 void RemoteConfig::refresh()
 {
-    if (!fetching())
+    if (m_source == Source::Store && !fetching())
         static_cast<void>(fetch());
 }
 

@@ -31,12 +31,16 @@ public:
     using Promo = RemotePromo;
     using DashboardCard = loom::DashboardCard;
 
+    /// What configures the application: the store, or nobody but who built it.
+    enum class Source { Store, BuiltIn };
+
     static constexpr std::chrono::seconds interval{1800};
     /// An attempt this long ago is not repeated because the application comes to the front.
     static constexpr std::chrono::seconds leastAge{60};
 
-    /// Applies what is kept on this machine; asks nobody yet.
-    RemoteConfig(WidgetClient& widget, DataFolder& folder, Clock& clock, QObject* parent = nullptr);
+    /// Applies what the store said last, as it is kept on this machine; asks nobody yet.
+    RemoteConfig(WidgetClient& widget, DataFolder& folder, Clock& clock, Source source = Source::Store,
+                 QObject* parent = nullptr);
 
     [[nodiscard]] const Values& values() const { return m_values; }
     /// Whether the store is being asked.
@@ -65,7 +69,7 @@ public:
 
     /// Asks now and from now on.
     void start();
-    /// Asks, unless it is doing so.
+    /// Asks, unless it is doing so or the store has no say.
     Q_INVOKABLE void refresh();
     /// The application came to the front.
     void becameActive();
@@ -91,6 +95,7 @@ private:
     WidgetClient& m_widget;
     DataFolder& m_folder;
     Clock& m_clock;
+    const Source m_source;
     AppLanguage m_language = AppLanguage::English;
     Values m_values;
     std::optional<ShownPromo> m_promo;

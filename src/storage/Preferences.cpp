@@ -64,6 +64,12 @@ QStringList Preferences::value(const ListPreference& preference) const
     return texts;
 }
 
+std::optional<QJsonObject> Preferences::value(const ObjectPreference& preference) const
+{
+    const QJsonValue value = m_values.value(keyOf(preference.key));
+    return value.isObject() ? std::optional(value.toObject()) : std::nullopt;
+}
+
 void Preferences::set(const Preference<bool>& preference, bool value)
 {
     setJson(keyOf(preference.key), value);
@@ -82,6 +88,16 @@ void Preferences::set(const Preference<const char*>& preference, const QString& 
 void Preferences::set(const ListPreference& preference, const QStringList& value)
 {
     setJson(keyOf(preference.key), QJsonArray::fromStringList(value));
+}
+
+void Preferences::set(const ObjectPreference& preference, const QJsonObject& value)
+{
+    setJson(keyOf(preference.key), value);
+}
+
+void Preferences::remove(const ObjectPreference& preference)
+{
+    setJson(keyOf(preference.key), QJsonValue(QJsonValue::Undefined));
 }
 
 void Preferences::setJson(const QString& key, const QJsonValue& value)

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <concepts>
+#include <optional>
 
 namespace loom
 {
@@ -23,6 +24,11 @@ struct ListPreference {
     const char* key;
 };
 
+/// Something the application notes for itself, which is a JSON object.
+struct ObjectPreference {
+    const char* key;
+};
+
 /// The one table of settings.
 namespace preferences
 {
@@ -33,6 +39,7 @@ inline constexpr Preference<const char*> endedSession{"lst_ended_session", ""}; 
 inline constexpr Preference<bool> inAppNotifications{"lst_in_app_notifications", true};
 inline constexpr Preference<const char*> language{"lst_language", ""}; ///< its code; empty follows the system
 inline constexpr Preference<const char*> lastAccountEmail{"lst_last_account_email", ""}; ///< in small letters
+inline constexpr Preference<const char*> lastException{"lst_last_exception", ""};        ///< why the last run ended
 inline constexpr Preference<const char*> marketCountry{"lst_market_country", ""};
 inline constexpr Preference<const char*> marketCurrency{"lst_market_currency", ""};
 inline constexpr Preference<bool> notifyBadge{"lst_notify_badge", true};
@@ -48,6 +55,7 @@ inline constexpr Preference<bool> notifySystem{"lst_notify_system", true};
 inline constexpr Preference<bool> notifyVessa{"lst_notify_vessa", true};
 inline constexpr Preference<const char*> privacyConsent{"lst_privacy_consent", "essential"}; ///< or "all"
 inline constexpr ListPreference recentSearches{"lst_recent_searches"};
+inline constexpr ObjectPreference runningSession{"lst_running_session"};      ///< the mark of a run
 inline constexpr Preference<const char*> secureStore{"lst_secure_store", ""}; ///< "system" or "file" once chosen
 inline constexpr Preference<const char*> settingsTab{"lst_settings_tab", "appearance"};
 inline constexpr Preference<const char*> shopGender{"lst_shop_gender_v1", "women"};
@@ -56,7 +64,9 @@ inline constexpr Preference<bool> splitPreview{"lst_split_preview", true};
 inline constexpr Preference<double> splitPreviewWidth{"lst_split_preview_width_v2", 0};
 inline constexpr Preference<const char*> supportLanguage{"lst_support_lang", "auto"}; ///< or a code
 inline constexpr Preference<const char*> visitorId{"lst_visitor_id", ""};
-inline constexpr Preference<bool> weatherAsked{"lst_weather_asked", false}; ///< the desktop, for the place
+inline constexpr Preference<const char*> voiceMicrophone{"lst_voice_microphone", ""}; ///< its id; empty: the default
+inline constexpr Preference<const char*> voiceSpeaker{"lst_voice_speaker", ""};       ///< likewise
+inline constexpr Preference<bool> weatherAsked{"lst_weather_asked", false};           ///< the desktop, for the place
 inline constexpr Preference<bool> weatherShared{"lst_weather_shared", true};
 inline constexpr Preference<bool> wishlistUntold{"lst_wishlist_untold", false};  ///< the backend has yet to hear of it
 inline constexpr Preference<const char*> windowFrame{"lst_window_frame", "own"}; ///< or "desktop"
@@ -75,17 +85,21 @@ public:
     [[nodiscard]] QString value(const Preference<const char*>& preference) const;
     /// What in the list is no text is left out.
     [[nodiscard]] QStringList value(const ListPreference& preference) const;
+    /// Nothing while it is absent or of another type.
+    [[nodiscard]] std::optional<QJsonObject> value(const ObjectPreference& preference) const;
 
     void set(const Preference<bool>& preference, bool value);
     void set(const Preference<double>& preference, double value);
     void set(const Preference<const char*>& preference, const QString& value);
     void set(const ListPreference& preference, const QStringList& value);
+    void set(const ObjectPreference& preference, const QJsonObject& value);
 
     template <typename T>
     void remove(const Preference<T>& preference)
     {
         setJson(QString::fromLatin1(preference.key), QJsonValue(QJsonValue::Undefined));
     }
+    void remove(const ObjectPreference& preference);
 
 Q_SIGNALS:
     void changed(const QString& key);

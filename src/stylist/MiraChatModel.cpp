@@ -78,6 +78,12 @@ void MiraChatModel::restore()
     Q_EMIT draftChanged();
 }
 
+const QString& MiraChatModel::visitorToken()
+{
+    restore();
+    return m_token;
+}
+
 void MiraChatModel::open()
 {
     restore();

@@ -80,6 +80,8 @@ public:
     [[nodiscard]] static QStringList prompts();
     [[nodiscard]] static QStringList morePrompts();
     [[nodiscard]] QString guideName() const;
+    /// As the service knows this conversation; empty before it does.
+    [[nodiscard]] const QString& visitorToken();
 
     [[nodiscard]] const QString& draft() const { return m_draft.text(); }
     void setDraft(const QString& text);

@@ -50,22 +50,12 @@ QString identifier(const JsonReader& json, std::string_view key)
     return number ? QString::number(*number) : QString();
 }
 
-/// A text, or a number written as one.
-QString price(const JsonReader& json)
-{
-    if (json.optionalText("price"))
-        return line(json, "price", longestName);
-    const auto number = json.optionalDecimal("price");
-    const bool isPrice = number && std::isfinite(*number) && *number >= 0 && *number < 1e12;
-    return isPrice ? QString::number(*number, 'f', QLocale::FloatingPointShortest) : QString();
-}
-
 MiraAttachment decodeAttachment(const JsonReader& json)
 {
     MiraAttachment attachment{.handle = token(json, "handle", longestHandle),
                               .title = line(json, "title"),
                               .vendor = line(json, "vendor"),
-                              .price = price(json),
+                              .price = decodeMiraPrice(json),
                               .imageURL = token(json, "image", longestAddress)};
     if (attachment.title.isEmpty())
         json.fail(QStringLiteral("item without title"));
@@ -117,6 +107,15 @@ std::vector<Record> firstOf(std::vector<Record> records, std::size_t count)
 }
 
 } // namespace
+
+QString decodeMiraPrice(const JsonReader& json)
+{
+    if (json.optionalText("price"))
+        return line(json, "price", longestName);
+    const auto number = json.optionalDecimal("price");
+    const bool isPrice = number && std::isfinite(*number) && *number >= 0 && *number < 1e12;
+    return isPrice ? QString::number(*number, 'f', QLocale::FloatingPointShortest) : QString();
+}
 
 MiraMessage decodeMiraMessage(const JsonReader& json)
 {

@@ -21,6 +21,8 @@ class JsonReader;
 [[nodiscard]] MiraSendResponse decodeMiraSend(const JsonReader& json);
 [[nodiscard]] MiraGuideResponse decodeMiraGuide(const JsonReader& json);
 [[nodiscard]] MiraOrdersResponse decodeMiraOrders(const JsonReader& json);
+/// What "price" says of a piece: a text, or a number written as one; empty where it is neither.
+[[nodiscard]] QString decodeMiraPrice(const JsonReader& json);
 
 /// A message as decodeMiraMessage() reads it.
 [[nodiscard]] QJsonObject miraMessageJson(const MiraMessage& message);

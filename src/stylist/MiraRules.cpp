@@ -40,6 +40,17 @@ QString readable(const MiraMessage& message)
     return message.direction == MiraDirection::Outbound ? MiraRules::withoutContext(text) : text;
 }
 
+// No piece has a longer handle, and one that has would spoil the question about the others.
+constexpr qsizetype longestHandle = 255;
+
+bool isPathPart(const QString& text)
+{
+    return std::ranges::none_of(text, [](QChar character) {
+        return character == QChar::ReplacementCharacter || character.isSpace() || !character.isPrint() ||
+               QStringView(u"/?#").contains(character);
+    });
+}
+
 /// What follows "/products/" as far as it can be a handle: links stand in the middle of sentences.
 QString leadingHandle(QStringView text)
 {
@@ -51,13 +62,7 @@ QString leadingHandle(QStringView text)
     const QString handle = text.first(size).toString();
     // Percent-encoded where whoever wrote the link is strict; what is none, or would part the path, stays as it is.
     const QString decoded = QUrl::fromPercentEncoding(handle.toUtf8());
-    const bool isHandle = std::ranges::none_of(decoded, [](QChar character) {
-        return character == QChar::ReplacementCharacter || character.isSpace() || !character.isPrint() ||
-               QStringView(u"/?#").contains(character);
-    });
-    // No piece has a longer one, and one that has would spoil the question about the others.
-    constexpr qsizetype longestHandle = 255;
-    const QString& found = isHandle ? decoded : handle;
+    const QString& found = isPathPart(decoded) ? decoded : handle;
     return found.size() <= longestHandle ? found : QString();
 }
 
@@ -93,6 +98,11 @@ QRegularExpression MiraRules::compiled(const QString& pattern, QRegularExpressio
         expression = QRegularExpression(QStringLiteral("(?!)"));
     expression.optimize();
     return expression;
+}
+
+bool MiraRules::isHandle(const QString& text)
+{
+    return !text.isEmpty() && text.size() <= longestHandle && isPathPart(text);
 }
 
 QString MiraRules::stylePrompt(const QString& pieceName)

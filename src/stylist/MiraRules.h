@@ -36,6 +36,9 @@ public:
     /// "Help me style this: " and the name of the piece.
     [[nodiscard]] static QString stylePrompt(const QString& pieceName);
 
+    /// Whether `text` can be the handle of a piece or a collection: no longer than any, and nothing in it would part
+    /// a path.
+    [[nodiscard]] static bool isHandle(const QString& text);
     /// More links than this in one message are not looked at.
     static constexpr qsizetype maximumLinks = 100;
 

@@ -4,7 +4,9 @@
 #include "app/AppModel.h"
 
 #include "support/FakeDesktopNotifications.h"
+#include "support/FakeGlobalKey.h"
 #include "support/FakeLocation.h"
+#include "support/FakeVoiceAudio.h"
 #include "support/NetworkFixture.h"
 #include "support/Running.h"
 
@@ -45,7 +47,10 @@ protected:
                                         .makeSystemSecrets = {},
                                         .location = location,
                                         .desktopNotifications = desktop,
-                                        .launcherBadge = badge});
+                                        .launcherBadge = badge,
+                                        .voiceAudio = voiceAudio,
+                                        .muteKey = muteKey,
+                                        .isSafeMode = isSafeMode});
         model->setWindowHost(&host);
     }
 
@@ -66,10 +71,13 @@ protected:
     FakeLocation location;
     FakeDesktopNotifications desktop;
     FakeLauncherBadge badge;
+    FakeVoiceAudio voiceAudio;
+    FakeGlobalKey muteKey;
     SystemLocale locale{.language = QStringLiteral("de"), .script = {}, .region = QStringLiteral("AT")};
     QTemporaryDir home;
     QList<QUrl> browsed;
     Qt::KeyboardModifiers keys;
+    bool isSafeMode = false;
     AppConfig config{.shopifyDomain = server.host(),
                      .storefrontToken = QStringLiteral("token-1"),
                      .supportBase = server.base(),

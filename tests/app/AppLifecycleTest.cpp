@@ -2,7 +2,9 @@
 
 #include "AppFixture.h"
 
+#include <QDir>
 #include <QFile>
+#include <QSignalSpy>
 
 using namespace loom;
 using namespace std::chrono_literals;
@@ -110,6 +112,37 @@ TEST_F(AppLifecycleTest, WindowsAndTabsComeBackAfterARestartAndAfterAKill)
     EXPECT_EQ(model->keySession()->selected()->selection(), SidebarItem::Bags);
 }
 
+TEST_F(AppLifecycleTest, SafeModeTakesNothingFromTheLastStartAndLeavesItToTheNext)
+{
+    const auto restart = [this](bool safely) {
+        lifecycle.reset();
+        isSafeMode = safely;
+        start({});
+        lifecycle.emplace(*model, host, clock);
+        lifecycle->didFinishLaunching({.link = QStringLiteral("/collections/bags")});
+    };
+    QDir(home.path()).mkpath(QStringLiteral("data"));
+    QFile kept(home.path() + QStringLiteral("/data/remote-config-macos.json"));
+    ASSERT_TRUE(kept.open(QIODevice::WriteOnly));
+    kept.write(R"({"revision": 5, "features": {"imageSearch": false}})");
+    kept.close();
+    lifecycle->didFinishLaunching({.section = SidebarItem::Men});
+    clock.advance(1s);
+
+    restart(true);
+    ASSERT_EQ(model->windows().size(), 1U);
+    EXPECT_EQ(model->keySession()->tabs()->count(), 1);
+    EXPECT_TRUE(model->remoteConfig()->isEnabled(Feature::ImageSearch));
+    model->keySession()->newTab();
+    clock.advance(2s);
+    EXPECT_TRUE(lifecycle->shouldTerminate());
+
+    restart(false);
+    ASSERT_EQ(model->keySession()->tabs()->count(), 2);
+    EXPECT_EQ(model->keySession()->tabs()->at(0)->selection(), SidebarItem::Men);
+    EXPECT_FALSE(model->remoteConfig()->isEnabled(Feature::ImageSearch));
+}
+
 TEST_F(AppLifecycleTest, ALinkFromOutsideOpensInATabOfItsOwn)
 {
     const auto shown = [](const Router& tab) {
@@ -166,6 +199,17 @@ TEST_F(AppLifecycleTest, EveryActionOfTheDesktopEntryDoesWhatItSays)
     lifecycle->handleAction(QStringLiteral("new-window"));
     lifecycle->handleAction(QStringLiteral("something else"));
     EXPECT_EQ(host.takeCalls(), calls({"show 1", "raise 1", "raise 1", "show 2", "raise 2"}));
+    const auto link = [](const char* handle) {
+        return QStringLiteral("/collections/") + QLatin1String(handle);
+    };
+    lifecycle->handleAction(QStringLiteral("new-window"), {link("a\nb"), link("bags"), link("dresses")});
+    EXPECT_EQ(model->keySession()->tabs()->count(), 2);
+    EXPECT_EQ(model->keySession()->tabs()->at(0)->page(1).handle, QStringLiteral("bags"));
+    EXPECT_EQ(host.takeCalls(), calls({"show 3", "raise 3"}));
+    const QSignalSpy quits(&*model, &AppModel::quitRequested);
+    lifecycle->handleAction(QStringLiteral("quit"));
+    EXPECT_EQ(quits.count(), 1);
+    EXPECT_EQ(host.takeCalls(), calls({}));
 }
 
 } // namespace

@@ -145,6 +145,34 @@ TEST_F(AppModelTest, AWindowMayBeClosedFromWithin)
     EXPECT_FALSE(watched);
 }
 
+TEST_F(AppModelTest, ACallIsFollowedByPagesAndByTheConversation)
+{
+    location.canLocate = false;
+    int asked = 0;
+    server.allow("POST /api/support/widget/init", [&asked](const ReceivedRequest&) {
+        ++asked;
+        return Answer::body(R"({"visitorToken": "t-1", "hasConversation": false, "messages": []})");
+    });
+    server.allow("POST /api/support/widget/guide-get", [](const ReceivedRequest&) { return Answer::body("", 404); });
+    model->openWindow({.section = SidebarItem::Starlook});
+    model->mira()->open();
+    const auto isAnswered = [&](int times) {
+        return asked == times && !model->mira()->isLoading();
+    };
+    waitUntil([&] { return isAnswered(1); }, "the conversation is there");
+
+    Q_EMIT model->call()->opening({.place = SidebarItem::Wishlist, .name = {}});
+    EXPECT_EQ(model->keySession()->selected()->selection(), SidebarItem::Wishlist);
+    EXPECT_EQ(host.takeCalls().last(), QStringLiteral("raise 1"));
+
+    // What was said is in it, however short the call was.
+    clock.advance(std::chrono::seconds(30));
+    Q_EMIT model->call()->callEnded();
+    clock.advance(CallDesk::writingTime);
+    waitUntil([&] { return isAnswered(2); }, "the conversation is asked for again");
+    EXPECT_EQ(model->mira()->notice(), QString());
+}
+
 TEST_F(AppModelTest, AnOrderIsReportedOnceItIsPlacedToThoseWhoMayBeTold)
 {
     model->announcements().post(Announcement::CheckoutCompleted); // nobody has agreed to anything yet

@@ -23,6 +23,7 @@ public:
     void showSettings() override { m_calls.append(QStringLiteral("settings")); }
     void showCheckout(CheckoutModel&) override { m_calls.append(QStringLiteral("checkout")); }
     void showMira() override { m_calls.append(QStringLiteral("mira")); }
+    void showCall() override { m_calls.append(QStringLiteral("call")); }
     [[nodiscard]] bool hasVisibleWindow() const override { return isVisible; }
     void applyWindowStyle() override { m_calls.append(QStringLiteral("style")); }
 

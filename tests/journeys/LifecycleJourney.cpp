@@ -142,6 +142,23 @@ TEST_F(LifecycleJourney, StartedByTheDesktopItWaitsToHearWhatForAndTakesNoLinkFo
     EXPECT_EQ(quit(service), 0);
 }
 
+TEST_F(LifecycleJourney, InSafeModeTooAFurtherStartOpensAWindowOrQuits)
+{
+    Start first({QStringLiteral("--safe-mode")});
+    awaitWindow(QStringLiteral("Explore – LOOMSTREET"));
+    Start late({QStringLiteral("--safe-mode")});
+    EXPECT_EQ(late.awaitEnd(), 1); // what runs cannot become safe
+    Start further({QStringLiteral("--new-window")});
+    EXPECT_EQ(further.awaitEnd(), 0);
+    waitUntil([] { return windows().size() == 2; }, "there is another window");
+    Start end({QStringLiteral("--quit")});
+    EXPECT_EQ(end.awaitEnd(), 0);
+    EXPECT_EQ(first.awaitEnd(), 0);
+    Start nothing({QStringLiteral("--quit")});
+    EXPECT_EQ(nothing.awaitEnd(), 0);
+    EXPECT_EQ(windows(), QStringList());
+}
+
 TEST_F(LifecycleJourney, ABuildThatBelongsToNoStoreSaysSo)
 {
     FakeAppearance appearance;

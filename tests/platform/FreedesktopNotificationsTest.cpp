@@ -254,7 +254,7 @@ TEST_F(FreedesktopNotificationsTest, ServersComeAndGo)
     const auto running = launch();
     EXPECT_EQ(ask(*running, "ask"), denied);
     post(*running, "lost", QStringLiteral("x"));
-    EXPECT_EQ(ask(*running, "permission"), denied);
+    EXPECT_EQ(ask(*running, "ask"), denied); // the bus has answered what was asked before this, too
     server.appear();
     askUntil([&] { return ask(*running, "permission") == authorised; }, "the server is seen");
     server.capabilities = {QStringLiteral("actions")};

@@ -1,6 +1,5 @@
 #include "platform/LaunchOptions.h"
 
-#include "Session.h"
 #include "platform/WindowActivation.h"
 
 #include "support/NetworkFixture.h"
@@ -63,15 +62,38 @@ TEST(LaunchOptionsTest, WhatFollowsTheDashesIsKeptFromTheLibrariesToo)
         EXPECT_EQ(WindowActivation::timeOf(QLatin1String(id)), 0U) << id;
 }
 
-TEST(LaunchOptionsTest, WhatIsNoOptionEndsTheProcess)
+TEST(LaunchOptionsTest, WhatAStartIsForIsKnownWithoutAnApplicationAndAmongOptionsOfTheLibraries)
 {
-    const Session session(Session::Bus::Absent);
-    for (const char* const unknown : {"--insecure", "--ignore-certificate-errors", "-k", "--ca-file"})
-        EXPECT_EQ(session.probe(texts({"options", unknown}))->exitCode(), 1) << unknown;
-    for (const char* const question : {"--help", "--version"}) {
-        const auto child = session.probe(texts({"options", question}));
-        EXPECT_EQ(child->exitCode(), 0);
-        EXPECT_FALSE(child->rest().startsWith(QLatin1Char('['))) << question;
+    using Purpose = LaunchOptions::Purpose;
+    struct Row {
+        QStringList arguments;
+        Purpose purpose;
+        const char* action;
+        bool isSafeMode;
+        bool hasProblem;
+    };
+    for (const Row& row : {
+             Row{{}, Purpose::Start, "", false, false},
+             Row{texts({"/a", "--new-window", "--safe-mode"}), Purpose::Start, "new-window", true, false},
+             Row{texts({"--quit", "--new-window"}), Purpose::Quit, "new-window", false, false},
+             Row{texts({"--action", "quit"}), Purpose::Quit, "quit", false, false},
+             Row{texts({"--quit", "-h"}), Purpose::Help, "", false, false},
+             Row{texts({"-v"}), Purpose::Version, "", false, false},
+             // the letters of a library's option are none of ours
+             Row{texts({"-qwindowtitle", "hv", "--safe-mode"}), Purpose::Start, "", true, true},
+             Row{texts({"--ca-file", "--help"}), Purpose::Start, "", false, false},
+             Row{texts({"--", "--help", "--quit", "--safe-mode"}), Purpose::Start, "", false, false},
+             Row{texts({"--insecure"}), Purpose::Start, "", false, true},
+             Row{texts({"--ignore-certificate-errors", "--quit"}), Purpose::Quit, "", false, true},
+             Row{texts({"-k"}), Purpose::Start, "", false, true},
+             Row{texts({"--ca-file"}), Purpose::Start, "", false, true},
+             Row{texts({"--safe-mode=no"}), Purpose::Start, "", true, true},
+         }) {
+        const LaunchOptions options = readLaunchOptions(QStringList(QStringLiteral("loomstreet")) + row.arguments);
+        EXPECT_EQ(options.purpose, row.purpose) << testing::PrintToString(row.arguments);
+        EXPECT_EQ(options.action, QLatin1String(row.action)) << testing::PrintToString(row.arguments);
+        EXPECT_EQ(options.isSafeMode, row.isSafeMode) << testing::PrintToString(row.arguments);
+        EXPECT_EQ(!options.problem.isEmpty(), row.hasProblem) << testing::PrintToString(row.arguments);
     }
 }
 

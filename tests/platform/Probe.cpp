@@ -2,9 +2,9 @@
 // what it does, a line for each event. Ends with its standard input.
 
 #include "platform/DesktopAppearance.h"
+#include "platform/DesktopGlobalKey.h"
 #include "platform/FreedesktopNotifications.h"
 #include "platform/KeychainSecureStore.h"
-#include "platform/LaunchOptions.h"
 #include "platform/LauncherEntryBadge.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemLocaleReading.h"
@@ -93,6 +93,24 @@ int runInstance(const QStringList& arguments)
     return runUntilTold();
 }
 
+/// tell ID [link…]; the environment says which action it is
+int runTell(const QStringList& arguments)
+{
+    const SingleInstance instance(arguments.value(0));
+    switch (instance.tell({.links = arguments.mid(1), .action = qEnvironmentVariable("LOOMSTREET_ACTION")})) {
+    case SingleInstance::Reached::Nobody:
+        print(QStringLiteral("nobody"));
+        break;
+    case SingleInstance::Reached::Instance:
+        print(QStringLiteral("told"));
+        break;
+    case SingleInstance::Reached::NoAnswer:
+        print(QStringLiteral("no answer"));
+        break;
+    }
+    return 0;
+}
+
 /// appearance
 int runAppearance()
 {
@@ -106,6 +124,23 @@ int runAppearance()
     tell();
     QObject::connect(&appearance, &SystemAppearance::changed, &appearance, tell);
     return runUntilTold();
+}
+
+/// key: obeys "bind", "release" and "tell"
+int runKey()
+{
+    DesktopGlobalKey key;
+    const auto tell = [&key] {
+        print(key.isBound() ? QStringLiteral("bound ") + key.keyText() : QStringLiteral("unbound"));
+    };
+    QObject::connect(&key, &GlobalKey::isBoundChanged, &key, tell);
+    QObject::connect(&key, &GlobalKey::pressed, &key, [] { print(QStringLiteral("pressed")); });
+    return runUntilTold([&](const QStringList& words) {
+        if (words.value(0) == QLatin1String("tell"))
+            tell();
+        else
+            key.setBound(words.value(0) == QLatin1String("bind"), QStringLiteral("Mute the call"));
+    });
 }
 
 QCoro::Task<> obey(SecureStore* store, QStringList words)
@@ -179,14 +214,6 @@ int runNotifications()
     });
 }
 
-/// options [argument…]
-int runOptions(QStringList arguments)
-{
-    arguments.prepend(QStringLiteral("loomstreet"));
-    print(asJson(readLaunchOptions(arguments).links));
-    return 0;
-}
-
 int runLocale()
 {
     const SystemLocale locale = readSystemLocale();
@@ -204,16 +231,20 @@ int main(int argc, char** argv)
         const QGuiApplication application(argc, argv);
         return runAppearance();
     }
+    if (what == QByteArrayView("key")) {
+        const QGuiApplication application(argc, argv);
+        return runKey();
+    }
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(2);
     if (what == QByteArrayView("instance"))
         return runInstance(arguments);
+    if (what == QByteArrayView("tell"))
+        return runTell(arguments);
     if (what == QByteArrayView("secrets"))
         return runSecrets();
     if (what == QByteArrayView("notifications"))
         return runNotifications();
-    if (what == QByteArrayView("options"))
-        return runOptions(arguments);
     if (what == QByteArrayView("locale"))
         return runLocale();
     std::fputs("unknown: see the functions above\n", stderr);

@@ -53,6 +53,24 @@ TEST_P(SingleInstanceTest, AnotherStartReachesTheOneThatRunsWithItsLinksItsActio
     session.environment.insert(QStringLiteral("LOOMSTREET_ACTION"), QStringLiteral("bag"));
     EXPECT_EQ(startApplication()->line(), second);
     EXPECT_EQ(running->line(), QStringLiteral("activated bag launcher-1_TIME77 token-1"));
+    EXPECT_EQ(startApplication({QStringLiteral("/a"), QStringLiteral("/b")})->line(), second);
+    EXPECT_EQ(running->line(), QStringLiteral(R"(opened ["/a","/b"] bag launcher-1_TIME77 token-1)"));
+}
+
+TEST_P(SingleInstanceTest, WhoOnlyTellsReachesTheOneThatRunsAndTakesNobodysPlace)
+{
+    session.environment.insert(QStringLiteral("LOOMSTREET_ACTION"), QStringLiteral("quit"));
+    const auto tell = [this] {
+        return session.probe({QStringLiteral("tell"), applicationID})->line();
+    };
+    EXPECT_EQ(tell(), QStringLiteral("nobody"));
+    const auto running = startApplication();
+    EXPECT_EQ(running->line(), first);
+    EXPECT_EQ(tell(), QStringLiteral("told"));
+    EXPECT_EQ(running->line(), QStringLiteral("activated quit"));
+    running->crash();
+    EXPECT_EQ(tell(), QStringLiteral("nobody"));
+    EXPECT_EQ(startApplication()->line(), first);
 }
 
 TEST_P(SingleInstanceTest, StartsThatComeTogetherAreAllHeard)
@@ -105,6 +123,10 @@ TEST(SingleInstanceOnABusTest, TheDesktopActivatesItAndOpensLinksInIt)
     EXPECT_EQ(call(QStringLiteral("ActivateAction"), {QStringLiteral("new-window"), QVariantList(), data}),
               QDBusMessage::ReplyMessage);
     EXPECT_EQ(running->line(), activated + QStringLiteral(" new-window 1"));
+    EXPECT_EQ(
+        call(QStringLiteral("ActivateAction"), {QStringLiteral("a"), QVariantList{7, QStringLiteral("/b")}, data}),
+        QDBusMessage::ReplyMessage);
+    EXPECT_EQ(running->line(), QStringLiteral(R"(opened ["/b"] a 1)"));
     EXPECT_EQ(call(QStringLiteral("Quit"), {}), QDBusMessage::ErrorMessage);
 }
 
@@ -113,6 +135,7 @@ TEST(SingleInstanceOnABusTest, AnInstanceThatDoesNotAnswerIsStillTheOnlyOne)
     const Session session(Session::Bus::Present);
     ASSERT_TRUE(session.connection().registerService(applicationID)); // and nobody behind the name
     EXPECT_EQ(session.probe({QStringLiteral("instance"), applicationID})->line(), second);
+    EXPECT_EQ(session.probe({QStringLiteral("tell"), applicationID})->line(), QStringLiteral("no answer"));
 }
 
 TEST(SingleInstanceWithoutABusTest, WhatIsNoRequestOnlyActivates)

@@ -38,6 +38,24 @@ private:
     std::string m_told;
 };
 
+TEST_F(RemoteConfigTest, WhereOnlyTheBuildHasASayNeitherTheStoreNorWhatItSaidIsAsked)
+{
+    make();
+    fetch(R"({"revision": 5, "features": {"imageSearch": false}})");
+    config.reset();
+    const auto asked = server.requests().size();
+    config.emplace(widget, folder, clock, RemoteConfig::Source::BuiltIn);
+    config->start();
+    config->refresh();
+    config->becameActive();
+    clock.advance(RemoteConfig::interval);
+    EXPECT_FALSE(config->fetching());
+    EXPECT_EQ(server.requests().size(), asked);
+    EXPECT_TRUE(config->isEnabled(Feature::ImageSearch));
+    make();
+    EXPECT_FALSE(config->isEnabled(Feature::ImageSearch)); // it is kept for the next start
+}
+
 TEST_F(RemoteConfigTest, ANewerOrEqualRevisionIsAppliedAndOnlyWhatChangedIsTold)
 {
     make();

@@ -32,19 +32,21 @@ protected:
 
 TEST_F(PreferencesTest, ASettingThatIsAbsentOrOfAnotherTypeIsItsFallback)
 {
-    for (const char* const content : {
-             R"({})",
-             R"({"lst_split_preview":"no","lst_split_preview_width_v2":"7","lst_appearance":1})",
-             R"({"lst_split_preview":null,"lst_split_preview_width_v2":[],"lst_appearance":{}})",
-             R"({"lst_split_preview":0,"lst_split_preview_width_v2":true,"lst_appearance":false})",
-             R"([])",
-             R"({"lst_split_preview":false,"lst_appearance":"dark")",
-         }) {
+    for (
+        const char* const content : {
+            R"({})",
+            R"({"lst_split_preview":"no","lst_split_preview_width_v2":"7","lst_appearance":1,"lst_running_session":"{}"})",
+            R"({"lst_split_preview":null,"lst_split_preview_width_v2":[],"lst_appearance":{}})",
+            R"({"lst_split_preview":0,"lst_split_preview_width_v2":true,"lst_appearance":false})",
+            R"([])",
+            R"({"lst_split_preview":false,"lst_appearance":"dark")",
+        }) {
         put(content);
         const Preferences preferences(folder);
         EXPECT_TRUE(preferences.value(preferences::splitPreview)) << content;
         EXPECT_EQ(preferences.value(preferences::splitPreviewWidth), 0) << content;
         EXPECT_EQ(preferences.value(preferences::appearance), QStringLiteral("system")) << content;
+        EXPECT_FALSE(preferences.value(preferences::runningSession)) << content;
     }
 }
 
@@ -56,12 +58,14 @@ TEST_F(PreferencesTest, SettingsSurviveARestartTogetherWithThoseOfANewerVersion)
         EXPECT_EQ(preferences.value(preferences::splitPreviewWidth), 320);
         preferences.set(preferences::splitPreview, false);
         preferences.set(preferences::visitorId, QStringLiteral("łódź"));
+        preferences.set(preferences::runningSession, {{QStringLiteral("build"), 7}});
         preferences.set(preferences::splitPreviewWidth, 412.5);
         preferences.remove(preferences::appearance);
     }
     const Preferences preferences(folder);
     EXPECT_FALSE(preferences.value(preferences::splitPreview));
     EXPECT_EQ(preferences.value(preferences::visitorId), QStringLiteral("łódź"));
+    EXPECT_EQ(preferences.value(preferences::runningSession), QJsonObject({{QStringLiteral("build"), 7}}));
     EXPECT_EQ(preferences.value(preferences::splitPreviewWidth), 412.5);
     EXPECT_EQ(preferences.value(preferences::appearance), QStringLiteral("system"));
     const QJsonObject kept = stored().toObject();

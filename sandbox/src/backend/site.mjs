@@ -8,6 +8,7 @@ import { parseMultipart } from './multipart.mjs';
 
 export const widgetPrefix = '/api/support/widget';
 const publicPrefix = '/api/pub';
+const voicePath = `${widgetPrefix}/voice/rt`;
 const uploadLimit = 16 * 1024 * 1024;
 
 /** The backend's host: JSON by POST, reading by GET, uploads as multipart, and the few pages and files a browser sees of it. */
@@ -41,7 +42,18 @@ export class BackendSite {
     }
   }
 
+  /** Calls come as a web socket. */
+  upgrade(exchange) {
+    if (exchange.path === voicePath) {
+      this.#store.calls.take(exchange);
+      return;
+    }
+    this.#journal.unknownPath(exchange);
+    exchange.sendJson(404, { code: 'NOT_FOUND', message: `There is no web socket at ${exchange.path}` });
+  }
+
   async #call(exchange) {
+    if (exchange.path === voicePath) throw new BackendError(426, 'UPGRADE_REQUIRED', 'A call is a web socket');
     const widget = exchange.path.startsWith(`${widgetPrefix}/`);
     const call = await readCall(exchange);
     const endpoint = this.#routes.get(exchange.path);

@@ -1,11 +1,13 @@
 import { createSecureServer } from 'node:http2';
 
 import { BadRequest, Exchange } from './exchange.mjs';
+import { Upgrade } from './upgrade.mjs';
 
 /**
  * The TLS server, HTTP/2 and HTTP/1.1. Each host name has one site: an object with handle(exchange) and, where the
  * request's body tells what is asked, identify(exchange), which runs before faults are looked up; takesCalls(exchange) says
- * whether a fault is to look like one of the Storefront API.
+ * whether a fault is to look like one of the Storefront API. upgrade(exchange), where a site has it, takes web sockets, which
+ * come by HTTP/1.1 only.
  */
 export function createSecureStore({ certificates, sites, journal, faults }) {
   const server = createSecureServer({
@@ -22,6 +24,9 @@ export function createSecureStore({ certificates, sites, journal, faults }) {
   });
   server.on('request', (req, res) => {
     serve(new Exchange(req, res), { sites, journal, faults });
+  });
+  server.on('upgrade', (req, socket, head) => {
+    serve(new Upgrade(req, socket, head), { sites, journal, faults });
   });
   server.on('tlsClientError', (error, socket) => {
     journal.log?.(`TLS handshake failed: ${error.message}`);
@@ -43,7 +48,8 @@ async function serve(exchange, { sites, journal, faults }) {
     await site.identify?.(exchange);
     entry.operation = exchange.operation;
     if (await faults.apply(exchange, { storefront: site.takesCalls?.(exchange) === true })) return;
-    await site.handle(exchange);
+    if (exchange instanceof Upgrade) await upgrade(exchange, site);
+    else await site.handle(exchange);
   } catch (error) {
     if (exchange.finished) return;
     if (error instanceof BadRequest) {
@@ -54,4 +60,9 @@ async function serve(exchange, { sites, journal, faults }) {
     journal.log?.(error.stack);
     exchange.sendJson(500, { code: 'INTERNAL', message: 'The store failed to answer' });
   }
+}
+
+function upgrade(exchange, site) {
+  if (!site.upgrade) throw new BadRequest('this host has no web sockets', 404);
+  return site.upgrade(exchange);
 }

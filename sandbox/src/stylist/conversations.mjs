@@ -45,11 +45,16 @@ export class Conversations {
     return typeof visitorId === 'string' ? ([...this.#byToken.values()].findLast((one) => one.visitorId === visitorId) ?? null) : null;
   }
 
+  /** One that nobody will find again. */
+  stranger() {
+    return this.#begin();
+  }
+
   /** A message is never older than the one before it, to the millisecond. */
-  add(conversation, { direction, body, attachments }) {
+  add(conversation, { direction, body, attachments, at = this.#now() }) {
     const before = conversation.messages.at(-1);
-    const at = Math.max(this.#now(), before ? (Date.parse(before.createdAt) || 0) + 1 : 0);
-    const message = { id: `m${randomBytes(9).toString('hex')}`, direction, body, attachments, createdAt: new Date(at).toISOString() };
+    const own = Math.max(at, before ? (Date.parse(before.createdAt) || 0) + 1 : 0);
+    const message = { id: `m${randomBytes(9).toString('hex')}`, direction, body, attachments, createdAt: new Date(own).toISOString() };
     conversation.messages.push(message);
     return message;
   }

@@ -49,6 +49,18 @@ export class Stylist {
     return { messages: spoil(conversation.messages.slice(from), this.settings.values.hostile) };
   }
 
+  /** What she answers without writing it down: {body, attachments}. */
+  reply({ body, lang, account, conversation }) {
+    return this.#mira.reply({ body, attachments: [], lang, account, conversation });
+  }
+
+  /** Writes down what was said on the phone: turns of {role, text, cards, at}. */
+  noteCall(conversation, turns) {
+    for (const { role, text, cards, at } of turns) {
+      this.conversations.add(conversation, { direction: role === 'user' ? 'outbound' : 'inbound', body: text, attachments: cards, at });
+    }
+  }
+
   /** The size that somebody takes in a piece; undefined when there is no advice, null when there is no such piece. */
   size({ handle, visitorId, account }) {
     const piece = this.#catalog.piece(handle);

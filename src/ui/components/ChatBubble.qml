@@ -1,10 +1,10 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Loomstreet.Components
 import Loomstreet.Theme
 
 // One message of a conversation: the shopper's own in a bubble at the end, the other's plain on the ground, and below
-// it whatever belongs to it.
+// it whatever belongs to it. Hundreds of them pass by quickly: what few have is made for those few, and each thing's
+// place follows from the heights of those above, so that a list has its height at once.
 Item {
     id: bubble
 
@@ -17,6 +17,7 @@ Item {
     property bool sending: false
     property string problem // why it may not have arrived
     property alias extras: extras.data
+    property real extrasHeight: 0
 
     // What is very long is shown as far as one reads, and in full when asked for.
     readonly property int most: 4000
@@ -24,168 +25,150 @@ Item {
     property bool expanded: false
     readonly property string shownText: isLong && !expanded ? text.slice(0, most - 500).trim() + "…" : text
 
+    // Sides change when it is given another message: anchors would keep the width they gave meanwhile.
+    readonly property bool atLeft: mine === LayoutMirroring.enabled
+    readonly property real gap: Theme.space1
+    readonly property real wordsTop: heading === "" ? 0 : day.height + gap
+    readonly property real expandTop: wordsTop + (text === "" ? 0 : place.height + gap)
+    readonly property real troubleTop: expandTop + (isLong ? expand.height + gap : 0)
+    readonly property real extrasTop: troubleTop + (problem === "" ? 0 : trouble.height + gap)
+
     signal retryAsked()
     signal removeAsked()
 
-    // A list asks for its height at once, before anything is laid out by itself.
-    function layOut(): void {
-        extras.forceLayout()
-        column.forceLayout()
-    }
+    implicitHeight: Math.max(0, extrasTop + (extrasHeight > 0 ? extrasHeight : -gap))
 
-    implicitHeight: column.height
-    Component.onCompleted: layOut()
+    // A list keeps those that have left the view, and gives them another message later.
+    ListView.onPooled: {
+        const list = ListView.view as ChatList
+        list.letGo(bubble)
+        visible = false
+        expanded = false
+        words.deselect()
+    }
+    ListView.onReused: visible = true
 
     Accessible.role: Accessible.ListItem
     Accessible.name: (timeLabel === "" ? speaker : speaker + ", " + timeLabel)
                      + (sending ? ", " + qsTranslate("Loomstreet", "Sending…") : "")
                      + (problem === "" ? "" : ", " + problem)
 
-    Column {
-        id: column
+    Loader {
+        id: day
 
         width: parent.width
-        spacing: Theme.space1
-
-        TextLabel {
+        active: bubble.heading !== ""
+        sourceComponent: TextLabel {
             objectName: "heading"
-            width: parent.width
             bottomPadding: Theme.spaceHalf - topPadding
-            visible: text !== ""
-            text: bubble.heading
+            text: bubble.heading // qmllint disable unqualified
             type: Theme.type.small
             figures: true
             color: Theme.muted
             horizontalAlignment: Text.AlignHCenter
             Accessible.role: Accessible.Heading
         }
-        Item {
-            id: place
+    }
+    Item {
+        id: place
 
-            readonly property int margin: bubble.mine ? Theme.space1_5 : 0
-            // A bubble leaves some of the width to the other side.
-            readonly property real room: bubble.mine ? Math.floor(width * 0.86) - 2 * margin : width
+        readonly property int margin: bubble.mine ? Theme.space1_5 : 0
+        // A bubble leaves some of the width to the other side.
+        readonly property real room: bubble.mine ? Math.floor(width * 0.86) - 2 * margin : width
 
-            width: parent.width
-            height: words.implicitHeight + (bubble.mine ? 18 : 0)
-            visible: bubble.text !== ""
+        y: bubble.wordsTop
+        width: parent.width
+        height: words.implicitHeight + (bubble.mine ? 18 : 0)
+        visible: bubble.text !== ""
 
+        Rectangle {
+            id: ground
+
+            objectName: "ground"
+            anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
+            width: words.width + 2 * place.margin
+            visible: bubble.mine
+            radius: Theme.radiusPanel
+            color: Theme.hover
+
+            // The corner that points to who says it.
             Rectangle {
-                id: ground
+                anchors { right: parent.right; bottom: parent.bottom }
+                width: Theme.radiusPanel
+                height: width
+                radius: Theme.radiusSmall
+                color: parent.color
+            }
+        }
+        SelectableText {
+            id: words
 
-                objectName: "ground"
-                anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
-                width: words.width + 2 * place.margin
-                visible: bubble.mine
-                radius: Theme.radiusPanel
-                color: Theme.hover
+            // Asked for from the start: the first question has it laid out anew.
+            readonly property real natural: implicitWidth
 
-                // The corner that points to who says it.
-                Rectangle {
-                    anchors { right: parent.right; bottom: parent.bottom }
-                    width: Theme.radiusPanel
-                    height: width
-                    radius: Theme.radiusSmall
-                    color: parent.color
+            objectName: "text"
+            anchors.verticalCenter: parent.verticalCenter
+            x: bubble.atLeft ? place.margin : parent.width - width - place.margin
+            width: bubble.mine ? Math.min(Math.ceil(natural), place.room) : place.room
+            text: bubble.shownText
+
+            Accessible.role: Accessible.Paragraph
+            Accessible.name: bubble.shownText
+
+            // Each sentence stands in the tree below the text that holds it.
+            Repeater {
+                model: bubble.expanded ? bubble.sentences : bubble.sentences.slice(0, 40)
+
+                Item {
+                    required property string modelData
+
+                    anchors.fill: parent
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: modelData
                 }
             }
-            SelectableText {
-                id: words
-
-                objectName: "text"
-                anchors { left: bubble.mine ? undefined : parent.left; right: bubble.mine ? parent.right : undefined; rightMargin: place.margin; verticalCenter: parent.verticalCenter }
-                width: bubble.mine ? Math.min(Math.ceil(implicitWidth), place.room) : place.room
-                text: bubble.shownText
-
-                Accessible.role: Accessible.Paragraph
-                Accessible.name: bubble.shownText
-
-                // Each sentence stands in the tree below the text that holds it.
-                Repeater {
-                    model: bubble.expanded ? bubble.sentences : bubble.sentences.slice(0, 40)
-
-                    Item {
-                        required property string modelData
-
-                        anchors.fill: parent
-                        Accessible.role: Accessible.StaticText
-                        Accessible.name: modelData
-                    }
-                }
-            }
-            Icon {
+        }
+        Loader {
+            anchors { right: ground.left; rightMargin: Theme.space1; verticalCenter: parent.verticalCenter }
+            active: bubble.sending
+            sourceComponent: Icon {
                 objectName: "sending"
-                anchors { right: ground.left; rightMargin: Theme.space1; verticalCenter: parent.verticalCenter }
-                visible: bubble.sending
                 name: "clock"
                 size: 16
                 color: Theme.muted
             }
         }
-        LinkButton {
+    }
+    Loader {
+        id: expand
+
+        x: bubble.atLeft ? 0 : parent.width - width
+        y: bubble.expandTop
+        active: bubble.isLong
+        sourceComponent: LinkButton {
             objectName: "expand"
-            anchors { left: bubble.mine ? undefined : parent.left; right: bubble.mine ? parent.right : undefined }
-            visible: bubble.isLong
-            text: bubble.expanded ? qsTranslate("Loomstreet", "Show less") : qsTranslate("Loomstreet", "Show all")
-            onClicked: bubble.expanded = !bubble.expanded
+            text: bubble.expanded ? qsTranslate("Loomstreet", "Show less") : qsTranslate("Loomstreet", "Show all") // qmllint disable unqualified
+            onClicked: bubble.expanded = !bubble.expanded // qmllint disable unqualified
         }
-        // As wide as it needs, below the end of the bubble.
-        Item {
-            width: parent.width
-            height: visible ? trouble.height : 0
-            visible: bubble.problem !== ""
+    }
+    Loader {
+        id: trouble
 
-            Column {
-                id: trouble
-
-                anchors.right: parent.right
-                width: parent.width
-
-                Row {
-                    anchors.right: parent.right
-                    spacing: 6
-
-                    Icon {
-                        y: Math.round((reason.type.line - height) / 2)
-                        name: "warning"
-                        size: 16
-                        color: Theme.danger
-                    }
-                    TextLabel {
-                        id: reason
-
-                        objectName: "problem"
-                        width: Math.min(implicitWidth, trouble.width - 22)
-                        text: bubble.problem
-                        type: Theme.type.caption
-                        color: Theme.danger
-                        wrapMode: Text.Wrap
-                        Accessible.role: Accessible.AlertMessage
-                    }
-                }
-                Row {
-                    anchors.right: parent.right
-                    spacing: Theme.space2
-
-                    LinkButton {
-                        objectName: "retry"
-                        text: qsTranslate("Loomstreet", "Try again")
-                        onClicked: bubble.retryAsked()
-                    }
-                    LinkButton {
-                        objectName: "remove"
-                        text: qsTranslate("Loomstreet", "Remove")
-                        onClicked: bubble.removeAsked()
-                    }
-                }
-            }
+        y: bubble.troubleTop
+        width: parent.width
+        active: bubble.problem !== ""
+        sourceComponent: ChatTrouble {
+            text: bubble.problem // qmllint disable unqualified
+            onRetryAsked: bubble.retryAsked() // qmllint disable unqualified
+            onRemoveAsked: bubble.removeAsked() // qmllint disable unqualified
         }
-        Column {
-            id: extras
+    }
+    Item {
+        id: extras
 
-            width: parent.width
-            visible: children.length > 0
-            spacing: Theme.space1
-        }
+        y: bubble.extrasTop
+        width: parent.width
+        height: bubble.extrasHeight
+        visible: height > 0
     }
 }

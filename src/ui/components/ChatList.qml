@@ -49,6 +49,13 @@ ListView {
         hold()
     }
 
+    // A message has left the view, and its item shows another one from now on.
+    function letGo(item: Item): void {
+        if (held === item)
+            held = null
+        if (item.activeFocus)
+            forceActiveFocus()
+    }
     function hold(): void {
         held = itemAt(width / 2, contentY + height / 2) ?? itemAt(width / 2, contentY + Theme.space2)
         heldBelow = held ? held.y - contentY : 0
@@ -81,7 +88,8 @@ ListView {
     currentIndex: -1
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: false
-    cacheBuffer: 600
+    reuseItems: true
+    cacheBuffer: 160 // what the Tab key leads to next is there
     clip: true
     activeFocusOnTab: true
     // Whether its length is known yet or not, the latest is at the same place.

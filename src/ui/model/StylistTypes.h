@@ -8,6 +8,8 @@
 #include "stylist/MiraWeatherStore.h"
 #include "stylist/SizeAdviceModel.h"
 #include "stylist/WardrobeModel.h"
+#include "stylist/voice/MiraVoiceSession.h"
+#include "stylist/voice/VoiceDevicesModel.h"
 #include "support/SupportChatModel.h"
 #include "support/SupportThreadModel.h"
 
@@ -71,6 +73,34 @@ struct WardrobeModelForQml {
     QML_NAMED_ELEMENT(WardrobeModel)
     QML_UNCREATABLE("made by the chat with the stylist")
 };
+
+struct MiraVoiceSessionForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::MiraVoiceSession)
+    QML_NAMED_ELEMENT(MiraVoiceSession)
+    QML_UNCREATABLE("made by the application model")
+};
+
+struct MiraVoiceTranscriptForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::MiraVoiceTranscript)
+    QML_NAMED_ELEMENT(MiraVoiceTranscript)
+    QML_UNCREATABLE("made by the call")
+};
+
+struct VoiceDevicesModelForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::VoiceDevicesModel)
+    QML_NAMED_ELEMENT(VoiceDevicesModel)
+    QML_UNCREATABLE("made by the application model")
+};
+
+namespace MiraVoicePhasesForQml
+{
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(loom::MiraVoicePhases)
+QML_NAMED_ELEMENT(MiraVoicePhases)
+} // namespace MiraVoicePhasesForQml
 
 struct SupportChatModelForQml {
     Q_GADGET

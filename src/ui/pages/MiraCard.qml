@@ -20,8 +20,6 @@ FocusScope {
     signal sizesAsked()
     signal anchorAsked()
 
-    implicitHeight: Math.max(Theme.cardMessageThumb.height, words.height) + 2 * 9
-
     Pressable {
         id: control
 

@@ -10,6 +10,7 @@ FocusScope {
     required property AppModel app
     // The window with pages that it is in; none in a window of its own.
     property WindowSession session: null
+    property bool docked: false // beside a page
     // Somebody can see it.
     property bool shown: true
     // Where else it can be shown: buttons in the header.
@@ -59,6 +60,8 @@ FocusScope {
 
         anchors { left: parent.left; right: parent.right; top: parent.top }
         z: 1
+        app: chat.app
+        docked: chat.docked
         mira: chat.mira
         topicsBeside: chat.roomy
         onWardrobeAsked: sheets.showWardrobe()
@@ -88,7 +91,7 @@ FocusScope {
     MiraThread {
         id: thread
 
-        anchors { left: parent.left; leftMargin: chat.side; right: parent.right; top: header.bottom; bottom: writing.top }
+        anchors { left: parent.left; leftMargin: chat.side; right: parent.right; top: header.bottom; bottom: call.shown ? call.top : writing.top }
         app: chat.app
         mira: chat.mira
         padding: chat.padding
@@ -105,6 +108,13 @@ FocusScope {
             thread.toLatest()
             chat.takeFocus()
         }
+    }
+    CallBar {
+        id: call
+
+        objectName: "callBar"
+        anchors { left: writing.left; right: writing.right; bottom: writing.top; bottomMargin: Theme.space1 }
+        call: chat.app.call
     }
     MiraComposer {
         id: writing

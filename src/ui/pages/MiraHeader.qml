@@ -8,7 +8,9 @@ import Loomstreet.Theme
 Item {
     id: header
 
+    required property AppModel app
     property MiraChatModel mira
+    property bool docked: false // beside a page
     property int padding: Theme.space2 + 4
     property bool topicsBeside: false // they are shown already
     // Where she can be shown instead.
@@ -25,6 +27,11 @@ Item {
         topics.made.x = Qt.binding(() => header.LayoutMirroring.enabled ? header.padding : header.width - topics.made.width - header.padding)
         topics.made.y = header.height
         topics.made.open()
+    }
+    function showMenu(): void {
+        if (menu.status === Loader.Null)
+            menu.setSource("MiraMenu.qml", { header: header, parent: more })
+        menu.made.open()
     }
 
     implicitHeight: Math.max(Theme.layoutTopBar, words.height + Theme.space1)
@@ -72,66 +79,19 @@ Item {
         anchors { right: parent.right; rightMargin: Theme.space1_5; verticalCenter: parent.verticalCenter }
         spacing: Theme.spaceHalf
 
+        CallButton {
+            app: header.app
+            docked: header.docked
+        }
         IconButton {
             id: more
 
             objectName: "miraMenu"
             iconName: "ellipsis"
-            on: menu.visible
+            on: menu.made?.visible ?? false
             showsToolTip: !on
             text: qsTranslate("Loomstreet", "More")
-            onClicked: menu.visible ? menu.close() : menu.open()
-
-            Menu {
-                id: menu
-
-                x: more.mirrored ? 0 : more.width - width
-                y: more.height + Theme.spaceHalf
-
-                MenuItem {
-                    objectName: "menu.newTopic"
-                    iconName: "plus"
-                    text: qsTranslate("Loomstreet", "New topic")
-                    onTriggered: {
-                        header.mira.newTopic()
-                        header.topicBegun()
-                    }
-                }
-                MenuItem {
-                    objectName: "menu.topics"
-                    height: visible ? implicitHeight : 0
-                    visible: !header.topicsBeside
-                    iconName: "clock"
-                    text: qsTranslate("Loomstreet", "Topics…")
-                    onTriggered: header.showTopics()
-                }
-                MenuItem {
-                    objectName: "menu.refresh"
-                    enabled: !header.mira.isLoading
-                    iconName: "arrow.clockwise"
-                    text: qsTranslate("Loomstreet", "Refresh")
-                    onTriggered: header.mira.refresh()
-                }
-                MenuSeparator {}
-                MenuItem {
-                    objectName: "menu.wardrobe"
-                    iconName: "hanger"
-                    text: qsTranslate("Loomstreet", "Style with my pieces…")
-                    onTriggered: header.wardrobeAsked()
-                }
-                MenuItem {
-                    objectName: "menu.measurements"
-                    iconName: "ruler"
-                    text: qsTranslate("Loomstreet", "My measurements…")
-                    onTriggered: header.measurementsAsked()
-                }
-                MenuItem {
-                    objectName: "menu.weather"
-                    iconName: "cloud"
-                    text: qsTranslate("Loomstreet", "Weather…")
-                    onTriggered: header.weatherAsked()
-                }
-            }
+            onClicked: on ? menu.made.close() : header.showMenu()
         }
         Row {
             id: places
@@ -139,7 +99,12 @@ Item {
             spacing: Theme.spaceHalf
         }
     }
-    // Made when it is first asked for.
+    // Made when they are first asked for.
+    Loader {
+        id: menu
+
+        readonly property var made: item
+    }
     Loader {
         id: topics
 

@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Loomstreet.Components
 import Loomstreet.Model
@@ -26,23 +25,48 @@ FocusScope {
 
     function toLatest(): void { list.toLatest() }
 
-    OfflineStrip {
+    // What is not looked at first comes in turns of its own, and what may never be seen when it is to be.
+    Timer {
+        id: next
+
+        property int step: 0
+
+        interval: 0
+        running: true
+        onTriggered: if (++step < 2) start()
+    }
+    // The latest are laid out first, those above them a turn later.
+    Timer {
+        id: rest
+
+        property int step: 0
+
+        interval: 0
+        onTriggered: if (++step < 2) start()
+    }
+    Loader {
         id: strip
 
-        objectName: "strip"
         width: parent.width
-        visible: !thread.empty && thread.mira.failure !== ""
-        offline: thread.app.session.isOffline
-        canRetry: true
-        text: thread.mira.failure
-        onRetry: thread.mira.retry()
+        active: !thread.empty && thread.mira.failure !== ""
+        visible: active
+        sourceComponent: OfflineStrip {
+            // qmllint disable unqualified
+            objectName: "strip"
+            offline: thread.app.session.isOffline
+            canRetry: true
+            text: thread.mira.failure
+            onRetry: thread.mira.retry()
+            // qmllint enable unqualified
+        }
     }
     ChatList {
         id: list
 
         objectName: "thread"
-        anchors { left: parent.left; right: parent.right; top: strip.visible ? strip.bottom : parent.top; bottom: parent.bottom }
+        anchors { left: parent.left; right: parent.right; top: strip.visible ? strip.bottom : parent.top; topMargin: rest.step < 2 ? Math.floor(thread.height / 2) : 0; bottom: parent.bottom }
         visible: count > 0
+        onVisibleChanged: if (visible && rest.step < 2) rest.start()
         focus: true
         model: thread.mira.thread
         name: qsTranslate("Loomstreet", "Conversation with %1").arg(thread.mira.guideName)
@@ -51,6 +75,7 @@ FocusScope {
         end: bottom
 
         delegate: MiraTurn {
+            // qmllint disable unqualified
             x: thread.padding
             width: list.width - 2 * thread.padding
             mira: thread.mira
@@ -60,43 +85,62 @@ FocusScope {
             onAnchorAsked: card => thread.mira.anchorLook(card.handle, card.title)
             onMeasurementsAsked: thread.measurementsAsked()
             onOrderOpened: id => thread.orderOpened(id)
+            // qmllint enable unqualified
         }
     }
-    MiraEnd {
+    Loader {
         id: bottom
 
         x: thread.padding
         width: list.width - 2 * thread.padding
         visible: list.visible
-        mira: thread.mira
-        brief: thread.height < 440
-        onChosen: text => thread.promptChosen(text)
+        active: next.step > 0
+        sourceComponent: MiraEnd {
+            // qmllint disable unqualified
+            mira: thread.mira
+            brief: thread.height < 440
+            onChosen: text => thread.promptChosen(text)
+            // qmllint enable unqualified
+        }
     }
-    JumpButton {
+    Loader {
         anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.space1 }
-        visible: list.visible && !list.follows
-        count: list.unseen
-        onClicked: list.toLatest()
+        active: list.visible && !list.follows
+        sourceComponent: JumpButton {
+            count: list.unseen // qmllint disable unqualified
+            onClicked: list.toLatest() // qmllint disable unqualified
+        }
     }
-    MiraWelcome {
-        objectName: "welcome"
+    Loader {
         anchors.fill: parent
-        visible: thread.welcomes
-        mira: thread.mira
-        onChosen: text => thread.promptChosen(text)
+        active: thread.welcomes && next.step > 1
+        sourceComponent: MiraWelcome {
+            // qmllint disable unqualified
+            objectName: "welcome"
+            mira: thread.mira
+            onChosen: text => thread.promptChosen(text)
+            // qmllint enable unqualified
+        }
     }
-    MiraSkeleton {
+    Loader {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: thread.padding }
-        wanted: thread.loading
+        active: thread.loading && next.step > 0
+        sourceComponent: MiraSkeleton {
+            wanted: true
+        }
     }
-    ErrorState {
-        objectName: "error"
+    Loader {
         anchors.centerIn: parent
         width: Math.min(parent.width, 480)
-        visible: thread.failed
-        takesFocus: false // the shopper may be writing
-        sentence: thread.mira.failure
-        onRetry: thread.mira.retry()
+        active: thread.failed
+        sourceComponent: ErrorState {
+            // qmllint disable unqualified
+            objectName: "error"
+            takesFocus: false // the shopper may be writing
+            sentence: thread.mira.failure
+            onRetry: thread.mira.retry()
+            // qmllint enable unqualified
+        }
     }
     // Above what is read, for a moment.
     FloatingSurface {

@@ -1,8 +1,6 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Loomstreet.Components
 import Loomstreet.Model
-import Loomstreet.Theme
 
 // A message of the conversation with the stylist and what belongs to it: the pieces she shows, the way to all of them
 // as a look, an order, the measurements she asks for.
@@ -18,6 +16,12 @@ ChatBubble {
     readonly property var order: model.order
     // Those of which a size can be chosen.
     readonly property var look: cards.filter(card => card.isLive && !card.isSoldOut).map(card => card.handle)
+    readonly property bool offersLook: !mine && look.length > 1
+    readonly property bool asksMeasurements: !mine && model.asksMeasurements
+
+    readonly property real lookTop: cards.length > 0 ? pieces.height + gap : 0
+    readonly property real orderTop: lookTop + (offersLook ? lookOffer.height + gap : 0)
+    readonly property real measurementsTop: orderTop + (order ? orderPlace.height + gap : 0)
 
     signal pieceOpened(var card, int mode)
     signal lookAsked(var handles)
@@ -36,66 +40,55 @@ ChatBubble {
     onRetryAsked: mira.retryMessage(model.key)
     onRemoveAsked: mira.discardMessage(model.key)
 
+    extrasHeight: Math.max(0, measurementsTop + (asksMeasurements ? measurements.height : -gap))
     extras: [
-        Repeater {
-            model: turn.cards
+        MiraPieces {
+            id: pieces
 
-            MiraCard {
-                required property var modelData
-
-                // The shopper's own stands below their bubble.
-                anchors { left: turn?.mine ? undefined : parent?.left; right: turn?.mine ? parent?.right : undefined }
-                width: Math.min(turn.width, 520)
-                card: modelData
-                wishlist: turn.wishlist
-                onOpened: mode => turn.pieceOpened(modelData, mode)
-                onSizesAsked: turn.lookAsked([modelData.handle])
-                onAnchorAsked: turn.anchorAsked(modelData)
-            }
-        },
-        Item {
             width: turn.width
-            height: lookButton.height
-            visible: !turn.mine && turn.look.length > 1
+            cards: turn.cards
+            mine: turn.mine
+            wishlist: turn.wishlist
+            onOpened: (card, mode) => turn.pieceOpened(card, mode)
+            onSizesAsked: card => turn.lookAsked([card.handle])
+            onAnchorAsked: card => turn.anchorAsked(card)
+        },
+        Loader {
+            id: lookOffer
 
-            PushButton {
-                id: lookButton
-
-                objectName: "look"
-                anchors.left: parent.left
-                size: "small"
-                iconName: "bag"
-                text: qsTranslate("Loomstreet", "Add to Cart")
-                accessibleName: text + ": " + lookNote.text
-                onClicked: turn.lookAsked(turn.look)
-            }
-            TextLabel {
-                id: lookNote
-
-                anchors { left: lookButton.right; leftMargin: Theme.space1; right: parent.right; verticalCenter: parent.verticalCenter }
-                text: qsTranslate("Loomstreet", "See the look: %1 pieces, each in your size").arg(turn.look.length)
-                type: Theme.type.caption
-                color: Theme.muted
-                wrapMode: Text.Wrap
-                maximumLineCount: 2
-                Accessible.ignored: true
+            y: turn.lookTop
+            width: turn.width
+            active: turn.offersLook
+            sourceComponent: MiraLookOffer {
+                pieces: turn.look.length // qmllint disable unqualified
+                onAsked: turn.lookAsked(turn.look) // qmllint disable unqualified
             }
         },
-        MiraOrder {
+        Loader {
+            id: orderPlace
+
             anchors.left: parent?.left
+            y: turn.orderTop
             width: Math.min(turn.width, 520)
-            visible: turn.order !== undefined
-            order: turn.order ?? ({})
-            onClicked: turn.orderOpened(order.id)
+            active: turn.order !== undefined
+            sourceComponent: MiraOrder {
+                order: turn.order ?? ({}) // qmllint disable unqualified
+                onClicked: turn.orderOpened(order.id) // qmllint disable unqualified
+            }
         },
-        PushButton {
-            objectName: "measurements"
+        Loader {
+            id: measurements
+
             anchors.left: parent?.left
-            visible: !turn.mine && turn.model.asksMeasurements
-            size: "small"
-            iconName: "ruler"
-            text: qsTranslate("Loomstreet", "Enter my measurements")
-            onClicked: turn.measurementsAsked()
+            y: turn.measurementsTop
+            active: turn.asksMeasurements
+            sourceComponent: PushButton {
+                objectName: "measurements"
+                size: "small"
+                iconName: "ruler"
+                text: qsTranslate("Loomstreet", "Enter my measurements")
+                onClicked: turn.measurementsAsked() // qmllint disable unqualified
+            }
         }
     ]
 }

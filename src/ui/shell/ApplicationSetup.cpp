@@ -13,13 +13,26 @@
 namespace loom
 {
 
-void prepareApplication(const QString& applicationID)
+namespace
+{
+
+constexpr const char* xcbDriver = "QT_XCB_GL_INTEGRATION";
+
+} // namespace
+
+void prepareApplication(const QString& applicationID, Rendering rendering)
 {
     installRedactingLog();
-    // The web engine, which comes in only with the first web page, needs both from the start.
+    // The web engine, which comes in only with the first web page, needs this from the start, and OpenGL where anything
+    // is drawn with hardware.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+    if (rendering == Rendering::Software) {
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+        // The driver may be what is wrong: it is not so much as loaded.
+        qputenv(xcbDriver, "none");
+    } else if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND")) {
         QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    }
     // Glyphs as the font draws them: sharper at their own size, and the first window need not compute distance fields.
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     QQuickStyle::setStyle(QStringLiteral("Basic"));
@@ -32,6 +45,9 @@ void prepareApplication(const QString& applicationID)
 
 void prepareEngine(QQmlEngine& engine, PictureLoading& pictures)
 {
+    // Read by now, and no affair of the programs that this one starts.
+    if (QQuickWindow::graphicsApi() == QSGRendererInterface::Software)
+        qunsetenv(xcbDriver);
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine.addImportPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../qml"));
     engine.setNetworkAccessManagerFactory(&pictures);

@@ -38,6 +38,7 @@ FocusScope {
         focus: true
         app: dock.app
         session: dock.session
+        docked: true
         shown: dock.visible
         onDeparted: if (dock.covers) dock.close()
 

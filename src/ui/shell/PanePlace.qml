@@ -1,5 +1,6 @@
 import QtQuick
 import Loomstreet.Model
+import Loomstreet.Theme
 
 // The place of what stands beside a page: nothing until it is first wanted, then kept.
 Loader {
@@ -25,4 +26,10 @@ Loader {
     visible: wanted
     onWantedChanged: follow()
     Component.onCompleted: follow() // it may have been there when the window closed
+
+    Rectangle {
+        anchors.fill: parent
+        visible: place.status === Loader.Loading
+        color: Theme.surface
+    }
 }

@@ -15,7 +15,7 @@ SettingsPage {
         objectName: "sharesUsage"
         width: page.width
         text: qsTranslate("Loomstreet", "Help the store choose what to show")
-        note: qsTranslate("Loomstreet", "Tells it which pages and pieces are looked at, put in the bag and bought, without your name. Off, only what is essential is sent.")
+        note: qsTranslate("Loomstreet", "Tells it which pages and pieces are looked at, put in the bag and bought, and when the application ended unexpectedly, without your name. Off, only what is essential is sent.")
         checked: page.settings.sharesUsage
         onToggled: page.settings.sharesUsage = checked
     }

@@ -16,6 +16,7 @@ Window {
         { id: "general", title: qsTranslate("Loomstreet", "General"), icon: "gear" },
         { id: "account", title: qsTranslate("Loomstreet", "Account"), icon: "person.crop.circle" },
         { id: "notifications", title: qsTranslate("Loomstreet", "Notifications"), icon: "bell" },
+        { id: "sound", title: qsTranslate("Loomstreet", "Sound"), icon: "speaker" },
         { id: "appearance", title: qsTranslate("Loomstreet", "Appearance"), icon: "sun" },
         { id: "privacy", title: qsTranslate("Loomstreet", "Privacy"), icon: "lock" }
     ]
@@ -112,7 +113,7 @@ Window {
             Item {
                 id: sheet
 
-                readonly property Item shown: [general, account, notifications, appearance, privacy][window.current]
+                readonly property Item shown: [general, account, notifications, sound, appearance, privacy][window.current]
 
                 anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.space4; topMargin: Theme.space3 }
                 height: shown.implicitHeight
@@ -138,6 +139,14 @@ Window {
                     width: parent.width
                     visible: sheet.shown === this
                     app: window.app
+                }
+                SoundSettings {
+                    id: sound
+
+                    width: parent.width
+                    visible: sheet.shown === this
+                    app: window.app
+                    shown: visible && window.visible
                 }
                 AppearanceSettings {
                     id: appearance

@@ -12,6 +12,8 @@ ChatBubble {
     required property var model
     property SupportChatModel support
 
+    readonly property var files: model.attachments ?? []
+
     mine: model.isMine
     text: model.text
     timeLabel: model.timeLabel
@@ -22,23 +24,34 @@ ChatBubble {
     onRetryAsked: support.retryMessage(model.key)
     onRemoveAsked: support.discardMessage(model.key)
 
-    extras: [
+    extrasHeight: column.visible ? column.height : 0
+    extras: Column {
+        id: column
+
+        // A list asks for the height at once, before a column lays itself out.
+        function layOut(): void { forceLayout() }
+
+        width: turn.width
+        visible: !turn.mine || turn.files.length > 0
+        spacing: turn.gap
+        Component.onCompleted: layOut()
+
         Repeater {
-            model: turn.model.attachments
+            model: turn.files
+            onModelChanged: column.layOut()
 
             SupportAttached {
                 required property var modelData
                 required property int index
 
                 objectName: "attachment." + index
-                anchors.left: turn.mine ? undefined : parent?.left
-                anchors.right: turn.mine ? parent?.right : undefined
+                x: turn.atLeft ? 0 : turn.width - width
                 room: Math.min(turn.width, 280)
                 attachment: modelData
                 sending: turn.sending
                 onClicked: turn.support.openAttachment(turn.model.key, index)
             }
-        },
+        }
         TextLabel {
             objectName: "agent"
             anchors.left: parent?.left
@@ -50,5 +63,5 @@ ChatBubble {
             color: Theme.muted
             Accessible.ignored: true
         }
-    ]
+    }
 }

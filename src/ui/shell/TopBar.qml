@@ -115,6 +115,13 @@ Item {
             shortcut: "Ctrl Shift I"
             onClicked: bar.session.isInboxOpen = !bar.session.isInboxOpen
         }
+        CallSign {
+            objectName: "callSign"
+            anchors.verticalCenter: parent.verticalCenter
+            visible: call.isActive && (call.isWindowShown || !bar.session.isMiraDocked)
+            call: bar.app.call
+            brief: bar.narrow
+        }
         IconButton {
             objectName: "mira"
             anchors.verticalCenter: parent.verticalCenter

@@ -80,6 +80,7 @@ WindowManager::~WindowManager()
 {
     delete m_settings;
     delete m_mira;
+    delete m_call;
     qDeleteAll(m_checkouts);
     qDeleteAll(m_windows);
     // The pages that lists let go of are to be deleted later, and this is the last moment at which what they show is
@@ -167,6 +168,14 @@ void WindowManager::showMira()
         bringForward(m_mira);
 }
 
+void WindowManager::showCall()
+{
+    if (!m_call)
+        m_call = create(QStringLiteral("CallWindow"), {});
+    if (m_call)
+        bringForward(m_call);
+}
+
 bool WindowManager::hasVisibleWindow() const
 {
     return std::ranges::any_of(m_windows, [](const auto& window) { return window && window->isVisible(); });
@@ -180,6 +189,7 @@ void WindowManager::applyWindowStyle()
         applyStyle(window);
     applyStyle(m_settings);
     applyStyle(m_mira);
+    applyStyle(m_call);
 }
 
 void WindowManager::retranslate()
@@ -192,6 +202,7 @@ void WindowManager::retranslate()
         evaluateAgain(window);
     evaluateAgain(m_settings);
     evaluateAgain(m_mira);
+    evaluateAgain(m_call);
 }
 
 QQuickWindow* WindowManager::windowOf(const WindowSession& session) const

@@ -34,6 +34,7 @@ public:
     void showSettings() override;
     void showCheckout(CheckoutModel& checkout) override;
     void showMira() override;
+    void showCall() override;
     [[nodiscard]] bool hasVisibleWindow() const override;
     void applyWindowStyle() override;
 
@@ -66,6 +67,7 @@ private:
     QHash<const CheckoutModel*, QPointer<QQuickWindow>> m_checkouts;
     QPointer<QQuickWindow> m_settings;
     QPointer<QQuickWindow> m_mira;
+    QPointer<QQuickWindow> m_call;
 };
 
 } // namespace loom

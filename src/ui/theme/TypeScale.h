@@ -30,6 +30,8 @@ class TypeScale : public QObject
     Q_PROPERTY(loom::TypeStyle* heading MEMBER m_heading CONSTANT FINAL)
     Q_PROPERTY(loom::TypeStyle* section MEMBER m_section CONSTANT FINAL)
     Q_PROPERTY(loom::TypeStyle* panel MEMBER m_panel CONSTANT FINAL)
+    Q_PROPERTY(loom::TypeStyle* spoken MEMBER m_spoken CONSTANT FINAL)
+    Q_PROPERTY(loom::TypeStyle* spokenBefore MEMBER m_spokenBefore CONSTANT FINAL)
     Q_PROPERTY(loom::TypeStyle* wordmark MEMBER m_wordmark CONSTANT FINAL)
     Q_PROPERTY(loom::TypeStyle* body MEMBER m_body CONSTANT FINAL)
     Q_PROPERTY(loom::TypeStyle* bodyStrong MEMBER m_bodyStrong CONSTANT FINAL)
@@ -67,6 +69,8 @@ private:
     TypeStyle* m_heading = style({.face = &displayFace, .size = 30, .line = 36, .weight = 400});
     TypeStyle* m_section = style({.face = &displayFace, .size = 24, .line = 30, .weight = 400});
     TypeStyle* m_panel = style({.face = &displayFace, .size = 22, .line = 28, .weight = 500});
+    TypeStyle* m_spoken = style({.face = &displayFace, .size = 20, .line = 27, .weight = 400});
+    TypeStyle* m_spokenBefore = style({.face = &displayFace, .size = 18, .line = 25, .weight = 400});
     TypeStyle* m_wordmark = style({.face = &displayFace,
                                    .size = 19,
                                    .line = 24,

@@ -83,6 +83,21 @@ QJsonArray Sandbox::messages()
     return ask("GET", QStringLiteral("/stylist"))[u"received"].toArray();
 }
 
+void Sandbox::setVoice(const QJsonObject& settings)
+{
+    tell(QStringLiteral("/voice"), settings);
+}
+
+void Sandbox::stepIn(const QString& what, const QJsonObject& how)
+{
+    tell(QStringLiteral("/voice/") + what, how);
+}
+
+QJsonArray Sandbox::calls()
+{
+    return ask("GET", QStringLiteral("/voice"))[u"calls"].toArray();
+}
+
 void Sandbox::expireCarts()
 {
     tell(QStringLiteral("/carts/expire"), {});

@@ -57,6 +57,12 @@ public:
     void setStylist(const QJsonObject& settings);
     /// What was written to her, oldest first, as it came.
     [[nodiscard]] QJsonArray messages();
+    /// Has her voice line behave in another way, by the settings that the store's README names.
+    void setVoice(const QJsonObject& settings);
+    /// Has something happen in the call under way: what the README names below "/voice/".
+    void stepIn(const QString& what, const QJsonObject& how);
+    /// What she knows of the last calls, the latest last.
+    [[nodiscard]] QJsonArray calls();
     /// Tells a customer something, by the members that the store's README names. Returns under which identifiers.
     QStringList notify(const QJsonObject& notification);
     /// What a customer was told, the newest first.

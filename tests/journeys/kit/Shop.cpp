@@ -54,7 +54,9 @@ Shop::Shop(const Sandbox& sandbox, const Circumstances& circumstances)
                .makeSystemSecrets = {},
                .location = m_location,
                .desktopNotifications = circumstances.desktop ? *circumstances.desktop : m_desktop,
-               .launcherBadge = m_badge})
+               .launcherBadge = m_badge,
+               .voiceAudio = circumstances.voiceAudio ? *circumstances.voiceAudio : m_voiceAudio,
+               .muteKey = m_muteKey})
     , m_windows(m_engine, m_model, m_appearance)
 {
     m_location.canLocate = false;
@@ -97,6 +99,11 @@ WindowDriver Shop::settingsWindow()
 WindowDriver Shop::miraWindow()
 {
     return awaitWindow(QStringLiteral("miraWindow"), "the stylist's window is open");
+}
+
+WindowDriver Shop::callWindow()
+{
+    return awaitWindow(QStringLiteral("callWindow"), "the call's window is open");
 }
 
 WindowDriver Shop::checkoutWindow()

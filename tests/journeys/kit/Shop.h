@@ -8,9 +8,11 @@
 #include "kit/Sandbox.h"
 #include "kit/WindowDriver.h"
 #include "support/FakeDesktopNotifications.h"
+#include "support/FakeGlobalKey.h"
 #include "support/FakeLocation.h"
 #include "support/FakeNetworkStatus.h"
 #include "support/FakeRandom.h"
+#include "support/FakeVoiceAudio.h"
 #include "ui/shell/PictureLoading.h"
 #include "ui/shell/WindowManager.h"
 
@@ -44,6 +46,7 @@ struct Circumstances {
     Clock* clock = nullptr; ///< the system's, unless a test moves one
     QString region = QStringLiteral("US");
     DesktopNotifications* desktop = nullptr; ///< one of its own, unless a test has another
+    VoiceAudio* voiceAudio = nullptr;        ///< likewise
     QString folder;                          ///< where its files are, to come back to them; else in one of its own
 };
 
@@ -63,6 +66,8 @@ public:
     WindowDriver settingsWindow();
     /// The stylist's own window, once it can be seen.
     WindowDriver miraWindow();
+    /// The window of a call with her, once it can be seen.
+    WindowDriver callWindow();
     /// The window of the checkout, once it can be seen.
     WindowDriver checkoutWindow();
     /// Those that can be seen.
@@ -79,6 +84,8 @@ public:
     [[nodiscard]] FakeNetworkStatus& network() { return m_network; }
     [[nodiscard]] FakeDesktopNotifications& desktop() { return m_desktop; }
     [[nodiscard]] FakeLauncherBadge& badge() { return m_badge; }
+    [[nodiscard]] FakeVoiceAudio& voiceAudio() { return m_voiceAudio; }
+    [[nodiscard]] FakeGlobalKey& muteKey() { return m_muteKey; }
     [[nodiscard]] FakeAppearance& appearance() { return m_appearance; }
     [[nodiscard]] const QList<QUrl>& openedInBrowser() const { return m_openedInBrowser; }
 
@@ -91,6 +98,8 @@ private:
     FakeLocation m_location;
     FakeDesktopNotifications m_desktop;
     FakeLauncherBadge m_badge;
+    FakeVoiceAudio m_voiceAudio;
+    FakeGlobalKey m_muteKey;
     FakeAppearance m_appearance;
     QList<QUrl> m_openedInBrowser;
     PictureLoading m_pictures;

@@ -127,6 +127,35 @@ TestCase {
         compare(list.unseen, 0)
     }
 
+    function test_anItemThatIsGivenAnotherMessageShowsNothingOfTheFirst() {
+        const model = createTemporaryObject(messages, test)
+        for (let i = 0; i < 200; ++i)
+            model.say(i === 199 ? "word ".repeat(2000) : i % 2 === 0 ? "Short " + i : lines(4), i % 2 === 0)
+        const list = createTemporaryObject(lists, test, { model: model })
+        tryVerify(() => list.atLatest)
+        mouseClick(findChild(list.itemAtIndex(0), "expand"))
+        verify(list.itemAtIndex(0).expanded)
+        list.forceActiveFocus()
+        for (const keys of [Array(60).fill(Qt.Key_PageUp), [Qt.Key_Home], [Qt.Key_End]]) {
+            for (const key of keys)
+                keyClick(key)
+            settle(list)
+            const shown = Array.from(list.contentItem.children).filter(child => child instanceof ChatBubble && child.visible)
+            verify(shown.length > 0 && shown.length < 20)
+            for (const bubble of shown) {
+                const row = model.get(bubble.model.index)
+                compare(bubble.text, row.words)
+                verify(!bubble.expanded)
+                const ground = findChild(bubble, "ground")
+                const text = findChild(bubble, "text")
+                compare(ground.visible, row.mine)
+                compare(text.width, row.mine ? Math.ceil(text.implicitWidth) : 400)
+                compare(text.x, row.mine ? 400 - text.width - Theme.space1_5 : 0)
+            }
+            compare(new Set(shown.map(bubble => bubble.y)).size, shown.length)
+        }
+    }
+
     Component { id: bubbles; ChatBubble { width: 400 } }
     function test_aBubbleIsAsWideAsItsWordsAndNoWiderThanItMay() {
         const bubble = createTemporaryObject(bubbles, test, { mine: true, text: "Hello" })

@@ -1,13 +1,4 @@
-#include "ui/shell/WindowManager.h"
-
-#include "TestEngine.h"
-#include "app/AppFixture.h"
-#include "app/SystemAppearance.h"
-
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QTest>
+#include "WindowFixture.h"
 
 namespace loom
 {
@@ -15,60 +6,11 @@ namespace loom
 namespace
 {
 
-class PlainAppearance final : public SystemAppearance
-{
-public:
-    [[nodiscard]] bool isDark() const override { return false; }
-    [[nodiscard]] bool reducesMotion() const override { return true; }
-    [[nodiscard]] bool isRightToLeft() const override { return false; }
-    [[nodiscard]] double textScale() const override { return 1; }
-};
-
-/// The real windows, in front of a store that has nothing.
-class WindowManagerTest : public AppFixture
-{
-protected:
-    WindowManagerTest()
-    {
-        prepareTestEngine(engine);
-        start();
-        windows.emplace(engine, *model, appearance);
-        model->setWindowHost(&*windows);
-    }
-    ~WindowManagerTest() override
-    {
-        while (!model->windows().empty())
-            model->closeWindow(model->windows().front().get());
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        drainEvents();
-    }
-
-    QQuickWindow& open(const WindowSeed& seed)
-    {
-        QQuickWindow* const window = windows->windowOf(model->openWindow(seed));
-        if (!window || !QTest::qWaitForWindowActive(window))
-            throw std::runtime_error("no window came to the front");
-        return *window;
-    }
-    static const QQuickItem* find(const QString& name, const QQuickItem* below)
-    {
-        if (below->objectName() == name)
-            return below;
-        for (const QQuickItem* const child : below->childItems()) {
-            if (const QQuickItem* const found = find(name, child))
-                return found;
-        }
-        return nullptr;
-    }
-
-    PlainAppearance appearance;
-    QQmlEngine engine;
-    std::optional<WindowManager> windows;
-};
+using WindowManagerTest = WindowFixture;
 
 TEST_F(WindowManagerTest, AWindowShowsWhatWasAskedForBeforeItWasThere)
 {
-    const QQuickWindow& window = open({.link = QStringLiteral("loomstreet://cart")});
+    QQuickWindow& window = open({.link = QStringLiteral("loomstreet://cart")});
     const QQuickItem* const panel = find(QStringLiteral("cartPanel"), window.contentItem());
     ASSERT_NE(panel, nullptr);
     EXPECT_TRUE(panel->property("open").toBool());

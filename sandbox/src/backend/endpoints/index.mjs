@@ -1,6 +1,7 @@
 import { addAlert, listAlerts, removeAlert } from './alerts.mjs';
 import { prepareCheckout, revokeCheckout, startCheckout } from './checkout.mjs';
 import { readConfig } from './config.mjs';
+import { reportCrash } from './crashReports.mjs';
 import { listNotifications, readNotifications } from './notifications.mjs';
 import { listOrders, trackParcel } from './orders.mjs';
 import { readProfile, updateProfile } from './profile.mjs';
@@ -25,5 +26,5 @@ export const endpoints = [
   listNotifications, readNotifications, openSupport, writeSupport, uploadSupport, supportReplies, readSupport,
   prepareCheckout, revokeCheckout, startCheckout, track, wishlistSync,
   openThread, sendMessage, readGuide, recommendSize, readWeather,
-  feed, companions, rails, searchAI, productStats, brandStats, readConfig,
+  feed, companions, rails, searchAI, productStats, brandStats, readConfig, reportCrash,
 ];
