@@ -37,7 +37,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, Shortcut& shortcu
     argument.beginStructure();
     argument >> shortcut.id >> shortcut.properties;
     argument.endStructure();
-    return argument;
+    return argument; // NOLINT: as every reading operator does
 }
 
 /// What the desktop calls the key that it bound in the end.

@@ -53,6 +53,7 @@ QCoro::Task<bool> PulseVoiceAudio::requestAccess(std::stop_token)
     co_return true;
 }
 
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-reference-coroutine-parameters): the flow lives until close()
 QCoro::Task<VoiceAudio::Opened> PulseVoiceAudio::open(Choice choice, VoiceFlow& flow, std::stop_token stop)
 {
     close();

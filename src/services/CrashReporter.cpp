@@ -23,7 +23,7 @@ namespace
 const QString waitingFile = QStringLiteral("lst_crash_reports");
 
 /// What is written of reports as large as can be sent.
-constexpr qsizetype maximumFileBytes = 1024 * 1024;
+constexpr qsizetype maximumFileBytes = qsizetype{1024} * 1024;
 
 std::vector<CrashReport> readWaiting(const std::optional<QByteArray>& bytes)
 {

@@ -152,8 +152,9 @@ QString readable(const QByteArray& words)
 } // namespace
 
 LastWords::LastWords(QString folder)
-    : m_path(std::move(folder) + QStringLiteral("/lst_last_words"))
+    : m_path(std::move(folder))
 {
+    m_path += QStringLiteral("/lst_last_words");
 }
 
 LastWords::~LastWords()

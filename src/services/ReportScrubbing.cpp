@@ -91,9 +91,8 @@ QString visible(const QString& text)
     QString kept;
     kept.reserve(text.size());
     for (const QChar character : text) {
-        if (character == QLatin1Char('\n') || character == QLatin1Char('\t'))
-            kept += character;
-        else if (character.category() == QChar::Other_Control)
+        const bool isBreak = character == QLatin1Char('\n') || character == QLatin1Char('\t');
+        if (!isBreak && character.category() == QChar::Other_Control)
             kept += QLatin1Char(' ');
         else if (character.category() != QChar::Other_Format)
             kept += character;
