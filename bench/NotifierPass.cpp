@@ -1,9 +1,10 @@
 // A look of the notifier at 1,000 notifications of an account with a full ledger: what it takes of the main thread.
 
+#include "Connected.h"
+
 #include "base/Clock.h"
 #include "base/Random.h"
 #include "base/SystemClock.h"
-#include "net/NetworkStatus.h"
 #include "notify/DesktopNotifier.h"
 #include "notify/InboxNotices.h"
 #include "notify/NotificationBannerCenter.h"
@@ -20,13 +21,6 @@ namespace
 {
 
 constexpr int items = 1000;
-
-class Connected final : public NetworkStatus
-{
-public:
-    [[nodiscard]] bool isOffline() const override { return false; }
-    [[nodiscard]] bool isMetered() const override { return false; }
-};
 
 class SilentDesktop final : public DesktopNotifications
 {

@@ -1,10 +1,11 @@
+#include "Connected.h"
+
 #include "base/SystemClock.h"
 #include "catalog/MarketStore.h"
 #include "catalog/RecentSearches.h"
 #include "catalog/StorefrontAPI.h"
 #include "commerce/SuggestionsModel.h"
 #include "net/HttpTransport.h"
-#include "net/NetworkStatus.h"
 #include "storage/DataFolder.h"
 #include "storage/Preferences.h"
 
@@ -17,14 +18,6 @@ using namespace loom;
 
 namespace
 {
-
-/// Never offline nor dear; and never asked, because no answer is waited for.
-class Network final : public NetworkStatus
-{
-public:
-    [[nodiscard]] bool isOffline() const override { return false; }
-    [[nodiscard]] bool isMetered() const override { return false; }
-};
 
 std::vector<ProductHit> pieces(int count, const char* kept)
 {
@@ -56,7 +49,7 @@ void keyInSearch(benchmark::State& state, const char* typed)
 {
     QTemporaryDir home;
     SystemClock clock;
-    Network network;
+    Connected network;
     DataFolder folder(home.path());
     Preferences preferences(folder);
     HttpTransport transport(clock, network);

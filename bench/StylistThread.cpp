@@ -1,3 +1,5 @@
+#include "Connected.h"
+
 #include "base/Random.h"
 #include "base/SystemClock.h"
 #include "catalog/DateFormat.h"
@@ -5,7 +7,6 @@
 #include "catalog/MoneyFormat.h"
 #include "catalog/StorefrontAPI.h"
 #include "net/HttpTransport.h"
-#include "net/NetworkStatus.h"
 #include "storage/DataFolder.h"
 #include "storage/Preferences.h"
 #include "stylist/MiraCards.h"
@@ -21,14 +22,6 @@ using namespace loom;
 
 namespace
 {
-
-/// Never offline nor dear; and never asked, because no answer is waited for.
-class Network final : public NetworkStatus
-{
-public:
-    [[nodiscard]] bool isOffline() const override { return false; }
-    [[nodiscard]] bool isMetered() const override { return false; }
-};
 
 /// A conversation of `count` messages, every other one the shopper's, each reply with three pieces.
 std::vector<MiraMessage> conversation(int count)
@@ -60,7 +53,7 @@ struct Desk {
     QTemporaryDir home;
     SystemClock clock;
     SystemRandom random;
-    Network network;
+    Connected network;
     DataFolder folder{home.path()};
     Preferences preferences{folder};
     HttpTransport transport{clock, network};

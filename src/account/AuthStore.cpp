@@ -63,8 +63,8 @@ void AuthStore::load()
     if (m_phase != Phase::Unknown)
         return;
     setStuck(false);
+    static_cast<void>(watchForSilence()); // first: what is read at once ends it
     static_cast<void>(readSession());
-    static_cast<void>(watchForSilence());
 }
 
 QCoro::Task<> AuthStore::readSession()

@@ -18,13 +18,13 @@ namespace loom
 namespace
 {
 
-/// Each piece once, no more of them than travel.
+/// Each piece once.
 class Pieces
 {
 public:
     void add(const QString& title, const QString& handle)
     {
-        if (!handle.isEmpty() && m_pieces.size() < MiraVoiceOpening::mostPieces && !m_handles.contains(handle)) {
+        if (!handle.isEmpty() && !m_handles.contains(handle)) {
             m_handles.insert(handle);
             m_pieces.push_back({.title = title, .handle = handle});
         }

@@ -1,6 +1,7 @@
 #include "platform/DesktopAppearance.h"
 
 #include "base/Log.h"
+#include "platform/PortalRequest.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -17,8 +18,6 @@ namespace loom
 namespace
 {
 
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
 
 const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
@@ -55,7 +54,7 @@ DesktopAppearance::DesktopAppearance(QObject* parent)
         return;
     // The slot is found by the names of its types, and this one's is not known by itself.
     qRegisterMetaType<QDBusVariant>();
-    if (!bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+    if (!bus.connect(PortalRequest::service, PortalRequest::root, interface, QStringLiteral("SettingChanged"), this,
                      SLOT(settingChanged(QString, QString, QDBusVariant))))
         qCWarning(logPlatform) << "cannot follow the desktop's settings";
     read(appearanceGroup, colourSchemeKey);
@@ -70,7 +69,7 @@ bool DesktopAppearance::isRightToLeft() const
 
 void DesktopAppearance::read(const QString& group, const QString& key)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
+    QDBusMessage call = PortalRequest::call(interface, "Read");
     call << group << key;
     auto* const watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, group, key] {

@@ -9,14 +9,6 @@
 namespace loom
 {
 
-namespace
-{
-
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString root = QStringLiteral("/org/freedesktop/portal/desktop");
-
-} // namespace
-
 QDBusMessage PortalRequest::call(const QString& interface, const char* method)
 {
     return QDBusMessage::createMethodCall(service, root, interface, QLatin1String(method));

@@ -25,6 +25,10 @@ class PortalRequest final : public QObject
     Q_OBJECT
 
 public:
+    /// Where desktops keep their portals.
+    inline static const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
+    inline static const QString root = QStringLiteral("/org/freedesktop/portal/desktop");
+
     /// `call`: all but its options, which come last. `token`: of letters, and of no other question that is open.
     [[nodiscard]] static QCoro::Task<PortalAnswer> ask(QDBusConnection bus, QDBusMessage call, QVariantMap options,
                                                        QString token, std::stop_token stop);

@@ -12,8 +12,6 @@ namespace loom
 namespace
 {
 
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString root = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString interface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
 const QString sessionInterface = QStringLiteral("org.freedesktop.portal.Session");
 const QString shortcutID = QStringLiteral("mute");
@@ -81,7 +79,7 @@ QCoro::Task<PortalShortcut::Outcome> PortalShortcut::bind(QString purpose, std::
         co_return created.isAsked ? Outcome::Refused : Outcome::Absent;
     }
     const QString given = created.result->value(QStringLiteral("session_handle")).toString();
-    if (given.startsWith(root))
+    if (given.startsWith(PortalRequest::root))
         m_session = given;
     follow(true);
 
@@ -111,12 +109,14 @@ void PortalShortcut::follow(bool isFollowing)
 {
     const QString signature = QStringLiteral("Activated");
     if (!isFollowing) {
-        m_bus.disconnect(service, root, interface, signature, this,
+        m_bus.disconnect(PortalRequest::service, PortalRequest::root, interface, signature, this,
                          SLOT(activated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
-        m_bus.disconnect(service, m_session, sessionInterface, QStringLiteral("Closed"), this, SLOT(closed()));
-    } else if (!m_bus.connect(service, root, interface, signature, this,
+        m_bus.disconnect(PortalRequest::service, m_session, sessionInterface, QStringLiteral("Closed"), this,
+                         SLOT(closed()));
+    } else if (!m_bus.connect(PortalRequest::service, PortalRequest::root, interface, signature, this,
                               SLOT(activated(QDBusObjectPath, QString, qulonglong, QVariantMap))) ||
-               !m_bus.connect(service, m_session, sessionInterface, QStringLiteral("Closed"), this, SLOT(closed()))) {
+               !m_bus.connect(PortalRequest::service, m_session, sessionInterface, QStringLiteral("Closed"), this,
+                              SLOT(closed()))) {
         qCWarning(logPlatform) << "cannot follow the desktop's shortcuts";
     }
 }
@@ -126,7 +126,8 @@ void PortalShortcut::release()
     if (m_session.isEmpty())
         return;
     follow(false);
-    QDBusMessage close = QDBusMessage::createMethodCall(service, m_session, sessionInterface, QStringLiteral("Close"));
+    QDBusMessage close =
+        QDBusMessage::createMethodCall(PortalRequest::service, m_session, sessionInterface, QStringLiteral("Close"));
     close.setAutoStartService(false);
     m_bus.send(close);
     closed();

@@ -15,12 +15,6 @@ namespace
 
 constexpr int questions = 3; // the server, its sources, its sinks
 
-void forget(pa_operation* operation)
-{
-    if (operation)
-        pa_operation_unref(operation);
-}
-
 QString text(const pa_proplist* properties, const char* key)
 {
     return QString::fromUtf8(pa_proplist_gets(properties, key));
@@ -157,7 +151,7 @@ void PulseConnection::subscribe()
     const auto what = m_isFollowing
                           ? PA_SUBSCRIPTION_MASK_SOURCE | PA_SUBSCRIPTION_MASK_SINK | PA_SUBSCRIPTION_MASK_SERVER
                           : PA_SUBSCRIPTION_MASK_NULL;
-    forget(pa_context_subscribe(m_context, static_cast<pa_subscription_mask_t>(what), nullptr, nullptr));
+    PulseLoop::forget(pa_context_subscribe(m_context, static_cast<pa_subscription_mask_t>(what), nullptr, nullptr));
 }
 
 void PulseConnection::gather()
@@ -170,7 +164,7 @@ void PulseConnection::gather()
     m_isStale = false;
     m_gathered = {};
     m_missing = questions;
-    forget(pa_context_get_server_info(
+    PulseLoop::forget(pa_context_get_server_info(
         m_context,
         [](pa_context*, const pa_server_info* info, void* data) {
             auto* const self = static_cast<PulseConnection*>(data);
@@ -181,7 +175,7 @@ void PulseConnection::gather()
             self->gathered();
         },
         this));
-    forget(pa_context_get_source_info_list(
+    PulseLoop::forget(pa_context_get_source_info_list(
         m_context,
         [](pa_context*, const pa_source_info* info, int isEnd, void* data) {
             auto* const self = static_cast<PulseConnection*>(data);
@@ -194,7 +188,7 @@ void PulseConnection::gather()
             self->m_gathered.sources.push_back(std::move(device));
         },
         this));
-    forget(pa_context_get_sink_info_list(
+    PulseLoop::forget(pa_context_get_sink_info_list(
         m_context,
         [](pa_context*, const pa_sink_info* info, int isEnd, void* data) {
             auto* const self = static_cast<PulseConnection*>(data);

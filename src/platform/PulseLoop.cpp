@@ -1,5 +1,6 @@
 #include "platform/PulseLoop.h"
 
+#include <pulse/operation.h>
 #include <pulse/thread-mainloop.h>
 
 namespace loom
@@ -8,6 +9,12 @@ namespace loom
 PulseLoop::PulseLoop()
     : m_loop(pa_threaded_mainloop_new())
 {
+}
+
+void PulseLoop::forget(pa_operation* operation)
+{
+    if (operation)
+        pa_operation_unref(operation);
 }
 
 PulseLoop::~PulseLoop()

@@ -1,6 +1,7 @@
 #pragma once
 
 struct pa_mainloop_api;
+struct pa_operation;
 struct pa_threaded_mainloop;
 
 namespace loom
@@ -18,6 +19,9 @@ public:
     /// False where the system has no thread left.
     [[nodiscard]] bool start();
     [[nodiscard]] pa_mainloop_api* api() const;
+
+    /// What was asked goes on, and nobody waits for it. Null is nothing.
+    static void forget(pa_operation* operation);
 
     /// While one lives, nothing happens on the thread. May be taken again by who has it, and on the thread itself.
     class Lock

@@ -48,18 +48,12 @@ pa_buffer_attr buffers(PulseStream::Direction direction, int rate)
     return buffers;
 }
 
-void forget(pa_operation* operation)
-{
-    if (operation)
-        pa_operation_unref(operation);
-}
-
 /// Has it told, once, when the server has said anew how late the stream is. Not by the answer to the question itself:
 /// that still comes when nobody owns the stream any more.
 void onceTimed(pa_stream* stream, pa_stream_notify_cb_t told, void* self)
 {
     pa_stream_set_latency_update_callback(stream, told, self);
-    forget(pa_stream_update_timing_info(stream, nullptr, nullptr));
+    PulseLoop::forget(pa_stream_update_timing_info(stream, nullptr, nullptr));
 }
 
 /// A stream that is just being made cannot be ended: the server would make it all the same, and a microphone would stay
@@ -172,7 +166,7 @@ void PulseStream::flush()
 {
     const PulseLoop::Lock lock(m_loop);
     if (m_stream && pa_stream_get_state(m_stream) == PA_STREAM_READY)
-        forget(pa_stream_flush(m_stream, nullptr, nullptr));
+        PulseLoop::forget(pa_stream_flush(m_stream, nullptr, nullptr));
 }
 
 void PulseStream::streamChanged()

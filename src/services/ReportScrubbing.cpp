@@ -124,9 +124,10 @@ QString scrubbed(const QString& text, const QString& home)
             parts.append(
                 QStringLiteral("(?:%1|%2)").arg(QRegularExpression::escape(part), QRegularExpression::escape(encoded)));
         }
-        const QString pattern = parts.join(slash) + QStringLiteral(R"re((?![\w-]))re") + restOfPath;
-        result.replace(QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption),
-                       QStringLiteral("[path]"));
+        // As any home is written. Its paths go later: with the blanks they may hold, they could take along the name by
+        // which a secret after them is known.
+        const QString pattern = parts.join(slash) + QStringLiteral(R"re((?![\w-]))re");
+        result.replace(QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption), QStringLiteral("~/"));
     }
     // Before addresses go, which may lie around a secret, and with it the name it is known by.
     apply(unfinishedSecret(), result);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QObject>
 
 #include <optional>
@@ -22,6 +23,9 @@ public:
 
     bool operator==(const MiraWeather&) const = default;
 };
+
+/// As it is kept, and as the stylist is told of it.
+[[nodiscard]] QJsonObject toJson(const MiraWeather& weather);
 
 } // namespace loom
 

@@ -50,17 +50,6 @@ MiraWeather readWeather(const JsonReader& json)
     return weather;
 }
 
-QJsonObject toJson(const MiraWeather& weather)
-{
-    QJsonObject json{{QStringLiteral("city"), weather.city},
-                     {QStringLiteral("temperature"), weather.temperature},
-                     {QStringLiteral("wind"), weather.wind},
-                     {QStringLiteral("rainChance"), weather.rainChance}};
-    if (weather.code)
-        json.insert(QStringLiteral("code"), *weather.code);
-    return json;
-}
-
 } // namespace
 
 MiraWeatherStore::MiraWeatherStore(Services services, QObject* parent)

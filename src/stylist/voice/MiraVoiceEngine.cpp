@@ -1,12 +1,13 @@
 #include "stylist/voice/MiraVoiceEngine.h"
 
+#include "stylist/voice/Loudness.h"
+
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 #include <utility>
 
 namespace loom
@@ -32,17 +33,10 @@ int rateOr(int rate)
     return rate > 0 ? rate : voiceFormat::sampleRate;
 }
 
-float rootMeanSquare(std::span<const float> samples)
-{
-    const float power = std::inner_product(samples.begin(), samples.end(), samples.begin(), 0.0F);
-    return std::sqrt(power / static_cast<float>(samples.size()));
-}
-
-/// From 0 to 1: 50 decibels, as ears have them. Falls slowly, so that a meter can be read.
+/// Falls slowly, so that a meter can be read.
 float shownLevel(float level, float before)
 {
-    const float decibels = 20 * std::log10(level + 1e-6F);
-    return std::max(std::clamp((decibels + 60) / 50, 0.0F, 1.0F), 0.9F * before);
+    return std::max(shownLoudness(level), 0.9F * before);
 }
 
 } // namespace

@@ -30,17 +30,6 @@ QJsonArray piecesJson(const std::vector<MiraVoicePiece>& pieces)
     return json;
 }
 
-QJsonObject weatherJson(const MiraWeather& weather)
-{
-    QJsonObject json{{QStringLiteral("city"), weather.city},
-                     {QStringLiteral("temperature"), weather.temperature},
-                     {QStringLiteral("wind"), weather.wind},
-                     {QStringLiteral("rainChance"), weather.rainChance}};
-    if (weather.code)
-        json.insert(QStringLiteral("code"), *weather.code);
-    return json;
-}
-
 } // namespace
 
 QJsonObject MiraVoiceOpening::toJson() const
@@ -62,7 +51,7 @@ QJsonObject MiraVoiceOpening::toJson() const
         json.insert(QStringLiteral("email"), email);
     if (weather) {
         json.insert(QStringLiteral("city"), known(weather->city));
-        json.insert(QStringLiteral("weather"), weatherJson(*weather));
+        json.insert(QStringLiteral("weather"), loom::toJson(*weather));
     }
     return json;
 }

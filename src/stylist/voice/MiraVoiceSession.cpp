@@ -158,17 +158,22 @@ void MiraVoiceSession::begin()
         static_cast<void>(place());
 }
 
+QCoro::Task<bool> MiraVoiceSession::openDevices(std::stop_token stop)
+{
+    const auto failure = co_await m_audio.start(devices(), stop);
+    if (stop.stop_requested())
+        co_return false;
+    if (failure)
+        end(miraVoiceFailure(*failure));
+    co_return !failure;
+}
+
 QCoro::Task<> MiraVoiceSession::place()
 {
     const Work::Run run = m_placing.begin();
     // Asks for the microphone first; the line is not even opened before it hears.
-    const auto failure = co_await m_audio.start(devices(), run.stop());
-    if (run.isStopped())
+    if (!co_await openDevices(run.stop()))
         co_return;
-    if (failure) {
-        end(miraVoiceFailure(*failure));
-        co_return;
-    }
     static_cast<void>(measure());
     Q_EMIT stateChanged();
     if (run.isStopped())
@@ -186,13 +191,8 @@ QCoro::Task<> MiraVoiceSession::place()
 QCoro::Task<> MiraVoiceSession::changeDevices()
 {
     const Work::Run run = m_changing.begin();
-    const auto failure = co_await m_audio.start(devices(), run.stop());
-    if (run.isStopped())
+    if (!co_await openDevices(run.stop()))
         co_return;
-    if (failure) {
-        end(miraVoiceFailure(*failure));
-        co_return;
-    }
     m_audio.setSending(isConnected());
     Q_EMIT stateChanged(); // who looked meanwhile saw a closed microphone
     if (run.isStopped())
@@ -338,6 +338,12 @@ void MiraVoiceSession::showInWindow()
         return;
     setWindow(m_mode, true, m_closingReturnsToChat);
     Q_EMIT windowRequested();
+}
+
+void MiraVoiceSession::featuresMayHaveChanged()
+{
+    Q_EMIT featuresChanged();
+    Q_EMIT stateChanged();
 }
 
 void MiraVoiceSession::retranslate()

@@ -106,7 +106,7 @@ public:
     [[nodiscard]] bool isToastGood() const { return m_toast && m_toast->isGood(); }
     /// Why the last call ended or did not come about; empty otherwise. In the language of the window.
     [[nodiscard]] QString failure() const;
-    [[nodiscard]] bool canCallAgain() const { return !isActive() && m_failure.has_value(); }
+    [[nodiscard]] bool canCallAgain() const { return !isActive() && m_failure.has_value() && !isPaused(); }
     [[nodiscard]] MiraVoiceTranscript* transcript() { return &m_transcript; }
     /// MiraCards, the latest shown first.
     [[nodiscard]] QVariantList products() { return m_shelf.cards(); }
@@ -136,7 +136,7 @@ public:
     Q_INVOKABLE void dismiss();
     void retranslate();
     /// The store may have paused calls, or allows them again; one that is under way goes on.
-    void featuresMayHaveChanged() { Q_EMIT featuresChanged(); }
+    void featuresMayHaveChanged();
     /// What the call left belongs to a customer who is gone.
     void forget();
 
@@ -168,6 +168,8 @@ private:
     void end(std::optional<MiraVoiceFailure> failure);
     /// Forgets the last call, so that nothing of it acts on the next.
     void clear();
+    /// Those that are chosen. False where the call is over or has gone on without.
+    [[nodiscard]] QCoro::Task<bool> openDevices(std::stop_token stop);
     [[nodiscard]] QCoro::Task<> place();
     [[nodiscard]] QCoro::Task<> changeDevices();
     [[nodiscard]] VoiceAudio::Choice devices() const;

@@ -1,7 +1,8 @@
+#include "stylist/voice/MiraVoiceSession.h"
+
 #include "base/Clock.h"
 #include "catalog/DisplayText.h"
 #include "commerce/CartStore.h"
-#include "stylist/voice/MiraVoiceSession.h"
 
 namespace loom
 {

@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "catalog/DisplayText.h"
+#include "stylist/voice/Loudness.h"
 #include "stylist/voice/MiraVoiceSession.h"
 
 #include <QCoreApplication>
@@ -44,25 +45,14 @@ class VoiceDevicesModel::Meter final : public VoiceFlow
 public:
     void captured(std::span<const float> samples) override
     {
-        float power = 0;
-        for (const float sample : samples)
-            power += sample * sample;
-        if (samples.empty() || !std::isfinite(power))
-            return;
-        const float loudness = std::sqrt(power / static_cast<float>(samples.size()));
-        if (loudness > m_loudest.load(std::memory_order_relaxed))
+        const float loudness = samples.empty() ? 0 : rootMeanSquare(samples);
+        if (std::isfinite(loudness) && loudness > m_loudest.load(std::memory_order_relaxed))
             m_loudest.store(loudness, std::memory_order_relaxed);
     }
     void render(std::span<float> samples, double /*delay*/) override { std::ranges::fill(samples, 0.0F); }
 
     /// Since it was asked last, from 0 to 1 on a scale as ears have it.
-    [[nodiscard]] double takeLevel()
-    {
-        constexpr double quietest = -60; // decibels
-        constexpr double shown = 50;
-        const double loudest = m_loudest.exchange(0, std::memory_order_relaxed);
-        return loudest > 0 ? std::clamp((20 * std::log10(loudest) - quietest) / shown, 0.0, 1.0) : 0;
-    }
+    [[nodiscard]] double takeLevel() { return shownLoudness(m_loudest.exchange(0, std::memory_order_relaxed)); }
 
 private:
     std::atomic<float> m_loudest = 0;

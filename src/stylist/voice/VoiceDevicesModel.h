@@ -59,7 +59,6 @@ Q_SIGNALS:
 private:
     class Meter;
 
-    void choose(const Preference<const char*>& preference, const QString& id);
     [[nodiscard]] QCoro::Task<> measure();
     void close();
     void fail(VoiceFailure failure);

@@ -97,9 +97,9 @@ FocusScope {
         IconButton {
             objectName: "callMute"
             anchors.verticalCenter: parent.verticalCenter
-            iconName: bar.call.isMuted ? "microphone.slash" : "microphone"
+            iconName: now.muteIcon
             on: bar.call.isMuted
-            text: bar.call.isMuted ? qsTranslate("Loomstreet", "Unmute") : qsTranslate("Loomstreet", "Mute")
+            text: now.muteText
             shortcut: bar.call.muteKeyText.replace(/\+/g, " ")
             onClicked: bar.call.toggleMute()
         }

@@ -48,7 +48,7 @@ FocusScope {
 
             objectName: "callAgain"
             width: end.small ? implicitWidth : Math.max(implicitWidth, (parent.width - parent.spacing) / 2)
-            visible: end.call.canCallAgain && !end.call.isPaused
+            visible: end.call.canCallAgain
             focus: visible
             kind: end.small ? "secondary" : "primary"
             size: end.buttonSize

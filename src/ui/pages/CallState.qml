@@ -27,6 +27,9 @@ QtObject {
         default: return qsTranslate("Loomstreet", "Call ended")
         }
     }
+    // The button that mutes, or takes that back.
+    readonly property string muteIcon: call.isMuted ? "microphone.slash" : "microphone"
+    readonly property string muteText: call.isMuted ? qsTranslate("Loomstreet", "Unmute") : qsTranslate("Loomstreet", "Mute")
     // Of whoever speaks.
     readonly property real level: kind === "speaking" ? call.playedLevel : kind === "listening" ? call.microphoneLevel : 0
     // Where there is one line for it: what has just happened, or what was said last.

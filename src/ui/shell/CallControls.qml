@@ -13,6 +13,11 @@ FocusScope {
 
     implicitHeight: row.height
 
+    CallState {
+        id: now
+
+        call: controls.call
+    }
     Row {
         id: row
 
@@ -25,10 +30,10 @@ FocusScope {
             objectName: "mute"
             focus: true
             worded: true
-            iconName: controls.call.isMuted ? "microphone.slash" : "microphone"
+            iconName: now.muteIcon
             on: controls.call.isMuted
             checkable: false
-            text: controls.call.isMuted ? qsTranslate("Loomstreet", "Unmute") : qsTranslate("Loomstreet", "Mute")
+            text: now.muteText
             shortcut: controls.call.muteKeyText === "" ? "M" : "M, " + controls.call.muteKeyText.replace(/\+/g, " ")
             onClicked: controls.call.toggleMute()
         }

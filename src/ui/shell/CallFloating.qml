@@ -99,9 +99,9 @@ FocusScope {
             objectName: "mute"
             extent: Theme.targetIcon
             showsToolTip: false
-            iconName: form.call.isMuted ? "microphone.slash" : "microphone"
+            iconName: now.muteIcon
             on: form.call.isMuted
-            text: form.call.isMuted ? qsTranslate("Loomstreet", "Unmute") : qsTranslate("Loomstreet", "Mute")
+            text: now.muteText
             onClicked: form.call.toggleMute()
         }
         CallRound {

@@ -132,9 +132,9 @@ FocusScope {
             focus: true
             visible: form.active
             showsToolTip: false
-            iconName: form.call.isMuted ? "microphone.slash" : "microphone"
+            iconName: now.muteIcon
             on: form.call.isMuted
-            text: form.call.isMuted ? qsTranslate("Loomstreet", "Unmute") : qsTranslate("Loomstreet", "Mute")
+            text: now.muteText
             onClicked: form.call.toggleMute()
         }
         CallRound {
