@@ -1,11 +1,12 @@
 // What marking a run costs a start: after a run that quit, after one that was killed and is to be reported, and after
 // one that said why it ended.
 
+#include "Connected.h"
+
 #include "base/FeatureGates.h"
 #include "base/Random.h"
 #include "base/SystemClock.h"
 #include "net/HttpTransport.h"
-#include "net/NetworkStatus.h"
 #include "net/SessionSource.h"
 #include "net/WidgetClient.h"
 #include "services/CrashReporter.h"
@@ -21,13 +22,6 @@ using namespace loom;
 
 namespace
 {
-
-class Connected final : public NetworkStatus
-{
-public:
-    [[nodiscard]] bool isOffline() const override { return false; }
-    [[nodiscard]] bool isMetered() const override { return false; }
-};
 
 class Nobody final : public SessionSource
 {
@@ -63,9 +57,10 @@ void startRun(benchmark::State& state, End end)
                                {.version = QStringLiteral("1.4.2"),
                                 .build = 312,
                                 .visitorID = [] { return QStringLiteral("visitor"); },
-                                .hasConsent =
+                                .hasConsent = [] { return true; },
+                                .isOffline =
                                     [] {
-                                        return true;
+                                        return false;
                                     }});
         reporter.start();
         state.PauseTiming();

@@ -12,11 +12,17 @@ build_preset() {
   NINJA_STATUS="[%f/%t] " ninja -C "$folder" "$@"
 }
 
-# The values of the sandbox store, which never change.
+# The values of the sandbox store.
 write_sandbox_secrets() {
   SHOPIFY_DOMAIN=shop.loomstreet.example SHOPIFY_STOREFRONT_TOKEN=sandbox-storefront-token \
     SUPPORT_BASE=https://service.loomstreet.example SUPPORT_KEY=sandbox-widget-key \
-    STORE_WEB_URL=https://www.loomstreet.example scripts/sync-secrets.sh
+    STORE_WEB_URL=https://www.loomstreet.example \
+    UPDATE_PUBLIC_KEY=$(sed -n 2p sandbox/data/release/loomstreet-sandbox.pub) scripts/sync-secrets.sh
+}
+
+# Leaves a build that belongs to another store as it is.
+prepare_secrets() {
+  if [ ! -f resources/Secrets.plist ] || uses_sandbox; then write_sandbox_secrets; fi
 }
 
 uses_sandbox() { grep -q 'shop\.loomstreet\.example' resources/Secrets.plist; }

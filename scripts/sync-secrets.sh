@@ -5,12 +5,13 @@
 #   scripts/sync-secrets.sh            the values come from the environment
 #   scripts/sync-secrets.sh FILE       the values come from a file of NAME=value lines
 #
-# Names: SHOPIFY_DOMAIN, SHOPIFY_STOREFRONT_TOKEN, SUPPORT_BASE, SUPPORT_KEY, and if wanted STORE_WEB_URL.
+# Names: SHOPIFY_DOMAIN, SHOPIFY_STOREFRONT_TOKEN, SUPPORT_BASE, SUPPORT_KEY, and if wanted STORE_WEB_URL and
+# UPDATE_PUBLIC_KEY, the line of a minisign key that releases are signed with.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 if [ "${1:-}" = "--help" ] || [ "${1:-}" = "-h" ]; then
-  sed -n '2,8s/^# \{0,1\}//p' "$0"
+  sed -n '2,9s/^# \{0,1\}//p' "$0"
   exit 0
 fi
 
@@ -18,7 +19,7 @@ if [ $# -gt 0 ]; then
   [ -r "$1" ] || { echo "sync-secrets: cannot read $1" >&2; exit 1; }
   while IFS='=' read -r name value || [ -n "$name" ]; do
     case "$name" in
-      SHOPIFY_DOMAIN|SHOPIFY_STOREFRONT_TOKEN|SUPPORT_BASE|SUPPORT_KEY|STORE_WEB_URL)
+      SHOPIFY_DOMAIN|SHOPIFY_STOREFRONT_TOKEN|SUPPORT_BASE|SUPPORT_KEY|STORE_WEB_URL|UPDATE_PUBLIC_KEY)
         printf -v "$name" '%s' "${value%$'\r'}" ;;
     esac
   done < "$1"
@@ -30,6 +31,11 @@ for name in SHOPIFY_DOMAIN SHOPIFY_STOREFRONT_TOKEN SUPPORT_BASE SUPPORT_KEY; do
 done
 if [ "${#missing[@]}" -gt 0 ]; then
   echo "sync-secrets: missing ${missing[*]}" >&2
+  exit 1
+fi
+
+if [[ -n "${UPDATE_PUBLIC_KEY:-}" && ! "$UPDATE_PUBLIC_KEY" =~ ^RW[A-Za-z0-9+/]{54}$ ]]; then
+  echo "sync-secrets: UPDATE_PUBLIC_KEY is no public key of minisign's" >&2
   exit 1
 fi
 
@@ -49,6 +55,7 @@ new=$(mktemp resources/.Secrets.XXXXXX)
   entry SupportBase "$SUPPORT_BASE"
   entry SupportKey "$SUPPORT_KEY"
   [ -z "${STORE_WEB_URL:-}" ] || entry StoreWebURL "$STORE_WEB_URL"
+  [ -z "${UPDATE_PUBLIC_KEY:-}" ] || entry UpdatePublicKey "$UPDATE_PUBLIC_KEY"
   echo '</dict>'
   echo '</plist>'
 } > "$new"

@@ -16,6 +16,7 @@
 #include "platform/SystemLocation.h"
 #include "platform/SystemNetworkStatus.h"
 #include "platform/WindowActivation.h"
+#include "release/TrialRun.h"
 #include "services/CopyTranslator.h"
 #include "ui/shell/ApplicationSetup.h"
 #include "ui/shell/EventLoopProbe.h"
@@ -25,7 +26,9 @@
 #include "ui/theme/Fonts.h"
 
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QGuiApplication>
+#include <QProcess>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
@@ -33,6 +36,10 @@
 #include <QThread>
 #include <QtConcurrent>
 
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <optional>
 #include <span>
@@ -55,6 +62,25 @@ QString pictureCacheFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
            QStringLiteral("/LOOMSTREET/pictures");
+}
+
+/// Where images of releases wait, and what the application and its helper tell each other.
+QString updatesFolder()
+{
+    return dataFolder() + QStringLiteral("/updates");
+}
+
+/// Starts a program that outlives this one, and says nothing where this one was started.
+bool startDetached(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.setWorkingDirectory(QStringLiteral("/"));
+    return process.startDetached();
 }
 
 /// What another start, or the desktop, asks for.
@@ -83,8 +109,8 @@ void launch(const LaunchOptions& options, AppLifecycle& lifecycle)
         lifecycle.handleAction(options.action);
 }
 
-int runShop(const AppConfig& config, const LaunchOptions& options, const SingleInstance& instance, QQmlEngine& engine,
-            SystemAppearance& appearance)
+int runShop(const AppConfig& config, const LaunchOptions& options, const UpdatePlatform& updates,
+            const SingleInstance& instance, QQmlEngine& engine, SystemAppearance& appearance)
 {
     SystemClock clock;
     SystemRandom random;
@@ -115,6 +141,7 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
                             .launcherBadge = badge,
                             .voiceAudio = voiceAudio,
                             .muteKey = muteKey,
+                            .updates = updates,
                             .isSafeMode = options.isSafeMode});
     WindowManager windows(engine, model, appearance);
     model.setWindowHost(&windows);
@@ -153,6 +180,7 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const SingleI
         report.watch(windows.windowOf(*session));
     const int status = QCoreApplication::exec();
     model.crashReporter().markCleanExit();
+    model.updater()->willTerminate();
     // Who signs out and quits is not to be signed in again at the next start.
     const QDeadlineTimer lastMoment(std::chrono::seconds(2));
     while (model.auth()->isSaving() && !lastMoment.hasExpired()) {
@@ -176,14 +204,22 @@ int complain(const QString& problem)
     return say(stderr, QStringLiteral("loomstreet: %1\n").arg(problem), 1);
 }
 
+/// Whether there is a display to open windows on, as far as the environment says.
+bool mayShowWindows()
+{
+    return std::ranges::any_of(std::array{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"},
+                               [](const char* name) { return !qEnvironmentVariableIsEmpty(name); });
+}
+
 /// What needs no window, and so neither a display nor the time it takes to open one.
-std::optional<int> answerAtOnce(const LaunchOptions& options, int argc, char* argv[])
+std::optional<int> answerAtOnce(const LaunchOptions& options, const std::optional<ApplicationFolder>& folder, int argc,
+                                char* argv[])
 {
     using Purpose = LaunchOptions::Purpose;
     if (options.purpose == Purpose::Help)
         return say(stdout, helpText(), 0);
     if (options.purpose == Purpose::Version)
-        return say(stdout, versionText(), 0);
+        return say(stdout, versionText(folder ? folder->version : QStringLiteral(LOOM_VERSION)), 0);
     if (options.purpose != Purpose::Quit)
         return {};
     if (!options.problem.isEmpty())
@@ -202,16 +238,28 @@ int main(int argc, char* argv[])
     for (const char* const argument : given)
         arguments.append(QString::fromLocal8Bit(argument));
     const LaunchOptions wishes = readLaunchOptions(arguments);
-    if (const std::optional<int> status = answerAtOnce(wishes, argc, argv))
+    const QString program = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
+    const std::optional<ApplicationFolder> folder = ApplicationFolder::ofProgram(program);
+    if (const std::optional<int> status = answerAtOnce(wishes, folder, argc, argv))
         return *status;
+    // Before anything that a release may die of. Where there is no display nothing runs, whichever release it is.
+    TrialRun trial(updatesFolder(), mayShowWindows() ? folder : std::nullopt);
+    if (trial.verdict() == TrialRun::Verdict::Revert && trial.revert()) {
+        ::execv(QFile::encodeName(folder->executable()).constData(), argv);
+        return complain(QStringLiteral("the release before cannot be started."));
+    }
     prepareApplication(applicationID, wishes.isSafeMode ? Rendering::Software : Rendering::Hardware);
+    if (folder)
+        QCoreApplication::setApplicationVersion(folder->version);
     Activation start = readLaunch();
     int optionCount = countOfOptions(argc, argv);
     const QStringList data = arguments.mid(optionCount);
     QGuiApplication application(optionCount, argv);
     const LaunchOptions options = readLaunchOptions(QCoreApplication::arguments() + data);
-    if (!options.problem.isEmpty())
+    if (!options.problem.isEmpty()) {
+        trial.endedWell();
         return complain(options.problem + tryHelp);
+    }
     start.links = options.links;
     start.action = options.action;
     // Reading certificates takes longer than all the rest of this; they are needed with the first request.
@@ -224,13 +272,16 @@ int main(int argc, char* argv[])
 
     SingleInstance instance(applicationID);
     if (instance.claim(start) == SingleInstance::Role::Second) {
+        trial.endedWell();
         return options.isSafeMode ? complain(QStringLiteral("an instance runs already; \"loomstreet --quit\" ends it."))
                                   : 0;
     }
     registerFonts();
     DesktopAppearance appearance;
-    if (!authority.result())
+    if (!authority.result()) {
+        trial.endedWell();
         return 1;
+    }
     const std::optional<AppConfig> config = AppConfig::load();
     if (!config) {
         const auto window = WindowManager::showConfigurationMissing(engine, appearance);
@@ -242,5 +293,15 @@ int main(int argc, char* argv[])
         });
         return QCoreApplication::exec();
     }
-    return runShop(*config, options, instance, engine, appearance);
+    const UpdatePlatform updates{.workingFolder = updatesFolder(),
+                                 .program = program,
+                                 .folder = folder,
+                                 .startDetached = startDetached,
+                                 .openExternally = openInBrowser,
+                                 // What runs with little proves nothing of all the rest.
+                                 .trial = options.isSafeMode ? nullptr : &trial};
+    const int status = runShop(*config, options, updates, instance, engine, appearance);
+    if (status == 0)
+        trial.endedWell();
+    return status;
 }

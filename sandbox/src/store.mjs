@@ -33,6 +33,9 @@ import { recoControls } from './reco/controls.mjs';
 import { RecoModes } from './reco/modes.mjs';
 import { Recommender } from './reco/recommender.mjs';
 import { SentenceSearch } from './reco/search.mjs';
+import { releaseControls } from './releases/controls.mjs';
+import { Releases } from './releases/releases.mjs';
+import { ReleaseSite } from './releases/site.mjs';
 import { loadCertificates } from './server/certificates.mjs';
 import { createControl } from './server/control.mjs';
 import { Faults } from './server/faults.mjs';
@@ -88,11 +91,12 @@ export async function startStore({
   const recommender = new Recommender({ catalog, seed });
   const recoModes = new RecoModes();
   const remoteConfig = new RemoteConfig({ startedAt });
+  const releases = new Releases();
   const stylist = new Stylist({ catalog, orders, index: () => storefront.index, seed, now });
   const calls = new Calls({ accounts: signIns.accounts, catalog, stylist, seed, now, script: voiceScript });
   const backend = {
-    ...signIns, alerts, calls, conversations, happenings, notifications, supportFiles, carts, catalog, crashReports, customers, handOvers, orders, recoModes, recommender, remoteConfig, settings, tracker, wishlists,
-    stylist, sentenceSearch: new SentenceSearch({ catalog, recommender, index: () => storefront.index }),
+    ...signIns, alerts, calls, conversations, happenings, notifications, supportFiles, carts, catalog, crashReports, customers, handOvers, orders, recoModes, recommender, releases, remoteConfig, settings, tracker, wishlists,
+    stylist, releaseSite: new ReleaseSite({ releases, journal }), sentenceSearch: new SentenceSearch({ catalog, recommender, index: () => storefront.index }),
   };
   const sites = new Map([
     [hosts.shop, new ShopSite({ storefront, checkout: pages })],
@@ -106,7 +110,7 @@ export async function startStore({
   const reset = () => {
     const kept = [
       faults, carts, checkouts, handOvers, stock, prices, settings, ...Object.values(signIns), orders, alerts, tracker, crashReports, wishlists, recoModes,
-      remoteConfig, journal, supportSettings, supportFiles, conversations, notifications, happenings, stylist, calls,
+      remoteConfig, releases, journal, supportSettings, supportFiles, conversations, notifications, happenings, stylist, calls,
     ];
     kept.forEach((part) => part.clear());
     pages.release();
@@ -119,6 +123,7 @@ export async function startStore({
     ...accountControls({ ...signIns, orders, faults }),
     ...recoControls({ recoModes }),
     ...configControls({ remoteConfig }),
+    ...releaseControls({ releases }),
     ...crashReportControls({ crashReports }),
     ...stylistControls({ stylist, faults }),
     ...voiceControls({ calls }),

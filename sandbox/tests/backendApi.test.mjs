@@ -91,6 +91,7 @@ const ways = {
     '/search-ai': () => ({ offset: -1 }),
     '/vessa/product-stats': () => ({ handles: 'one,'.repeat(251) }),
     '/brand-stats': () => ({ vendor: '' }),
+    '/app-version': () => ({ platform: 'macos' }),
     '/app-version/config': () => ({ platform: 'toaster' }),
     '/app-version/crash-reports': () => ({ count: 0 }),
     '/shopify-checkout/prepare': () => ({ locale: 'english' }),

@@ -193,6 +193,10 @@ void AppCommands::perform(AppCommand::Id id)
         tab->openStorePage(QStringLiteral("/pages/agreements"),
                            QCoreApplication::translate("Loomstreet", "Agreements"));
         break;
+    case AppCommand::Id::CheckForUpdates:
+        m_session.setUpdateOpen(true);
+        m_actions.checkForUpdates();
+        break;
     }
 }
 

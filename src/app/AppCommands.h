@@ -50,6 +50,7 @@ enum class Id {
     CustomerService,
     HelpCenter,
     Agreements,
+    CheckForUpdates,
 };
 Q_ENUM_NS(Id)
 
@@ -67,7 +68,7 @@ struct AppCommandEntry {
 };
 
 /// The commands in the order of their menus.
-inline constexpr std::array<AppCommandEntry, 32> appCommandEntries{{
+inline constexpr std::array<AppCommandEntry, 33> appCommandEntries{{
     {AppCommand::Id::NewTab, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "New Tab")}, {"Ctrl+T"}},
     {AppCommand::Id::NewWindow, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "New Window")}, {"Ctrl+N"}},
     {AppCommand::Id::CloseTab, AppCommand::Menu::File, {QT_TRANSLATE_NOOP("Loomstreet", "Close Tab")}, {"Ctrl+W"}},
@@ -172,6 +173,10 @@ inline constexpr std::array<AppCommandEntry, 32> appCommandEntries{{
      {QT_TRANSLATE_NOOP("Loomstreet", "LOOMSTREET Help Center")},
      {"F1"}},
     {AppCommand::Id::Agreements, AppCommand::Menu::Help, {QT_TRANSLATE_NOOP("Loomstreet", "Agreements")}, {}},
+    {AppCommand::Id::CheckForUpdates,
+     AppCommand::Menu::Help,
+     {QT_TRANSLATE_NOOP("Loomstreet", "Check for Updates…")},
+     {}},
 }};
 
 /// What the commands need beyond the window they act on.
@@ -179,6 +184,7 @@ struct AppCommandActions {
     std::function<void()> openWindow;
     std::function<void()> openSettings;
     std::function<void()> quit;
+    std::function<void()> checkForUpdates;
 };
 
 /// The commands of one window: each acts on its session and the selected tab. Main thread; owned by the window.

@@ -84,7 +84,8 @@ std::optional<AppConfig> AppConfig::parse(const QByteArray& propertyList)
                      .storefrontToken = value("ShopifyStorefrontToken"),
                      .supportBase = withoutLastSlash(value("SupportBase")),
                      .supportKey = value("SupportKey"),
-                     .storeWebURL = withoutLastSlash(value("StoreWebURL"))};
+                     .storeWebURL = withoutLastSlash(value("StoreWebURL")),
+                     .updateKey = value("UpdatePublicKey")};
     if (config.shopifyDomain.isEmpty() || config.storefrontToken.isEmpty() || config.supportKey.isEmpty() ||
         !isAddress(config.supportBase))
         return std::nullopt;

@@ -18,6 +18,7 @@ struct AppConfig {
     QString supportBase;     ///< the backend's address, without "/" at its end
     QString supportKey;      ///< the public key of the backend's widget service
     QString storeWebURL;     ///< the store's web site, without "/" at its end
+    QString updateKey;       ///< the public key that releases are signed with, in minisign's form; empty: no updates
 
     bool operator==(const AppConfig&) const = default;
 

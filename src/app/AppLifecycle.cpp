@@ -71,6 +71,8 @@ void AppLifecycle::openFirstWindow(const WindowSeed& seed)
 
 bool AppLifecycle::shouldTerminate()
 {
+    if (!m_model.updater()->shouldTerminate())
+        return false;
     m_model.saveWindowsForNextStart();
     return true;
 }

@@ -27,7 +27,8 @@ public:
     /// The desktop started the application and says at once what for; should it not, the first look opens a window.
     void didLaunchAsService() { static_cast<void>(lookAfterWindows()); }
 
-    /// Whether quitting may go ahead now.
+    /// Whether quitting may go ahead now. When it may not, an update is being handed over, and the model asks to quit
+    /// again once that is done.
     [[nodiscard]] bool shouldTerminate();
     /// Closing the last window leaves the application running.
     [[nodiscard]] static constexpr bool shouldTerminateAfterLastWindowClosed() { return false; }

@@ -19,6 +19,12 @@ namespace
 /// How long a checkout waits for the word on who is signed in.
 constexpr std::chrono::seconds sessionWait{5};
 
+/// Of the release that runs, or else of what was built.
+qint64 buildOf(const AppPlatform& platform)
+{
+    return platform.updates.folder ? platform.updates.folder->build : AppConfig::appBuild();
+}
+
 } // namespace
 
 AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
@@ -45,11 +51,12 @@ AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
                      m_platform.isSafeMode ? RemoteConfig::Source::BuiltIn : RemoteConfig::Source::Store)
     , m_crashReporter(m_auth.widget(), m_preferences, m_folder, m_remoteConfig, m_platform.clock,
                       {.version = AppConfig::appVersion(),
-                       .build = AppConfig::appBuild(),
+                       .build = buildOf(m_platform),
                        .visitorID = [this] { return visitorID(); },
-                       .hasConsent =
+                       .hasConsent = [this] { return m_settings.sharesUsage(); },
+                       .isOffline =
                            [this] {
-                               return m_settings.sharesUsage();
+                               return m_session.isOffline();
                            }})
     , m_storefrontClient(m_config.shopifyDomain, m_config.storefrontToken, m_platform.locale, m_transport,
                          m_platform.clock)
@@ -157,6 +164,20 @@ AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
                    [this] {
                        return visitorID();
                    }})
+    , m_updater({.widget = m_auth.widget(),
+                 .preferences = m_preferences,
+                 .features = m_remoteConfig,
+                 .network = m_platform.network,
+                 .clock = m_platform.clock,
+                 .random = m_platform.random},
+                {.version = AppConfig::appVersion(),
+                 .build = buildOf(m_platform),
+                 .publicKey = m_config.updateKey.toLatin1(),
+                 .languageCode =
+                     [this] {
+                         return appLanguageCode(m_market.context().language);
+                     }},
+                m_platform.updates)
     , m_closedTabs(m_folder)
     , m_services{.clock = m_platform.clock,
                  .random = m_platform.random,
@@ -172,6 +193,7 @@ AppModel::AppModel(AppConfig config, AppPlatform platform, QObject* parent)
     connectStores();
     connectNews();
     connectCalls();
+    connectUpdates();
     if (m_platform.isSafeMode)
         m_savedWindows.end();
     m_wishlist.load();
@@ -209,10 +231,12 @@ void AppModel::connectStores()
     connect(&m_market, &MarketStore::revisionChanged, &m_remoteConfig, follow);
     // Later: by then the texts are looked up anew.
     connect(&m_remoteConfig, &RemoteConfig::copyChanged, &m_texts, &TextChanges::changed, Qt::QueuedConnection);
-    // By then it is known whether the store wants any.
+    // By then it is known whether the store wants reports, and updates by themselves.
     connect(&m_remoteConfig, &RemoteConfig::fetchingChanged, this, [this] {
-        if (!m_remoteConfig.fetching())
-            m_crashReporter.sendWaiting();
+        if (m_remoteConfig.fetching())
+            return;
+        m_crashReporter.sendWaiting();
+        m_updater.beginChecking();
     });
     connect(&m_remoteConfig, &RemoteConfig::featuresChanged, this, [this] {
         for (const auto& session : m_sessions)
@@ -304,6 +328,13 @@ void AppModel::connectCalls()
     });
 }
 
+void AppModel::connectUpdates()
+{
+    connect(&m_updater, &AppUpdater::quitRequested, this, &AppModel::quitRequested);
+    connect(&m_updater, &AppUpdater::terminateReplied, this, &AppModel::quitRequested);
+    connect(&m_updater, &AppUpdater::updateFailed, this, [this] { m_news.notifier().deliverUpdateFailed(); });
+}
+
 QCoro::Task<ApiResult<std::vector<SupportReply>>> AppModel::supportReplies(std::stop_token stop)
 {
     const ApiResult<std::vector<SupportMessage>> messages = co_await m_support.newReplies(stop);
@@ -321,12 +352,15 @@ void AppModel::retranslate()
     m_support.retranslate();
     m_news.settings().retranslate();
     m_calls.session().retranslate();
+    m_updater.retranslate();
 }
 
 void AppModel::openNews(WindowSession& session, const AppNotification& news)
 {
     if (news.isAboutSupport())
         session.setSupportOpen(true);
+    else if (news.isAboutUpdate())
+        session.setUpdateOpen(true);
     else if (!news.link.isEmpty())
         session.selected()->openNotice(news.link);
 }
@@ -347,6 +381,9 @@ void AppModel::bootstrap()
     m_cart.refresh();
     m_remoteConfig.start();
     m_news.notifier().start();
+    m_updater.start();
+    if (m_platform.isSafeMode)
+        m_updater.beginChecking(); // the store has no say, and is not asked
     m_tracker.report(Tracker::AppOpened{});
 }
 
@@ -355,6 +392,11 @@ QString AppModel::visitorID()
     if (m_preferences.value(preferences::visitorId).isEmpty())
         m_preferences.set(preferences::visitorId, m_platform.random.uuid().toString(QUuid::WithoutBraces));
     return m_preferences.value(preferences::visitorId);
+}
+
+QString AppModel::moment(const QDateTime& date) const
+{
+    return m_dates.moment(date);
 }
 
 QString AppModel::screenshotPath() const

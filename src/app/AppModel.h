@@ -54,6 +54,7 @@
 #include "services/CrashReporter.h"
 #include "services/RemoteConfig.h"
 #include "services/ToolsModel.h"
+#include "services/update/AppUpdater.h"
 #include "storage/ChosenSecureStore.h"
 #include "storage/DataFolder.h"
 #include "storage/Preferences.h"
@@ -91,6 +92,7 @@ struct AppPlatform {
     LauncherBadge& launcherBadge;
     VoiceAudio& voiceAudio;
     GlobalKey& muteKey;
+    UpdatePlatform updates;
     /// Starts without what the last start left that may be in its way: neither its windows nor what the store changed
     /// of the application. Both stay for the next start.
     bool isSafeMode = false;
@@ -113,6 +115,7 @@ class AppModel final : public QObject
     Q_PROPERTY(loom::WishlistStore* wishlist READ wishlist CONSTANT)
     Q_PROPERTY(loom::RecentlyViewedStore* recentlyViewed READ recentlyViewed CONSTANT)
     Q_PROPERTY(loom::RemoteConfig* remoteConfig READ remoteConfig CONSTANT)
+    Q_PROPERTY(loom::AppUpdater* updater READ updater CONSTANT)
     Q_PROPERTY(loom::NotInterested* notInterested READ notInterested CONSTANT)
     Q_PROPERTY(loom::MiraChatModel* mira READ mira CONSTANT)
     Q_PROPERTY(loom::MiraVoiceSession* call READ call CONSTANT)
@@ -150,6 +153,7 @@ public:
     [[nodiscard]] NotificationSettings* notificationSettings() { return &m_news.settings(); }
     [[nodiscard]] AppSession* session() { return &m_session; }
     [[nodiscard]] RemoteConfig* remoteConfig() { return &m_remoteConfig; }
+    [[nodiscard]] AppUpdater* updater() { return &m_updater; }
     [[nodiscard]] CrashReporter& crashReporter() { return m_crashReporter; }
     [[nodiscard]] NotInterested* notInterested() { return &m_notInterested; }
     [[nodiscard]] MarketStore* market() { return &m_market; }
@@ -244,8 +248,12 @@ public:
     Q_INVOKABLE void dockMira();
     /// The window in which to open what a window without pages leads to; made where there is none.
     [[nodiscard]] Q_INVOKABLE loom::WindowSession* frontSession();
+    /// Brings that window forward.
+    Q_INVOKABLE void showPages();
     /// Opens the settings at the page of this name.
     Q_INVOKABLE void showSettings(const QString& page);
+    /// A date and time in the shopper's language and place.
+    [[nodiscard]] Q_INVOKABLE QString moment(const QDateTime& date) const;
     /// Where a picture of the window taken now is to be saved.
     [[nodiscard]] Q_INVOKABLE QString screenshotPath() const;
     /// Opens the folder that a file lies in.
@@ -262,6 +270,7 @@ private:
     void connectStores();
     void connectNews();
     void connectCalls();
+    void connectUpdates();
     [[nodiscard]] QCoro::Task<ApiResult<std::vector<SupportReply>>> supportReplies(std::stop_token stop);
     static void openNews(WindowSession& session, const AppNotification& news);
     void takePendingCheckout(WindowSession& session);
@@ -320,6 +329,7 @@ private:
     SupportChatModel m_support;
     NewsDesk m_news;
     CallDesk m_calls;
+    AppUpdater m_updater;
     bool m_didBootstrap = false;
     ClosedTabs m_closedTabs;
     WindowServices m_services;

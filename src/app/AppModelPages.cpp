@@ -303,9 +303,10 @@ AppCommands* AppModel::makeCommands(QObject* owner, WindowSession* session)
     return new AppCommands(*session,
                            {.openWindow = [this] { openWindow(WindowSeed()); },
                             .openSettings = [this] { m_windows->showSettings(); },
-                            .quit =
+                            .quit = [this] { Q_EMIT quitRequested(); },
+                            .checkForUpdates =
                                 [this] {
-                                    Q_EMIT quitRequested();
+                                    m_updater.checkByHand();
                                 }},
                            owner);
 }

@@ -114,6 +114,11 @@ void AppModel::showMira()
     m_windows->showMira();
 }
 
+void AppModel::showPages()
+{
+    m_windows->raise(*frontSession());
+}
+
 void AppModel::dockMira()
 {
     WindowSession& session = *frontSession();

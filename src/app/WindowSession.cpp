@@ -103,6 +103,7 @@ void WindowSession::openLink(const QString& link)
         setHistoryOpen(false);
         setInboxOpen(false);
         setSupportOpen(false);
+        setUpdateOpen(false);
         setSignInPresented(false);
         closeLightbox();
     }

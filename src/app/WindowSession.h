@@ -27,6 +27,7 @@ class WindowSession final : public QObject
     Q_PROPERTY(bool isHistoryOpen READ isHistoryOpen WRITE setHistoryOpen NOTIFY panelsChanged)
     Q_PROPERTY(bool isInboxOpen READ isInboxOpen WRITE setInboxOpen NOTIFY panelsChanged)
     Q_PROPERTY(bool isSupportOpen READ isSupportOpen WRITE setSupportOpen NOTIFY panelsChanged)
+    Q_PROPERTY(bool isUpdateOpen READ isUpdateOpen WRITE setUpdateOpen NOTIFY panelsChanged)
     Q_PROPERTY(bool isSignInPresented READ isSignInPresented WRITE setSignInPresented NOTIFY panelsChanged)
     Q_PROPERTY(bool isMiraDocked READ isMiraDocked WRITE setMiraDocked NOTIFY panelsChanged)
     Q_PROPERTY(QVariant lightbox READ lightboxVariant NOTIFY lightboxChanged)
@@ -99,6 +100,8 @@ public:
     void setInboxOpen(bool isOpen) { setPanel(m_panels.inbox, isOpen); }
     [[nodiscard]] bool isSupportOpen() const { return m_panels.support; }
     void setSupportOpen(bool isOpen) { setPanel(m_panels.support, isOpen); }
+    [[nodiscard]] bool isUpdateOpen() const { return m_panels.update; }
+    void setUpdateOpen(bool isOpen) { setPanel(m_panels.update, isOpen); }
     [[nodiscard]] bool isSignInPresented() const { return m_isSignInPresented; }
     void setSignInPresented(bool isPresented);
     [[nodiscard]] bool isMiraDocked() const { return m_isMiraDocked; }
@@ -171,6 +174,7 @@ private:
         bool history = false;
         bool inbox = false;
         bool support = false;
+        bool update = false;
 
         bool operator==(const Panels&) const = default;
     };

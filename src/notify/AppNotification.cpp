@@ -10,4 +10,9 @@ bool AppNotification::isAboutSupport() const
     return notificationType(type).tab == NotificationCategory::Support;
 }
 
+bool AppNotification::isAboutUpdate() const
+{
+    return id == QLatin1String(updateFailedID);
+}
+
 } // namespace loom

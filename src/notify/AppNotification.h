@@ -17,8 +17,11 @@ struct AppNotification {
     Q_PROPERTY(QString link MEMBER link)
     Q_PROPERTY(QString accountID MEMBER accountID)
     Q_PROPERTY(bool isAboutSupport READ isAboutSupport)
+    Q_PROPERTY(bool isAboutUpdate READ isAboutUpdate)
 
 public:
+    static constexpr const char* updateFailedID = "self-update-failed";
+
     QString id;    ///< what the ledger knows it by
     QString title; ///< the first line
     QString body;  ///< the second one
@@ -29,6 +32,8 @@ public:
 
     /// It leads to the conversation with customer service, and needs no link.
     [[nodiscard]] bool isAboutSupport() const;
+    /// That the application could not be replaced, which is put right at the top of the window.
+    [[nodiscard]] bool isAboutUpdate() const;
 
     bool operator==(const AppNotification&) const = default;
 };

@@ -54,7 +54,7 @@ AppNotification unavailable(const QString& featureKey)
 
 AppNotification updateFailed()
 {
-    return {.id = QStringLiteral("self-update-failed"),
+    return {.id = QLatin1String(AppNotification::updateFailedID),
             .title = translated("LOOMSTREET couldn't update itself"),
             .body = translated("Click Update at the top of the window to install the new version from the disk image."),
             .symbol = QStringLiteral("arrow.down.circle"),

@@ -84,9 +84,9 @@ that runs, or starts one.
 )");
 }
 
-QString versionText()
+QString versionText(const QString& version)
 {
-    return QStringLiteral("LOOMSTREET " LOOM_VERSION "\n");
+    return QStringLiteral("LOOMSTREET %1\n").arg(version);
 }
 
 bool addCertificateAuthority(const QString& file)

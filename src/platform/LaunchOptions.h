@@ -33,7 +33,7 @@ struct LaunchOptions {
 
 /// What --help and --version print.
 [[nodiscard]] QString helpText();
-[[nodiscard]] QString versionText();
+[[nodiscard]] QString versionText(const QString& version);
 
 /// Trusts the authorities in the file in addition to the system's. False, with the reason in the log, when there is
 /// none in it. Any thread.

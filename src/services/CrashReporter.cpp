@@ -166,6 +166,13 @@ QCoro::Task<> CrashReporter::send()
             QStringLiteral("/app-version/crash-reports"), envelope, {.identity = Identity::Anonymous}, run.stop());
         if (run.isStopped())
             co_return;
+        if (!answer && m_application.isOffline()) {
+            // Nobody was there to refuse it, nor will anybody be for the others.
+            --m_waiting[at].attempts;
+            save();
+            m_hasSent = false;
+            co_return;
+        }
         if (answer || m_waiting[at].attempts >= maximumAttempts)
             m_waiting.erase(m_waiting.begin() + static_cast<std::ptrdiff_t>(at));
         else

@@ -24,7 +24,7 @@ class WidgetClient;
 class CrashReporter final
 {
 public:
-    /// A report is tried at so many starts.
+    /// A report is tried at so many starts; without a network it is no try.
     static constexpr int maximumAttempts = 3;
     /// The reports that wait; the oldest makes way.
     static constexpr std::size_t maximumWaiting = 5;
@@ -35,6 +35,7 @@ public:
         qint64 build = 0;
         std::function<QString()> visitorID;
         std::function<bool()> hasConsent; ///< whether more than what is essential may be sent
+        std::function<bool()> isOffline;  ///< whether the system is sure that there is no network
     };
 
     CrashReporter(WidgetClient& widget, Preferences& preferences, DataFolder& folder, const FeatureGates& features,
@@ -46,7 +47,8 @@ public:
     void markCleanExit();
     /// Whether the shopper uses the application: only then is it noted from time to time that it is alive.
     void setActive(bool isActive);
-    /// Sends what waits, once in a run: to be called when it is known what the store has switched off.
+    /// Sends what waits, once in a run that has a network: to be called whenever it is known what the store has
+    /// switched off.
     void sendWaiting();
 
 private:

@@ -25,6 +25,7 @@ class RemoteConfig final : public QObject, public FeatureGates
     Q_PROPERTY(QStringList dashboard READ dashboardKeys NOTIFY dashboardChanged)
     Q_PROPERTY(QVariant promo READ promoVariant NOTIFY promoChanged)
     Q_PROPERTY(bool prefetchesImages READ prefetchesImages NOTIFY featuresChanged)
+    Q_PROPERTY(bool updatesAutomatically READ updatesAutomatically NOTIFY featuresChanged)
 
 public:
     using Values = RemoteConfigValues;
@@ -50,6 +51,7 @@ public:
 
     [[nodiscard]] bool isEnabled(Feature feature) const override;
     [[nodiscard]] bool prefetchesImages() const { return isEnabled(Feature::PrefetchImages); }
+    [[nodiscard]] bool updatesAutomatically() const { return isEnabled(Feature::AutoUpdate); }
     /// What stands in the place of a text, if anything does.
     [[nodiscard]] std::optional<QString> copy(const QString& key, AppLanguage language,
                                               BuiltInText builtIn = BuiltInText::English) const

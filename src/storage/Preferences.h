@@ -63,6 +63,13 @@ inline constexpr Preference<const char*> sizeUnit{"lst_size_unit", "metric"}; //
 inline constexpr Preference<bool> splitPreview{"lst_split_preview", true};
 inline constexpr Preference<double> splitPreviewWidth{"lst_split_preview_width_v2", 0};
 inline constexpr Preference<const char*> supportLanguage{"lst_support_lang", "auto"}; ///< or a code
+// What the updater notes for itself.
+inline constexpr ObjectPreference updateInPlaceFailures{"lst_update_inplace_failures"}; ///< counts, by release
+inline constexpr Preference<const char*> updateInPlaceImpossible{"lst_update_inplace_impossible", ""}; ///< a path
+inline constexpr ObjectPreference updatePendingInstall{"lst_update_pending_install"};
+inline constexpr Preference<const char*> updateRevertedRelease{"lst_update_reverted_release", ""}; ///< that died here
+inline constexpr Preference<const char*> updateRolloutSeed{"lst_update_rollout_seed", ""};         ///< a UUID
+inline constexpr Preference<const char*> updateSkippedVersion{"lst_update_skipped_version", ""};
 inline constexpr Preference<const char*> visitorId{"lst_visitor_id", ""};
 inline constexpr Preference<const char*> voiceMicrophone{"lst_voice_microphone", ""}; ///< its id; empty: the default
 inline constexpr Preference<const char*> voiceSpeaker{"lst_voice_speaker", ""};       ///< likewise

@@ -23,7 +23,7 @@ class AppFixture : public NetworkFixture
 protected:
     AppFixture()
     {
-        for (const char* const path : {"app-version/config", "reco", "vessa/reco-rails"})
+        for (const char* const path : {"app-version", "app-version/config", "reco", "vessa/reco-rails"})
             server.allow(QByteArray("GET /api/support/widget/") + path,
                          [](const ReceivedRequest&) { return Answer::body("", 404); });
         server.allow("POST /api/2025-04/graphql.json", [this](const ReceivedRequest& request) {
@@ -50,6 +50,7 @@ protected:
                                         .launcherBadge = badge,
                                         .voiceAudio = voiceAudio,
                                         .muteKey = muteKey,
+                                        .updates = updates,
                                         .isSafeMode = isSafeMode});
         model->setWindowHost(&host);
     }
@@ -58,21 +59,24 @@ protected:
     /// they travel side by side.
     [[nodiscard]] QStringList queries(qsizetype count)
     {
-        // What the windows show is written a moment later, and from time to time the configuration and news are asked
-        // for.
-        const int writing = model->windows().empty() ? 0 : 3;
-        waitUntil([&] { return asked.size() >= count && clock.sleepers() <= writing; }, "every query is answered");
+        const int asleep = model->windows().empty() ? 0 : asleepWithWindows;
+        waitUntil([&] { return asked.size() >= count && clock.sleepers() == asleep; }, "every query is answered");
         drainEvents();
         QStringList sorted = std::exchange(asked, {});
         sorted.sort();
         return sorted;
     }
 
+    /// What the windows show is written a moment later, and from time to time the configuration, news and a newer
+    /// release are asked for.
+    static constexpr int asleepWithWindows = 4;
+
     FakeLocation location;
     FakeDesktopNotifications desktop;
     FakeLauncherBadge badge;
     FakeVoiceAudio voiceAudio;
     FakeGlobalKey muteKey;
+    UpdatePlatform updates;
     SystemLocale locale{.language = QStringLiteral("de"), .script = {}, .region = QStringLiteral("AT")};
     QTemporaryDir home;
     QList<QUrl> browsed;

@@ -97,7 +97,8 @@ TEST_F(AppModelTest, TheVisitorStaysTheSameAndIsMadeOnlyForReports)
     static_cast<void>(
         model->makeRecommendations(&page, QStringLiteral("collection"), finalSale, {})); // passed by, not looked at
     static_cast<void>(model->makeCollection(&page, newIn, {}));
-    waitUntil([this] { return reports.size() == 2 && clock.sleepers() == 3; }, "both reports have come");
+    waitUntil([this] { return reports.size() == 2 && clock.sleepers() == asleepWithWindows; },
+              "both reports have come");
     reports.sort();
     EXPECT_EQ(reports,
               QStringList({QStringLiteral("collection_viewed new-in"), QStringLiteral("product_viewed silk")}));

@@ -32,9 +32,10 @@ protected:
                          CrashReporter::Application{.version = QStringLiteral("1.4.2"),
                                                     .build = 312,
                                                     .visitorID = [] { return QStringLiteral("visitor-1"); },
-                                                    .hasConsent =
+                                                    .hasConsent = [this] { return hasConsent; },
+                                                    .isOffline =
                                                         [this] {
-                                                            return hasConsent;
+                                                            return network.isOffline();
                                                         }});
         reporter->start();
     }
@@ -195,6 +196,26 @@ TEST_F(CrashReporterTest, AReportThatFailsIsTriedAtThreeStartsAndNotTwiceInOne)
     sendUntil(4);
     launch();
     EXPECT_EQ(attempts(), 1);
+}
+
+TEST_F(CrashReporterTest, WithoutANetworkItIsNoTryAndTheSameRunTriesAgain)
+{
+    launch();
+    clock.advance(1s);
+    launch();
+    launch();
+    network.setOffline(true);
+    // More often than a report is tried at all, and of the two that wait only the first.
+    for (std::size_t requests = 1; requests <= 4; ++requests) {
+        answer(Answer::drop());
+        sendUntil(requests);
+        waitUntil([this] { return attempts() == 0; }, "it does not count");
+    }
+    network.setOffline(false);
+    answer(Answer::json({}));
+    answer(Answer::json({}));
+    sendUntil(6);
+    waitUntil([this] { return kept().isEmpty(); }, "both are told");
 }
 
 TEST_F(CrashReporterTest, ManyKilledRunsLeaveAFewReportsAndAForeignFileNone)

@@ -23,6 +23,10 @@ export class BackendSite {
     this.#routes = new Map(routes.map((endpoint) => [(endpoint.public ? publicPrefix : widgetPrefix) + endpoint.path, endpoint]));
   }
 
+  identify(exchange) {
+    this.#store.releaseSite.identify(exchange);
+  }
+
   async handle(exchange) {
     if (sendStyles(exchange)) return;
     if (exchange.path === '/favicon.ico') {
@@ -31,6 +35,10 @@ export class BackendSite {
     }
     if (this.#store.supportFiles.takes(exchange)) {
       this.#store.supportFiles.send(exchange);
+      return;
+    }
+    if (this.#store.releaseSite.takes(exchange)) {
+      await this.#store.releaseSite.handle(exchange);
       return;
     }
     try {

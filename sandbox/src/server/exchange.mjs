@@ -1,4 +1,5 @@
 import { Buffer } from 'node:buffer';
+import { pipeline } from 'node:stream/promises';
 
 export class BadRequest extends Error {
   constructor(message, status = 400) {
@@ -15,6 +16,7 @@ export class Exchange {
   #req;
   #res;
   #body = null;
+  #dropped = false;
 
   /** Set by a fault: the answer leaves with status 200 and only half of its bytes. */
   truncated = false;
@@ -47,7 +49,7 @@ export class Exchange {
   }
 
   get finished() {
-    return this.#res.writableEnded || this.#res.destroyed || this.#res.stream?.destroyed === true;
+    return this.#dropped || this.#res.writableEnded || this.#res.destroyed || this.#res.stream?.destroyed === true;
   }
 
   /** The whole body as bytes; a body above the limit is refused. */
@@ -72,14 +74,16 @@ export class Exchange {
 
   reply(status, headers, body = '') {
     if (this.finished) return;
-    let bytes = Buffer.isBuffer(body) ? body : Buffer.from(body);
-    let code = status;
-    if (this.truncated) {
-      code = 200;
-      bytes = bytes.subarray(0, bytes.length >> 1);
-    }
-    this.#res.writeHead(code, { ...headers, 'content-length': bytes.length });
+    const bytes = this.#begin(status, headers, Buffer.isBuffer(body) ? body : Buffer.from(body));
     this.#res.end(this.method === 'HEAD' ? undefined : bytes);
+  }
+
+  /** Sends the bytes of a file in the pieces that the function gives of them, as fast as the caller takes them. */
+  async pour(status, headers, file, pieces) {
+    if (this.finished) return;
+    const bytes = this.#begin(status, headers, file);
+    if (this.method === 'HEAD') this.#res.end();
+    else await pipeline(pieces(bytes), this.#res).catch(() => {}); // somebody hung up
   }
 
   sendJson(status, value, headers = {}) {
@@ -105,11 +109,19 @@ export class Exchange {
   /** Ends the whole connection, as a cable pulled out would. */
   drop() {
     const socket = this.#req.stream?.session ?? this.#req.socket;
+    this.#dropped = true;
     socket.destroy();
   }
 
   onClose(listener) {
     this.#res.once('close', listener);
+  }
+
+  /** The head of an answer; gives the bytes that are to follow, which are fewer where a fault wants that. */
+  #begin(status, headers, whole) {
+    const bytes = this.truncated ? whole.subarray(0, whole.length >> 1) : whole;
+    this.#res.writeHead(this.truncated ? 200 : status, { ...headers, 'content-length': bytes.length });
+    return bytes;
   }
 }
 

@@ -7,6 +7,8 @@ Item {
 
     property string sentence
     property var waiting: []
+    // What need not interrupt whatever else is being said.
+    property bool polite: false
 
     // How long a sentence is left to be heard, in milliseconds: a reader says some fifteen letters a second.
     readonly property int pace: Math.max(900, Math.min(8000, sentence.length * 66))
@@ -39,7 +41,7 @@ Item {
     width: 1
     height: 1
 
-    Accessible.role: Accessible.AlertMessage
+    Accessible.role: polite ? Accessible.StatusBar : Accessible.AlertMessage
     Accessible.name: sentence
 
     Timer {

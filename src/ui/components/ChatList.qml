@@ -42,8 +42,10 @@ ListView {
             toLatest()
             return
         }
-        if (distance === -Infinity)
+        if (distance === -Infinity) {
+            contentY = highest // what was in sight is given the first messages: no others need be made
             positionViewAtEnd()
+        }
         contentY = Math.max(highest, Math.min(contentY + distance, lowest))
         follows = isAtLatest()
         hold()

@@ -53,6 +53,13 @@ struct AppSettingsForQml {
     QML_UNCREATABLE("made by the application model")
 };
 
+struct AppUpdaterForQml {
+    Q_GADGET
+    QML_FOREIGN(loom::AppUpdater)
+    QML_NAMED_ELEMENT(AppUpdater)
+    QML_UNCREATABLE("made by the application model")
+};
+
 struct NavigationPathForQml {
     Q_GADGET
     QML_FOREIGN(loom::NavigationPath)

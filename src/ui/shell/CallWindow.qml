@@ -55,16 +55,9 @@ Window {
         if (full && !fitting && width >= leastFull.width && height >= leastFull.height)
             fullSize = Qt.size(width, height)
     }
-    function showPages(): void {
-        const pages = app.frontSession().window as Window
-        if (pages) {
-            pages.raise()
-            pages.requestActivate()
-        }
-    }
     function openPiece(card: var, mode: int): void {
         app.frontSession().selected.openPiece(card.handle, card.item, mode)
-        showPages()
+        app.showPages()
     }
     // What nobody sees is not there, and moves nothing.
     function present(): void {

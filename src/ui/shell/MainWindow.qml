@@ -189,7 +189,7 @@ Window {
                 app: window.app
                 session: window.session
                 pane: "MiraDock.qml"
-                asynchronous: true // between frames: the page beside it has to find its new place, too
+                large: true
                 wanted: window.session.isMiraDocked
                 paneWidth: covers ? parent.width : Theme.layoutMiraDock
                 onFocusLeft: pages.takeFocus()

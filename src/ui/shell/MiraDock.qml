@@ -17,7 +17,6 @@ FocusScope {
 
     objectName: "miraDock"
     onVisibleChanged: if (visible) chat.takeFocus()
-    Component.onCompleted: chat.takeFocus()
     Keys.onEscapePressed: close()
 
     Rectangle {

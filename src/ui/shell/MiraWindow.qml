@@ -18,13 +18,6 @@ Window {
         window.close()
         app.dockMira()
     }
-    function showPages(): void {
-        const pages = app.frontSession().window as Window
-        if (pages) {
-            pages.raise()
-            pages.requestActivate()
-        }
-    }
 
     objectName: "miraWindow"
     width: 480
@@ -63,7 +56,7 @@ Window {
         focus: true
         app: window.app
         shown: window.visible
-        onDeparted: window.showPages()
+        onDeparted: window.app.showPages()
 
         places: IconButton {
             objectName: "dockMira"

@@ -25,7 +25,7 @@ Toast {
     tone: shown?.type === "order" ? "success" : "plain"
     title: shown?.title ?? ""
     text: shown?.body ?? ""
-    actionText: (shown?.link ?? "") !== "" || (shown?.isAboutSupport ?? false) ? qsTranslate("Loomstreet", "Open") : ""
+    actionText: (shown?.link ?? "") !== "" || (shown?.isAboutSupport ?? false) || (shown?.isAboutUpdate ?? false) ? qsTranslate("Loomstreet", "Open") : ""
 
     onHeldChanged: {
         if (!wanted)

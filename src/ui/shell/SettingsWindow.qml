@@ -18,7 +18,8 @@ Window {
         { id: "notifications", title: qsTranslate("Loomstreet", "Notifications"), icon: "bell" },
         { id: "sound", title: qsTranslate("Loomstreet", "Sound"), icon: "speaker" },
         { id: "appearance", title: qsTranslate("Loomstreet", "Appearance"), icon: "sun" },
-        { id: "privacy", title: qsTranslate("Loomstreet", "Privacy"), icon: "lock" }
+        { id: "privacy", title: qsTranslate("Loomstreet", "Privacy"), icon: "lock" },
+        { id: "updates", title: qsTranslate("Loomstreet", "Updates"), icon: "download" }
     ]
     readonly property int current: Math.max(0, pages.findIndex(page => page.id === settings.settingsTab))
 
@@ -113,7 +114,7 @@ Window {
             Item {
                 id: sheet
 
-                readonly property Item shown: [general, account, notifications, sound, appearance, privacy][window.current]
+                readonly property Item shown: [general, account, notifications, sound, appearance, privacy, updates][window.current]
 
                 anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.space4; topMargin: Theme.space3 }
                 height: shown.implicitHeight
@@ -161,6 +162,13 @@ Window {
                     width: parent.width
                     visible: sheet.shown === this
                     settings: window.settings
+                }
+                UpdatesSettings {
+                    id: updates
+
+                    width: parent.width
+                    visible: sheet.shown === this
+                    app: window.app
                 }
             }
         }

@@ -90,6 +90,13 @@ Item {
         anchors { right: parent.right; rightMargin: Theme.space2; verticalCenter: parent.verticalCenter }
         spacing: Theme.space1
 
+        UpdateButton {
+            anchors.verticalCenter: parent.verticalCenter
+            updater: bar.app.updater
+            session: bar.session
+            narrow: bar.narrow
+            onFocusLeft: bar.pageWanted()
+        }
         MarketButton {
             anchors.verticalCenter: parent.verticalCenter
             app: bar.app

@@ -55,6 +55,27 @@ TestCase {
         compare(marked.textFormat, Text.PlainText)
     }
 
+    Component { id: longText; ScrollingText { width: 200; maximumHeight: 100; type: Theme.type.small } }
+    function test_aLongTextIsReadToItsEndByKeysAndAShortOneIsNoStop() {
+        const item = createTemporaryObject(longText, test, { text: "One line." })
+        verify(!item.activeFocusOnTab)
+        verify(item.implicitHeight < 100)
+        item.text = "<b>Line</b>\n".repeat(50)
+        compare(item.implicitHeight, 100)
+        verify(item.activeFocusOnTab)
+        item.forceActiveFocus(Qt.TabFocusReason)
+        const words = findChild(item, "words")
+        const top = () => words.mapToItem(item, 0, 0).y
+        keyClick(Qt.Key_Up)
+        compare(top(), 0)
+        keyClick(Qt.Key_Down)
+        compare(top(), -item.type.line)
+        keyClick(Qt.Key_End)
+        compare(top(), 100 - words.height)
+        item.text = "<b>Other</b>\n".repeat(50)
+        compare(top(), 0)
+    }
+
     Component { id: skeleton; Skeleton { width: 100 } }
     function test_theSkeletonsClockRunsOnlyWhileOneIsSeenAndMotionIsWanted() {
         compare(SkeletonClock.watchers, 0)

@@ -8,6 +8,13 @@ namespace
 
 using WindowManagerTest = WindowFixture;
 
+bool isIn(const QQuickItem* item, const QString& name)
+{
+    while (item && item->objectName() != name)
+        item = item->parentItem();
+    return item != nullptr;
+}
+
 TEST_F(WindowManagerTest, AWindowShowsWhatWasAskedForBeforeItWasThere)
 {
     QQuickWindow& window = open({.link = QStringLiteral("loomstreet://cart")});
@@ -49,6 +56,37 @@ TEST_F(WindowManagerTest, AWindowAndItsSessionAgreeOnTheFullScreen)
     window.hide();
     expectFullScreen(true);
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(WindowManagerTest, AStylistWhoIsBeingMadeWhenHerWindowGoesComesToTheOthersAllTheSame)
+{
+    open({});
+    WindowSession& first = *model->keySession();
+    QQuickWindow& window = open({});
+    WindowSession& second = *model->keySession();
+    ASSERT_NE(&first, &second);
+    first.setMiraDocked(true);
+    second.setMiraDocked(true);
+    QCoreApplication::processEvents();
+    model->closeWindow(&first);
+    waitUntil([&] { return isIn(window.activeFocusItem(), QStringLiteral("miraDock")); }, "she is beside the page");
+}
+
+TEST_F(WindowManagerTest, AStylistWhoComesWhenNobodyWantsHerAnyMoreLeavesTheKeyboardWhereItIs)
+{
+    QQuickWindow& window = open({});
+    WindowSession& session = *model->keySession();
+    session.setMiraDocked(true);
+    session.setMiraDocked(false);
+    const auto isMade = [&] {
+        constexpr int ready = 1; // of a loader's states
+        const QQuickItem* const dock = find(QStringLiteral("miraDock"), window.contentItem());
+        return dock && dock->parentItem()->property("status").toInt() == ready;
+    };
+    waitUntil(isMade, "she has been made");
+    EXPECT_FALSE(isIn(window.activeFocusItem(), QStringLiteral("miraDock")));
+    session.setMiraDocked(true);
+    EXPECT_TRUE(isIn(window.activeFocusItem(), QStringLiteral("miraDock")));
 }
 
 } // namespace

@@ -7,6 +7,7 @@ import { listOrders, trackParcel } from './orders.mjs';
 import { readProfile, updateProfile } from './profile.mjs';
 import { exchangeProvider, startProviders } from './providers.mjs';
 import { brandStats, companions, feed, productStats, rails, searchAI } from './reco.mjs';
+import { readRelease } from './release.mjs';
 import { deleteAccount, requestCode, setPassword, signInWithCode, signInWithPassword } from './signIn.mjs';
 import { openThread, readGuide, readWeather, recommendSize, sendMessage } from './stylist.mjs';
 import { openSupport, readSupport, supportReplies, uploadSupport, writeSupport } from './support.mjs';
@@ -26,5 +27,5 @@ export const endpoints = [
   listNotifications, readNotifications, openSupport, writeSupport, uploadSupport, supportReplies, readSupport,
   prepareCheckout, revokeCheckout, startCheckout, track, wishlistSync,
   openThread, sendMessage, readGuide, recommendSize, readWeather,
-  feed, companions, rails, searchAI, productStats, brandStats, readConfig, reportCrash,
+  feed, companions, rails, searchAI, productStats, brandStats, readConfig, readRelease, reportCrash,
 ];

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <QString>
+
+#include <optional>
+#include <stop_token>
+
+namespace loom
+{
+
+/// What the store says of a release's image, and who must have signed it.
+struct ReleaseClaims {
+    std::optional<QString> sha256; ///< hexadecimal, in small or capital letters
+    std::optional<qint64> size;    ///< in bytes
+    QByteArray signature;          ///< as it was downloaded, in minisign's form
+    QByteArray publicKey;          ///< the publisher's, in minisign's form
+};
+
+enum class ReleaseFlaw {
+    Unreadable, ///< the file is not there, or cannot be read
+    Changed,    ///< another checksum or size than was said
+    NotSigned,  ///< not by the publisher
+    Stopped,
+};
+
+/// Holds an image to what is claimed of it: first the checksum, then the size, then the signature. Gives its SHA-256 in
+/// small hexadecimal letters. Blocks, in memory that does not grow with the file; any thread.
+[[nodiscard]] Result<QString, ReleaseFlaw> checkRelease(const QString& image, const ReleaseClaims& claims,
+                                                        const std::stop_token& stop = {});
+
+} // namespace loom
