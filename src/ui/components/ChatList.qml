@@ -42,10 +42,8 @@ ListView {
             toLatest()
             return
         }
-        if (distance === -Infinity) {
-            contentY = highest // what was in sight is given the first messages: no others need be made
+        if (distance === -Infinity)
             positionViewAtEnd()
-        }
         contentY = Math.max(highest, Math.min(contentY + distance, lowest))
         follows = isAtLatest()
         hold()
