@@ -301,7 +301,7 @@ int main(int argc, char* argv[])
                                  // What runs with little proves nothing of all the rest.
                                  .trial = options.isSafeMode ? nullptr : &trial};
     const int status = runShop(*config, options, updates, instance, engine, appearance);
-    if (status == 0)
-        trial.endedWell();
+    if (options.isSafeMode && status == 0)
+        trial.endedWell(); // of every other run the updater has said so
     return status;
 }

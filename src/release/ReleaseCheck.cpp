@@ -1,6 +1,7 @@
 #include "release/ReleaseCheck.h"
 
 #include "release/FileDigests.h"
+#include "release/InstallJob.h"
 #include "release/Minisign.h"
 #include "release/RecordFile.h"
 
@@ -30,6 +31,14 @@ Result<QString, ReleaseFlaw> checkRelease(const QString& image, const ReleaseCla
     if (!key || !signature || !isSignedBy(*key, *signature, digests->blake2b))
         return Unexpected(ReleaseFlaw::NotSigned);
     return sha256;
+}
+
+bool openVerified(QFile& file, const InstallJob& job, const std::stop_token& stop)
+{
+    if (!openPlainFile(file, job.image))
+        return false;
+    const auto digests = digestsOf(file, stop);
+    return digests && digests->sha256.toHex() == job.sha256.toLatin1();
 }
 
 } // namespace loom

@@ -7,8 +7,12 @@
 #include <optional>
 #include <stop_token>
 
+class QFile;
+
 namespace loom
 {
+
+struct InstallJob;
 
 /// What the store says of a release's image, and who must have signed it.
 struct ReleaseClaims {
@@ -29,5 +33,9 @@ enum class ReleaseFlaw {
 /// small hexadecimal letters. Blocks, in memory that does not grow with the file; any thread.
 [[nodiscard]] Result<QString, ReleaseFlaw> checkRelease(const QString& image, const ReleaseClaims& claims,
                                                         const std::stop_token& stop = {});
+
+/// Opens the image of a job, which has to be a plain file and the one that was verified when the job was written. What
+/// is read through `file` from then on is what was looked at, whatever lies at its path by now. Blocks; any thread.
+[[nodiscard]] bool openVerified(QFile& file, const InstallJob& job, const std::stop_token& stop = {});
 
 } // namespace loom

@@ -1,10 +1,10 @@
 #include "updater/Installation.h"
 
 #include "release/ApplicationFolder.h"
-#include "release/FileDigests.h"
 #include "release/FolderExchange.h"
 #include "release/InstallLock.h"
 #include "release/RecordFile.h"
+#include "release/ReleaseCheck.h"
 #include "updater/Descriptor.h"
 #include "updater/ImageUnpacker.h"
 #include "updater/ProcessEnd.h"
@@ -57,10 +57,7 @@ Result<void, Code> settle(const QString& staged, const QString& folder)
 Result<StagedFolder, Code> stage(const InstallJob& job, const QString& workingFolder, const InstallSettings& settings)
 {
     QFile image;
-    if (!openPlainFile(image, job.image))
-        return Unexpected(Code::BadImage);
-    const auto digests = digestsOf(image);
-    if (!digests || digests->sha256.toHex() != job.sha256.toLatin1()) {
+    if (!openVerified(image, job)) {
         qCWarning(logUpdater) << "the image is not the one that was verified";
         return Unexpected(Code::BadImage);
     }

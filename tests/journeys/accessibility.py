@@ -51,6 +51,11 @@ def wait_for(find, what):
     raise SystemExit(f"waited in vain for {what}")
 
 
+def expect(what, found, wanted):
+    if found != wanted:
+        raise SystemExit(f"{what}: {found} instead of {wanted}")
+
+
 def walk(item):
     """An item and all that can be seen in it."""
     yield item

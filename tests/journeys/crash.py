@@ -15,7 +15,7 @@ from pathlib import Path
 
 import pyatspi
 
-from accessibility import Shopper, wait_for, walk
+from accessibility import Shopper, expect, wait_for, walk
 from sandbox import told
 
 PROGRAM = sys.argv[1]
@@ -49,11 +49,6 @@ def marks():
     """Those of a run: what it was, and when it was alive last."""
     words = FOLDER / "lst_last_words"
     return (kept("lst_preferences.json").get("lst_running_session"), words.exists() and words.stat().st_mtime_ns)
-
-
-def expect(what, found, wanted):
-    if found != wanted:
-        raise SystemExit(f"{what}: {found} instead of {wanted}")
 
 
 class Run(Shopper):

@@ -17,7 +17,7 @@ from pathlib import Path
 
 import pyatspi
 
-from accessibility import Shopper, wait_for, walk
+from accessibility import Shopper, expect, wait_for, walk
 from sandbox import order, told
 
 BUILD = Path(sys.argv[1]).resolve()
@@ -34,11 +34,6 @@ own=$(readlink -f "$(dirname "$0")")/loomstreet.real
 (sleep 4; [ "$(readlink "/proc/$$/exe")" = "$own" ] && kill -9 $$) &
 exec "$own" "$@"
 """
-
-
-def expect(what, found, wanted):
-    if found != wanted:
-        raise SystemExit(f"{what}: {found} instead of {wanted}")
 
 
 def release(folder, version, build):

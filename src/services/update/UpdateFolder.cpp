@@ -1,7 +1,7 @@
 #include "services/update/UpdateFolder.h"
 
-#include "release/FileDigests.h"
 #include "release/InstallLock.h"
+#include "release/ReleaseCheck.h"
 
 #include <QDir>
 #include <QFile>
@@ -63,11 +63,8 @@ LastInstallation readLastInstallation(const QString& folder)
 
 bool isImageOf(const InstallJob& job, const std::stop_token& stop)
 {
-    QFile file(job.image);
-    if (QFileInfo(job.image).isSymLink() || !file.open(QIODevice::ReadOnly))
-        return false;
-    const auto digests = digestsOf(file, stop);
-    return digests && QString::fromLatin1(digests->sha256.toHex()) == job.sha256;
+    QFile file;
+    return openVerified(file, job, stop);
 }
 
 bool writeJob(const InstallJob& job, const QString& folder)
