@@ -22,10 +22,14 @@ set(needed
   qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-dialogs
   qml6-module-qtquick-layouts qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtwebchannel
   qml6-module-qtwebengine
-  # WebP pictures, the text's font, the browser
-  qt6-image-formats-plugins fonts-inter xdg-utils)
+  # WebP pictures, the browser
+  qt6-image-formats-plugins xdg-utils
+  # what the toolkit's own dialogs say in other languages
+  qt6-translations-l10n
+  # the text's font, the other scripts', and where a Thai word ends
+  fonts-inter fonts-noto-core fonts-noto-cjk libthai0)
 set(better_with
-  default-dbus-session-bus|dbus-session-bus ca-certificates fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji
+  default-dbus-session-bus|dbus-session-bus ca-certificates fonts-noto-color-emoji
   gnome-keyring|kwalletmanager libgl1-mesa-dri libqt6positioning6-plugins geoclue-2.0 pipewire-pulse|pulseaudio
   qt6-wayland)
 

@@ -22,6 +22,7 @@
 #include "ui/shell/EventLoopProbe.h"
 #include "ui/shell/PictureLoading.h"
 #include "ui/shell/StartReport.h"
+#include "ui/shell/WindowLanguage.h"
 #include "ui/shell/WindowManager.h"
 #include "ui/theme/Fonts.h"
 
@@ -110,7 +111,7 @@ void launch(const LaunchOptions& options, AppLifecycle& lifecycle)
 }
 
 int runShop(const AppConfig& config, const LaunchOptions& options, const UpdatePlatform& updates,
-            const SingleInstance& instance, QQmlEngine& engine, SystemAppearance& appearance)
+            const SingleInstance& instance, QQmlEngine& engine, SystemAppearance& appearance, WindowLanguage& language)
 {
     SystemClock clock;
     SystemRandom random;
@@ -145,10 +146,14 @@ int runShop(const AppConfig& config, const LaunchOptions& options, const UpdateP
                             .isSafeMode = options.isSafeMode});
     WindowManager windows(engine, model, appearance);
     model.setWindowHost(&windows);
+    language.follow(*model.market());
     // Behind every other translator, so that it is asked first.
-    CopyTranslator copy(*model.remoteConfig());
+    CopyTranslator copy(*model.remoteConfig(), &language.translator());
     QCoreApplication::installTranslator(&copy);
     QObject::connect(&copy, &CopyTranslator::changed, &windows, &WindowManager::retranslate);
+    QObject::connect(&language, &WindowLanguage::changed, &windows, &WindowManager::retranslate);
+    QObject::connect(&language, &WindowLanguage::directionChanging, &windows, &WindowManager::holdDirection);
+    model.retranslate(); // it was made in the system's language
     AppLifecycle lifecycle(model, windows, clock);
 
     windows.setActivate([&comingForward](QWindow& window) { comingForward.activate(window); });
@@ -277,6 +282,15 @@ int main(int argc, char* argv[])
                                   : 0;
     }
     registerFonts();
+    WindowLanguage language(options.isPseudoLanguage ? WindowLanguage::Wording::Pseudo
+                                                     : WindowLanguage::Wording::Translated);
+    language.speak(appLanguageFor(readSystemLocale()));
+    // The theme has its letters from this, and before the texts change.
+    const auto setLetters = [&engine, &language] {
+        engine.setUiLanguage(appLanguageCode(language.language()));
+    };
+    QObject::connect(&language, &WindowLanguage::changed, &engine, setLetters);
+    setLetters();
     DesktopAppearance appearance;
     if (!authority.result()) {
         trial.endedWell();
@@ -300,7 +314,7 @@ int main(int argc, char* argv[])
                                  .openExternally = openInBrowser,
                                  // What runs with little proves nothing of all the rest.
                                  .trial = options.isSafeMode ? nullptr : &trial};
-    const int status = runShop(*config, options, updates, instance, engine, appearance);
+    const int status = runShop(*config, options, updates, instance, engine, appearance, language);
     if (options.isSafeMode && status == 0)
         trial.endedWell(); // of every other run the updater has said so
     return status;

@@ -9,7 +9,7 @@ _loomstreet() {
     --action) mapfile -t COMPREPLY < <(compgen -W "new-window search bag" -- "$word") ;;
     --ca-file) compopt -o filenames 2>/dev/null; mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     *)
-      mapfile -t COMPREPLY < <(compgen -W "--new-window --action --quit --safe-mode --ca-file --help --version" -- "$word")
+      mapfile -t COMPREPLY < <(compgen -W "--new-window --action --quit --safe-mode --pseudo-language --ca-file --help --version" -- "$word")
       ;;
   esac
 }

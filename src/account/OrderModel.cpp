@@ -16,11 +16,6 @@ namespace
 
 constexpr std::array way{OrderStatus::Confirmed, OrderStatus::Packed, OrderStatus::Shipped, OrderStatus::Delivered};
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Loomstreet", text);
-}
-
 } // namespace
 
 OrderModel::OrderModel(QString id, OrdersStore& store, const MoneyFormat& money, const DateFormat& dates,
@@ -133,19 +128,19 @@ QVariantList OrderModel::sums() const
         list.append(QVariantMap{{QStringLiteral("name"), name}, {QStringLiteral("amount"), amount}});
     };
     if (m_order.subtotal)
-        add(translated(QT_TRANSLATE_NOOP("Loomstreet", "Subtotal")), m_money.text(*m_order.subtotal));
+        add(QCoreApplication::translate("Loomstreet", "Subtotal"), m_money.text(*m_order.subtotal));
     if (m_order.discount && m_order.discount->amount > 0) {
         Money discount = *m_order.discount;
         discount.amount = -discount.amount;
-        add(translated(QT_TRANSLATE_NOOP("Loomstreet", "Discount")), m_money.text(discount));
+        add(QCoreApplication::translate("Loomstreet", "Discount"), m_money.text(discount));
     }
     if (m_order.shipping) {
-        add(translated(QT_TRANSLATE_NOOP("Loomstreet", "Shipping")),
+        add(QCoreApplication::translate("Loomstreet", "Shipping"),
             m_order.shipping->amount > 0 ? m_money.text(*m_order.shipping)
-                                         : translated(QT_TRANSLATE_NOOP("Loomstreet", "Free")));
+                                         : QCoreApplication::translate("Loomstreet", "Free"));
     }
     if (m_order.tax && m_order.tax->amount > 0)
-        add(translated(QT_TRANSLATE_NOOP("Loomstreet", "Taxes")), m_money.text(*m_order.tax));
+        add(QCoreApplication::translate("Loomstreet", "Taxes"), m_money.text(*m_order.tax));
     return list;
 }
 

@@ -10,69 +10,59 @@
 namespace loom
 {
 
-namespace
-{
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Loomstreet", text);
-}
-
-} // namespace
-
 QString statusText(OrderStatus status)
 {
     switch (status) {
     case OrderStatus::Confirmed:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Confirmed"));
+        return QCoreApplication::translate("Loomstreet", "Confirmed");
     case OrderStatus::Packed:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Packed"));
+        return QCoreApplication::translate("Loomstreet", "Packed");
     case OrderStatus::Shipped:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "On the way"));
+        return QCoreApplication::translate("Loomstreet", "On the way");
     case OrderStatus::Delivered:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Delivered"));
+        return QCoreApplication::translate("Loomstreet", "Delivered");
     case OrderStatus::Cancelled:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Cancelled"));
+        return QCoreApplication::translate("Loomstreet", "Cancelled");
     case OrderStatus::Unknown:
         break;
     }
-    return translated(QT_TRANSLATE_NOOP("Loomstreet", "In progress"));
+    return QCoreApplication::translate("Loomstreet", "In progress");
 }
 
 QString statusText(PackageStatus status)
 {
     switch (status) {
     case PackageStatus::Label:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Waiting for the carrier"));
+        return QCoreApplication::translate("Loomstreet", "Waiting for the carrier");
     case PackageStatus::Transit:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "On the way"));
+        return QCoreApplication::translate("Loomstreet", "On the way");
     case PackageStatus::Out:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Out for delivery"));
+        return QCoreApplication::translate("Loomstreet", "Out for delivery");
     case PackageStatus::Delivered:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Delivered"));
+        return QCoreApplication::translate("Loomstreet", "Delivered");
     case PackageStatus::Problem:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Delivery problem"));
+        return QCoreApplication::translate("Loomstreet", "Delivery problem");
     case PackageStatus::Unknown:
         break;
     }
-    return translated(QT_TRANSLATE_NOOP("Loomstreet", "In progress"));
+    return QCoreApplication::translate("Loomstreet", "In progress");
 }
 
 QString statusText(RefundStatus status)
 {
     switch (status) {
     case RefundStatus::Requested:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Return requested"));
+        return QCoreApplication::translate("Loomstreet", "Return requested");
     case RefundStatus::Approved:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Return approved"));
+        return QCoreApplication::translate("Loomstreet", "Return approved");
     case RefundStatus::Refunded:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Refunded"));
+        return QCoreApplication::translate("Loomstreet", "Refunded");
     case RefundStatus::Refused:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "Return refused"));
+        return QCoreApplication::translate("Loomstreet", "Return refused");
     case RefundStatus::Unknown:
         break;
     }
-    return translated(QT_TRANSLATE_NOOP("Loomstreet", "In progress"));
+    return QCoreApplication::translate("Loomstreet", "In progress");
 }
 
 QString toneOf(OrderStatus status)
@@ -120,8 +110,7 @@ QString pieceCountText(const Order& order)
 {
     const int count = std::accumulate(order.lines.begin(), order.lines.end(), 0,
                                       [](int sum, const OrderLine& line) { return sum + line.quantity; });
-    return count == 1 ? translated(QT_TRANSLATE_NOOP("Loomstreet", "1 piece"))
-                      : translated(QT_TRANSLATE_NOOP("Loomstreet", "%1 pieces")).arg(count);
+    return QCoreApplication::translate("Loomstreet", "%Ln pieces", nullptr, count);
 }
 
 QString summary(const Order& order)
@@ -129,14 +118,9 @@ QString summary(const Order& order)
     if (order.lines.empty())
         return {};
     const QString& first = order.lines.front().title;
-    switch (order.lines.size()) {
-    case 1:
-        return first;
-    case 2:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "%1 and 1 more")).arg(first);
-    default:
-        return translated(QT_TRANSLATE_NOOP("Loomstreet", "%1 and %2 more")).arg(first).arg(order.lines.size() - 1);
-    }
+    const int others = static_cast<int>(order.lines.size()) - 1;
+    return others == 0 ? first
+                       : QCoreApplication::translate("Loomstreet", "%1 and %Ln more", nullptr, others).arg(first);
 }
 
 QVariantMap describe(const Package& package, const DateFormat& dates)

@@ -56,8 +56,8 @@ QString packagesText(const Order& order)
 {
     if (order.packages.empty())
         return {};
-    if (order.packages.size() > 1)
-        return QCoreApplication::translate("Loomstreet", "%1 packages").arg(order.packages.size());
+    if (const int count = static_cast<int>(order.packages.size()); count > 1)
+        return QCoreApplication::translate("Loomstreet", "%Ln packages", nullptr, count);
     const Package& package = order.packages.front();
     const QString latest = package.events.empty() ? statusText(package.status) : package.events.front().text;
     return latest == statusText(order.status) ? QString() : latest;

@@ -3,8 +3,7 @@
 #include "account/AlertsStore.h"
 #include "account/AuthStore.h"
 #include "catalog/ProductModel.h"
-
-#include <QCoreApplication>
+#include "catalog/VariantSelection.h"
 
 namespace loom
 {
@@ -75,7 +74,7 @@ QString ProductAlerts::email() const
 QString ProductAlerts::message() const
 {
     if (!m_missingOption.isEmpty())
-        return QCoreApplication::translate("Loomstreet", "Choose a %1 first.").arg(m_missingOption.toLower());
+        return optionMissingText(m_missingOption);
     const auto& refused = m_alerts.refused();
     const bool isOurs = refused && (*refused == subject(AlertKind::Restock) || *refused == subject(AlertKind::Price));
     return isOurs ? m_alerts.changeErrorText() : QString();

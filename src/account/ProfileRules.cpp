@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -15,8 +16,8 @@ constexpr int firstYear = 1900;
 constexpr qsizetype fewestDigits = 5;
 constexpr qsizetype longestPhone = 30;
 
-/// With blanks that keep it together.
-const QString examplePhone = QStringLiteral("+1\u00a0212\u00a0555\u00a00100");
+/// With blanks that keep it together, and a mark that keeps it in order where lines begin on the right.
+const QString examplePhone = QStringLiteral("\u200e+1\u00a0212\u00a0555\u00a00100");
 
 /// Any day with two figures for each of its parts serves as an example.
 constexpr int exampleYear = 1990;
@@ -30,6 +31,18 @@ QString dayFormat(const QLocale& locale)
     if (!format.contains(QLatin1String("yyyy")))
         format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
     return format;
+}
+
+/// What the long form of the place has of month and year, with what it writes between them.
+QString monthFormat(const QLocale& locale)
+{
+    static const QRegularExpression yearFirst(QStringLiteral("(yyyy[^dM]*M+[^d]*)d"));
+    static const QRegularExpression monthFirst(QStringLiteral("M+(?:\\s|,|'[^']*')*yyyy"));
+    const QString format = locale.dateFormat(QLocale::LongFormat);
+    if (const QRegularExpressionMatch match = yearFirst.match(format); match.hasMatch())
+        return match.captured(1).trimmed();
+    const QRegularExpressionMatch match = monthFirst.match(format);
+    return match.hasMatch() ? match.captured() : QStringLiteral("MMMM yyyy");
 }
 
 /// Every run of digits, of whatever script.
@@ -85,7 +98,7 @@ QString flawText(ProfileFlaw flaw, const QLocale& locale)
     case ProfileFlaw::None:
         return {};
     case ProfileFlaw::NameTooLong:
-        return QCoreApplication::translate("Loomstreet", "Use at most %1 characters.").arg(longestName);
+        return QCoreApplication::translate("Loomstreet", "Use at most %Ln characters.", nullptr, longestName);
     case ProfileFlaw::NotAPhone:
         return QCoreApplication::translate("Loomstreet", "Enter a phone number, such as %1.").arg(examplePhone);
     case ProfileFlaw::NotADate:
@@ -104,6 +117,15 @@ QString dayText(QDate day, const QLocale& locale)
 QString exampleDayText(const QLocale& locale)
 {
     return dayText(QDate(exampleYear, exampleMonth, exampleDay), locale);
+}
+
+QString monthText(QDate day, const QLocale& locale, MonthForm form)
+{
+    QString format = monthFormat(locale);
+    if (form == MonthForm::OnItsOwn)
+        format.replace(QLatin1String("MMMM"),
+                       QLatin1Char('\'') + locale.standaloneMonthName(day.month()) + QLatin1Char('\''));
+    return locale.toString(day, format);
 }
 
 QDate parseDay(const QString& text, const QLocale& locale)

@@ -25,6 +25,10 @@ enum class ProfileFlaw { None, NameTooLong, NotAPhone, NotADate, NotInThePast };
 [[nodiscard]] QString dayText(QDate day, const QLocale& locale);
 /// Some day, written so.
 [[nodiscard]] QString exampleDayText(const QLocale& locale);
+/// A month and its year, in the order of the place: "April 1991", "1991年4月". Within a sentence many languages inflect
+/// the month, on its own they do not.
+enum class MonthForm { InSentence, OnItsOwn };
+[[nodiscard]] QString monthText(QDate day, const QLocale& locale, MonthForm form);
 /// The day that was typed: three numbers in the order of the place, or year first, with the year in full and anything
 /// between them. Not valid where it is none.
 [[nodiscard]] QDate parseDay(const QString& text, const QLocale& locale);

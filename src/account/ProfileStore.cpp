@@ -50,8 +50,11 @@ ProfileStore::ProfileStore(AuthStore& auth, Announcements& announcements, Widget
 
 QLocale ProfileStore::locale() const
 {
-    return QLocale(m_market.languageCode().replace(QLatin1Char('-'), QLatin1Char('_')) + QLatin1Char('_') +
-                   m_market.country());
+    const QLocale own = appLocale(m_market.context().language);
+    const QLocale place(m_market.languageCode().replace(QLatin1Char('-'), QLatin1Char('_')) + QLatin1Char('_') +
+                        m_market.country());
+    // The figures are those of everything else in the window.
+    return place.zeroDigit() == own.zeroDigit() ? place : own;
 }
 
 QDate ProfileStore::today() const
@@ -68,7 +71,12 @@ QString ProfileStore::country() const
 QString ProfileStore::memberSince() const
 {
     const auto since = shown().memberSince;
-    return since ? locale().toString(since->toLocalTime().date(), QStringLiteral("MMMM yyyy")) : QString();
+    return since ? monthText(since->toLocalTime().date(), locale(), MonthForm::InSentence) : QString();
+}
+
+QString ProfileStore::monthTitle(int year, int month) const
+{
+    return monthText(QDate(year, month, 1), locale(), MonthForm::OnItsOwn);
 }
 
 void ProfileStore::setName(const QString& name)

@@ -62,6 +62,8 @@ public:
     /// Not valid where what was typed is no date.
     [[nodiscard]] QDateTime birthdayDate() const;
     [[nodiscard]] QString birthdayExample() const;
+    /// A page of the calendar; `month` counts from 1.
+    [[nodiscard]] Q_INVOKABLE QString monthTitle(int year, int month) const;
     /// The locale by which dates are written.
     [[nodiscard]] QString place() const { return locale().name(); }
 

@@ -206,6 +206,7 @@ AppModel::~AppModel() = default;
 void AppModel::connectStores()
 {
     connect(&m_market, &MarketStore::revisionChanged, &m_cart, &CartStore::syncBuyerCountry);
+    connect(&m_market, &MarketStore::languageChanged, &m_cart, &CartStore::refresh); // what its pieces are called
     // What grew old while nobody looked is asked for again when somebody does.
     connect(&m_session, &AppSession::isActiveChanged, this, [this] {
         m_crashReporter.setActive(m_session.isActive());
@@ -225,10 +226,13 @@ void AppModel::connectStores()
         m_recoSaving.complete();
     });
     const auto follow = [this] {
-        m_remoteConfig.setLanguage(m_market.context().language);
+        const AppLanguage language = m_market.context().language;
+        m_money.setLanguage(language);
+        m_dates.setLanguage(language);
+        m_remoteConfig.setLanguage(language);
     };
     follow();
-    connect(&m_market, &MarketStore::revisionChanged, &m_remoteConfig, follow);
+    connect(&m_market, &MarketStore::languageChanged, this, follow);
     // Later: by then the texts are looked up anew.
     connect(&m_remoteConfig, &RemoteConfig::copyChanged, &m_texts, &TextChanges::changed, Qt::QueuedConnection);
     // By then it is known whether the store wants reports, and updates by themselves.
@@ -353,6 +357,8 @@ void AppModel::retranslate()
     m_news.settings().retranslate();
     m_calls.session().retranslate();
     m_updater.retranslate();
+    for (const auto& session : m_sessions)
+        session->retranslate();
 }
 
 void AppModel::openNews(WindowSession& session, const AppNotification& news)

@@ -1,6 +1,7 @@
 #include "app/NavigationPath.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace loom
 {
@@ -27,6 +28,13 @@ void NavigationPath::show(std::vector<VisitedPage> pages, int top)
     // Told even when the number stays: the page in that row may be another.
     m_top = top;
     Q_EMIT topChanged();
+}
+
+void NavigationPath::rename(int row, const QString& title)
+{
+    QString& former = m_pages[static_cast<std::size_t>(row)].entry.title;
+    if (std::exchange(former, title) != title)
+        Q_EMIT dataChanged(index(row), index(row), {EntryRole});
 }
 
 int NavigationPath::rowCount(const QModelIndex& parent) const

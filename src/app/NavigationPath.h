@@ -36,6 +36,9 @@ public:
     /// stay.
     void show(std::vector<VisitedPage> pages, int top);
 
+    /// What is in the row is called so in the language of the window now.
+    void rename(int row, const QString& title);
+
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;

@@ -204,6 +204,20 @@ void Router::resolveAgain()
         apply(selection());
 }
 
+void Router::retranslate()
+{
+    for (int row = 0; row < m_navigationPath.rowCount(); ++row) {
+        const VisitedPage shown = m_navigationPath.pages()[static_cast<std::size_t>(row)];
+        History::Page* const page = m_history.find(shown.id);
+        if (!page)
+            continue;
+        if (page->title == shown.entry.title)
+            page->title.clear(); // it had nothing else to tell
+        m_navigationPath.rename(row, entryOf(*page).title);
+    }
+    Q_EMIT titleChanged();
+}
+
 TabState Router::state() const
 {
     TabState state{.isPinned = m_isPinned,

@@ -158,6 +158,8 @@ public:
     /// The store may have switched features off or on: pages give their places up for the notice that says so, and
     /// come back to them.
     void resolveAgain();
+    /// The windows speak another language now.
+    void retranslate();
 
     /// A page tells its title.
     Q_INVOKABLE void setPageTitle(int pageID, const QString& title);

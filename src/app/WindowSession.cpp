@@ -54,6 +54,12 @@ void WindowSession::resolvePagesAgain()
         m_tabs.at(i)->resolveAgain();
 }
 
+void WindowSession::retranslate()
+{
+    for (int i = 0; i < m_tabs.count(); ++i)
+        m_tabs.at(i)->retranslate();
+}
+
 WindowState WindowSession::state() const
 {
     WindowState state{.tabs = {},

@@ -70,6 +70,8 @@ public:
     Router* openTab(SidebarItem section, TabActivation activation);
     /// The store may have switched features off or on.
     void resolvePagesAgain();
+    /// The windows speak another language now.
+    void retranslate();
     /// Opens a link from outside: a page in a tab of its own; what is no page, such as the cart's panel, needs none.
     void openLink(const QString& link);
     Q_INVOKABLE void newTab();

@@ -3,6 +3,8 @@
 #include "catalog/MarketStore.h"
 #include "catalog/StorefrontAPI.h"
 
+#include <algorithm>
+
 namespace loom
 {
 
@@ -44,6 +46,12 @@ QCoro::Task<> CollectionTilesModel::fetch()
     m_isLoaded = true;
     if (*tiles == m_tiles)
         co_return;
+    // The same collections by other names keep their places, and their pictures.
+    if (std::ranges::equal(*tiles, m_tiles, {}, &CollectionTile::handle, &CollectionTile::handle)) {
+        m_tiles = *std::move(tiles);
+        Q_EMIT dataChanged(index(0), index(count() - 1));
+        co_return;
+    }
     beginResetModel();
     m_tiles = *std::move(tiles);
     endResetModel();

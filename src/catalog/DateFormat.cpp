@@ -13,7 +13,7 @@ struct DateFormat::Formatter {
     explicit Formatter(AppLanguage language)
     {
         UErrorCode status = U_ZERO_ERROR;
-        const QByteArray locale = appLanguageCode(language).toLatin1();
+        const QByteArray locale = icuLocale(language);
         day = udat_open(UDAT_NONE, UDAT_MEDIUM, locale.constData(), nullptr, 0, nullptr, 0, &status);
         time = udat_open(UDAT_SHORT, UDAT_NONE, locale.constData(), nullptr, 0, nullptr, 0, &status);
         moment = udat_open(UDAT_SHORT, UDAT_MEDIUM, locale.constData(), nullptr, 0, nullptr, 0, &status);
@@ -53,11 +53,16 @@ QString format(UDateFormat* formatter, const QDateTime& date)
 } // namespace
 
 DateFormat::DateFormat(AppLanguage language)
-    : m_formatter(std::make_unique<Formatter>(language))
 {
+    setLanguage(language);
 }
 
 DateFormat::~DateFormat() = default;
+
+void DateFormat::setLanguage(AppLanguage language)
+{
+    m_formatter = std::make_unique<Formatter>(language);
+}
 
 QString DateFormat::day(const QDateTime& date) const
 {

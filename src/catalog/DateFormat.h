@@ -18,6 +18,8 @@ public:
     DateFormat& operator=(const DateFormat&) = delete;
     ~DateFormat();
 
+    void setLanguage(AppLanguage language);
+
     /// "Nov 21, 2026"; empty for a date that is none.
     [[nodiscard]] QString day(const QDateTime& date) const;
     /// "3:04 PM"; empty for a date that is none.

@@ -64,7 +64,7 @@ void MarketChoicesModel::addCountries()
     // The shop may have stopped selling there: the shopper still is where they are.
     if (!hasCurrent && !m_choices.empty())
         add(context.country, m_market.countryName(), m_market.currency());
-    QCollator collator{QLocale(appLanguageCode(context.language))};
+    QCollator collator{appLocale(context.language)};
     std::ranges::sort(m_choices, [&](const Choice& one, const Choice& other) {
         const int order = collator.compare(one.title, other.title);
         return order != 0 ? order < 0 : one.code < other.code;

@@ -104,6 +104,7 @@ bool MarketStore::setCountry(const QString& isoCode)
     m_client.setCountry(country);
     m_preferences.set(preferences::marketCountry, country);
     setCurrency({}); // the former market's
+    Q_EMIT countryChanged();
     raiseRevision();
     Q_EMIT countriesChanged();
     refreshRate();
@@ -117,6 +118,7 @@ void MarketStore::setLanguage(AppLanguage language)
     m_context.language = language;
     m_client.setLanguage(language);
     m_preferences.set(preferences::language, appLanguageCode(language));
+    Q_EMIT languageChanged();
     raiseRevision();
     refreshCountries(); // their names are in the former language
 }

@@ -84,6 +84,10 @@ public:
     }
 
 Q_SIGNALS:
+    /// Before the revision, so that whoever writes texts anew on its account finds them in the new language.
+    void languageChanged();
+    /// Before the revision too: prices shown are another market's.
+    void countryChanged();
     void revisionChanged();
     void countriesChanged();
     /// They are being fetched, or no more.

@@ -14,7 +14,7 @@ struct MoneyFormat::Formatter {
     explicit Formatter(AppLanguage language)
     {
         UErrorCode status = U_ZERO_ERROR;
-        const QByteArray locale = appLanguageCode(language).toLatin1();
+        const QByteArray locale = icuLocale(language);
         number = unum_open(UNUM_CURRENCY, nullptr, 0, locale.constData(), nullptr, &status);
         round = unum_open(UNUM_CURRENCY, nullptr, 0, locale.constData(), nullptr, &status);
         if (round)
@@ -35,6 +35,22 @@ struct MoneyFormat::Formatter {
 namespace
 {
 
+/// Where lines begin on the right, the sign at the end of "US$" would leave the letters that it belongs to, and a
+/// number below zero would draw its currency to the side that those above do not have it on.
+QString withSignKept(QString text)
+{
+    constexpr QChar leftToRightMark(0x200e);
+    constexpr QChar rightToLeftMark(0x200f);
+    const bool endsWithSign = text.size() > 1 && text.back().category() == QChar::Symbol_Currency &&
+                              text.at(text.size() - 2).script() == QChar::Script_Latin;
+    if (!endsWithSign || !text.startsWith(rightToLeftMark))
+        return text;
+    const qsizetype space = text.lastIndexOf(QChar::Nbsp);
+    if (text.at(1) == leftToRightMark && space > 0)
+        text.insert(space, rightToLeftMark);
+    return text + leftToRightMark;
+}
+
 QString format(UNumberFormat* formatter, const Money& money)
 {
     std::array<UChar, 96> buffer{};
@@ -46,7 +62,7 @@ QString format(UNumberFormat* formatter, const Money& money)
                                       reinterpret_cast<UChar*>(currency.data()), // NOLINT: ICU writes nothing
                                       buffer.data(), static_cast<int32_t>(buffer.size()), nullptr, &status);
         if (U_SUCCESS(status) && status != U_STRING_NOT_TERMINATED_WARNING)
-            return QString::fromUtf16(buffer.data(), length);
+            return withSignKept(QString::fromUtf16(buffer.data(), length));
     }
     return (QString::number(money.amount, 'f', 2) + QLatin1Char(' ') + money.currencyCode).trimmed();
 }

@@ -11,6 +11,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace loom
 {
 
@@ -114,11 +116,11 @@ QString ProductModel::stockText() const
     const ProductVariant* const variant = m_product ? selectedVariant(*m_product, m_selection) : nullptr;
     if (!variant || !variant->availableForSale || !variant->quantityAvailable)
         return {};
-    const qint64 left = *variant->quantityAvailable;
+    const int left = static_cast<int>(std::min<qint64>(*variant->quantityAvailable, fewLeft));
     if (left <= 0 || left >= fewLeft)
         return {};
     return left == 1 ? QCoreApplication::translate("Loomstreet", "Only one left")
-                     : QCoreApplication::translate("Loomstreet", "Only %n left", nullptr, static_cast<int>(left));
+                     : QCoreApplication::translate("Loomstreet", "Only %Ln left", nullptr, left);
 }
 
 QStringList ProductModel::pictures() const

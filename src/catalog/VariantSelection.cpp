@@ -1,5 +1,7 @@
 #include "catalog/VariantSelection.h"
 
+#include <QCoreApplication>
+#include <QLocale>
 #include <QSet>
 #include <QVariant>
 
@@ -139,6 +141,14 @@ const ProductVariant* shownVariant(const Product& product, const Selection& sele
             best = &variant;
     }
     return best;
+}
+
+QString optionMissingText(const QString& option)
+{
+    const QLocale locale;
+    // German alone writes its nouns with capitals.
+    return QCoreApplication::translate("Loomstreet", "Choose a %1 first.")
+        .arg(locale.language() == QLocale::German ? option : locale.toLower(option));
 }
 
 } // namespace loom

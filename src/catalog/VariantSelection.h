@@ -58,6 +58,9 @@ using Selection = QMap<QString, QString>;
 /// The variant that is chosen; null while an option is open or the combination does not exist.
 [[nodiscard]] const ProductVariant* selectedVariant(const Product& product, const Selection& selection);
 
+/// What a shopper is told who has yet to choose a value of the option.
+[[nodiscard]] QString optionMissingText(const QString& option);
+
 /// The variant that prices and pictures are shown of: the chosen one, else the cheapest that fits what is chosen, one
 /// that can be bought before one that cannot. Null when none fits.
 [[nodiscard]] const ProductVariant* shownVariant(const Product& product, const Selection& selection);

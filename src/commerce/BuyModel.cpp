@@ -64,9 +64,7 @@ QString BuyModel::message() const
     case Obstacle::None:
         return {};
     case Obstacle::OptionMissing:
-        return missingOption().isEmpty()
-                   ? QString()
-                   : QCoreApplication::translate("Loomstreet", "Choose a %1 first.").arg(missingOption().toLower());
+        return missingOption().isEmpty() ? QString() : optionMissingText(missingOption());
     case Obstacle::SoldOut:
         return QCoreApplication::translate("Loomstreet", "Sold out");
     case Obstacle::Failed:

@@ -119,8 +119,7 @@ int CartModel::itemCount() const
 
 QString CartModel::itemCountText() const
 {
-    return itemCount() == 1 ? QCoreApplication::translate("Loomstreet", "1 item in your cart")
-                            : QCoreApplication::translate("Loomstreet", "%1 items in your cart").arg(itemCount());
+    return QCoreApplication::translate("Loomstreet", "%Ln items in your cart", nullptr, itemCount());
 }
 
 QUrl CartModel::checkoutURL() const
@@ -330,9 +329,9 @@ QString CartModel::note(const Row& row) const
         return QCoreApplication::translate("Loomstreet", "Sold out");
     if (!row.isClamped)
         return {};
-    return row.line.quantity == 1 ? QCoreApplication::translate("Loomstreet", "Only one left")
-                                  : QCoreApplication::translate("Loomstreet", "Only %n left", nullptr,
-                                                                static_cast<int>(row.line.quantity));
+    const int left = static_cast<int>(row.line.quantity);
+    return left == 1 ? QCoreApplication::translate("Loomstreet", "Only one left")
+                     : QCoreApplication::translate("Loomstreet", "Only %Ln left", nullptr, left);
 }
 
 int CartModel::rowCount(const QModelIndex& parent) const

@@ -47,10 +47,8 @@ QString CheckoutModel::completionText() const
 
 QString CheckoutModel::summaryText() const
 {
-    if (m_goods.pieces == 1)
-        return QCoreApplication::translate("Loomstreet", "1 piece  ·  confirmation sent to your email");
-    return QCoreApplication::translate("Loomstreet", "%1 pieces  ·  confirmation sent to your email")
-        .arg(m_goods.pieces);
+    const int pieces = static_cast<int>(m_goods.pieces);
+    return QCoreApplication::translate("Loomstreet", "%Ln pieces  ·  confirmation sent to your email", nullptr, pieces);
 }
 
 QString CheckoutModel::userAgent() const

@@ -62,7 +62,11 @@ CompareModel::CompareModel(const QStringList& handles, std::vector<const KeptPie
     , m_lists(std::move(lists))
     , m_services(services)
 {
-    connect(&services.market, &MarketStore::revisionChanged, this, &CompareModel::reload);
+    connect(&services.market, &MarketStore::countryChanged, this, &CompareModel::reload);
+    connect(&services.market, &MarketStore::languageChanged, this, [this] {
+        for (const auto& column : m_columns)
+            static_cast<void>(fetch(column.get()));
+    });
     connect(&services.market, &MarketStore::currencyChanged, this, &CompareModel::columnsChanged);
     for (const KeptPieces* list : m_lists)
         connect(list, &KeptPieces::changed, this, &CompareModel::candidatesChanged);

@@ -72,7 +72,8 @@ KeptPiecesModel::KeptPiecesModel(const KeptPieces& kept, Services services, QObj
     , m_fetching([this] { Q_EMIT stateChanged(); })
 {
     connect(&kept, &KeptPieces::changed, this, &KeptPiecesModel::compose);
-    connect(&services.market, &MarketStore::revisionChanged, this, &KeptPiecesModel::forgetAnswers);
+    connect(&services.market, &MarketStore::countryChanged, this, &KeptPiecesModel::forgetAnswers);
+    connect(&services.market, &MarketStore::languageChanged, this, &KeptPiecesModel::reload);
     connect(&services.market, &MarketStore::currencyChanged, this, &KeptPiecesModel::compose);
     compose();
 }

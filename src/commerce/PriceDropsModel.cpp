@@ -16,7 +16,11 @@ PriceDropsModel::PriceDropsModel(std::vector<const KeptPieces*> lists, KeptPiece
     , m_pieces(services.money, services.clock)
     , m_loading([this] { Q_EMIT stateChanged(); })
 {
-    connect(&services.market, &MarketStore::revisionChanged, this, [this] {
+    connect(&services.market, &MarketStore::languageChanged, this, [this] {
+        if (phase() != Phase::Idle)
+            reload();
+    });
+    connect(&services.market, &MarketStore::countryChanged, this, [this] {
         if (phase() == Phase::Idle)
             return;
         m_pieces.show({}); // prices of another market

@@ -5,8 +5,6 @@
 #include "discovery/NotInterested.h"
 #include "discovery/RecoAPI.h"
 
-#include <QLocale>
-
 namespace loom
 {
 
@@ -28,14 +26,7 @@ ProductCompanions::ProductCompanions(QString handle, const RecoServices& service
     connect(&services.market, &MarketStore::revisionChanged, this, [this] {
         if (m_similar.count() > 0)
             reload();
-        Q_EMIT changed(); // a number is written in another way
     });
-}
-
-QString ProductCompanions::unitsSoldText() const
-{
-    return unitsSold() > 0 ? QLocale(appLanguageCode(m_services.market.context().language)).toString(unitsSold())
-                           : QString();
 }
 
 void ProductCompanions::exclude()

@@ -21,7 +21,7 @@ class ProductCompanions final : public QObject
     Q_PROPERTY(loom::RecoCards* alsoViewed READ alsoViewed CONSTANT)
     Q_PROPERTY(loom::RecoCards* outfit READ outfit CONSTANT)
     Q_PROPERTY(loom::ProductListModel* similar READ similar CONSTANT)
-    Q_PROPERTY(QString unitsSold READ unitsSoldText NOTIFY changed)
+    Q_PROPERTY(qlonglong unitsSold READ unitsSold NOTIFY changed)
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY changed)
     Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY changed)
     Q_PROPERTY(bool isAwaited READ isAwaited NOTIFY changed)
@@ -39,8 +39,6 @@ public:
     [[nodiscard]] ProductListModel* similar() { return &m_similar; }
     /// 0 when it is not known, or not worth telling.
     [[nodiscard]] qlonglong unitsSold() const { return m_unitsSold.value_or(0); }
-    /// As the shopper's language writes it; empty for none.
-    [[nodiscard]] QString unitsSoldText() const;
     /// The pieces are on their way: there may be some to leave room for.
     [[nodiscard]] bool isLoading() const { return m_loading.isRunning(); }
     [[nodiscard]] bool isLoaded() const { return m_isLoaded; }

@@ -29,6 +29,20 @@ std::optional<AppLanguage> appLanguageFromCode(const QString& code)
     return std::nullopt;
 }
 
+QLocale appLocale(AppLanguage language)
+{
+    return language == AppLanguage::Arabic ? QLocale(QLocale::Arabic, QLocale::UnitedArabEmirates)
+                                           : QLocale(appLanguageCode(language));
+}
+
+QByteArray icuLocale(AppLanguage language)
+{
+    // Thai years are counted as in the dates that the shopper types, and as the toolkit counts them.
+    return appLanguageCode(language).toLatin1() + (language == AppLanguage::Arabic ? "@numbers=latn"
+                                                   : language == AppLanguage::Thai ? "@calendar=gregorian"
+                                                                                   : "");
+}
+
 AppLanguage appLanguageFor(const SystemLocale& locale)
 {
     if (locale.language == QLatin1String("zh")) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 
 #include <array>
@@ -64,6 +65,12 @@ inline constexpr std::array<const char*, 34> appLanguageCodes{
 /// What its speakers call it.
 [[nodiscard]] QString appLanguageName(AppLanguage language);
 [[nodiscard]] std::optional<AppLanguage> appLanguageFromCode(const QString& code);
+
+/// How numbers and dates are written in the language, and where its lines begin. Arabic takes the figures that sizes,
+/// order numbers and sums beside them are written with, as most of its shops do.
+[[nodiscard]] QLocale appLocale(AppLanguage language);
+/// The same for ICU, by the name that it knows it by.
+[[nodiscard]] QByteArray icuLocale(AppLanguage language);
 
 /// The language to begin with on a system with these settings; English where the store has none of them.
 [[nodiscard]] AppLanguage appLanguageFor(const SystemLocale& locale);

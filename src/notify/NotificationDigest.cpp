@@ -12,9 +12,8 @@ namespace
 
 QString digestText(int count)
 {
-    return count == 1 ? QCoreApplication::translate("Loomstreet", "1 more notification is waiting in your inbox.")
-                      : QCoreApplication::translate("Loomstreet", "%1 more notifications are waiting in your inbox.")
-                            .arg(count);
+    return QCoreApplication::translate("Loomstreet", "%Ln more notifications are waiting in your inbox.", nullptr,
+                                       count);
 }
 
 } // namespace

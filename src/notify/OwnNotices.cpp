@@ -13,19 +13,14 @@ namespace
 constexpr qsizetype longestReply = 4000;
 constexpr qsizetype longestOrderName = 64;
 
-QString translated(const char* english)
-{
-    return QCoreApplication::translate("Loomstreet", english);
-}
-
 } // namespace
 
 AppNotification supportReply(const QString& messageID, const QString& text)
 {
     const QString shown = displayText(text, longestReply);
     return {.id = QStringLiteral("support-") + messageID,
-            .title = translated("Customer Service"),
-            .body = shown.isEmpty() ? translated("Sent an attachment") : shown,
+            .title = QCoreApplication::translate("Loomstreet", "Customer Service"),
+            .body = shown.isEmpty() ? QCoreApplication::translate("Loomstreet", "Sent an attachment") : shown,
             .symbol = QStringLiteral("headphones"),
             .type = QStringLiteral("support")};
 }
@@ -34,10 +29,13 @@ AppNotification orderPlaced(const QString& orderName, const QUuid& unique)
 {
     const QString name = displayLine(orderName, longestOrderName);
     return {.id = QStringLiteral("order-placed-") + (name.isEmpty() ? unique.toString(QUuid::WithoutBraces) : name),
-            .title = translated("Order placed"),
+            .title = QCoreApplication::translate("Loomstreet", "Order placed"),
             .body = name.isEmpty()
-                        ? translated("Your order is confirmed. It will show under Orders in a few minutes.")
-                        : translated("Order %1 is confirmed. It will show under Orders in a few minutes.").arg(name),
+                        ? QCoreApplication::translate(
+                              "Loomstreet", "Your order is confirmed. It will show under Orders in a few minutes.")
+                        : QCoreApplication::translate(
+                              "Loomstreet", "Order %1 is confirmed. It will show under Orders in a few minutes.")
+                              .arg(name),
             .symbol = QStringLiteral("checkmark.seal"),
             .type = QStringLiteral("order"),
             .link = QStringLiteral("/orders")};
@@ -46,8 +44,9 @@ AppNotification orderPlaced(const QString& orderName, const QUuid& unique)
 AppNotification unavailable(const QString& featureKey)
 {
     return {.id = QStringLiteral("unavailable-") + featureKey,
-            .title = translated("Temporarily unavailable"),
-            .body = translated("This feature is paused for now. Please try again later."),
+            .title = QCoreApplication::translate("Loomstreet", "Temporarily unavailable"),
+            .body =
+                QCoreApplication::translate("Loomstreet", "This feature is paused for now. Please try again later."),
             .symbol = QStringLiteral("pause.circle"),
             .type = QStringLiteral("notice")};
 }
@@ -55,8 +54,9 @@ AppNotification unavailable(const QString& featureKey)
 AppNotification updateFailed()
 {
     return {.id = QLatin1String(AppNotification::updateFailedID),
-            .title = translated("LOOMSTREET couldn't update itself"),
-            .body = translated("Click Update at the top of the window to install the new version from the disk image."),
+            .title = QCoreApplication::translate("Loomstreet", "LOOMSTREET couldn't update itself"),
+            .body = QCoreApplication::translate(
+                "Loomstreet", "Click Update at the top of the window to install the new version from the disk image."),
             .symbol = QStringLiteral("arrow.down.circle"),
             .type = QStringLiteral("notice")};
 }
@@ -64,8 +64,9 @@ AppNotification updateFailed()
 AppNotification preview(const QUuid& unique)
 {
     return {.id = QStringLiteral("preview-") + unique.toString(QUuid::WithoutBraces),
-            .title = translated("Notification preview"),
-            .body = translated("New order updates and customer service replies will appear here."),
+            .title = QCoreApplication::translate("Loomstreet", "Notification preview"),
+            .body = QCoreApplication::translate("Loomstreet",
+                                                "New order updates and customer service replies will appear here."),
             .symbol = QStringLiteral("bell.badge"),
             .type = QStringLiteral("preview")};
 }

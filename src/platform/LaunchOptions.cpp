@@ -32,6 +32,7 @@ LaunchOptions readLaunchOptions(const QStringList& arguments)
     const QCommandLineOption newWindow = flag({QStringLiteral("new-window")});
     const QCommandLineOption quit = flag({QStringLiteral("quit")});
     const QCommandLineOption safeMode = flag({QStringLiteral("safe-mode")});
+    const QCommandLineOption pseudoLanguage = flag({QStringLiteral("pseudo-language")});
     const QCommandLineOption service = flag({QStringLiteral("service")});
     const QCommandLineOption action = valued("action");
     const QCommandLineOption authority = valued("ca-file");
@@ -42,8 +43,8 @@ LaunchOptions readLaunchOptions(const QStringList& arguments)
     QCommandLineParser parser;
     // The libraries' own options begin with one dash: their letters are not ours.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addOptions({help, version, newWindow, quit, safeMode, service, action, authority, startReport,
-                       eventLoopReport, screenshot});
+    parser.addOptions({help, version, newWindow, quit, safeMode, pseudoLanguage, service, action, authority,
+                       startReport, eventLoopReport, screenshot});
     const bool isUnderstood = parser.parse(arguments);
 
     LaunchOptions options{.problem = isUnderstood ? QString() : parser.errorText(),
@@ -51,6 +52,7 @@ LaunchOptions readLaunchOptions(const QStringList& arguments)
                           .action = parser.isSet(newWindow) ? QStringLiteral("new-window") : parser.value(action),
                           .isService = parser.isSet(service),
                           .isSafeMode = parser.isSet(safeMode),
+                          .isPseudoLanguage = parser.isSet(pseudoLanguage),
                           .authorityFile = parser.value(authority),
                           .startReportFile = parser.value(startReport),
                           .eventLoopReportFile = parser.value(eventLoopReport),
@@ -78,6 +80,9 @@ that runs, or starts one.
   --quit           end the instance that runs, if one does
   --safe-mode      start with software rendering, without the windows of last
                    time, and with the built-in configuration
+  --pseudo-language
+                   write every text that is translated longer, accented and
+                   between brackets, to see those that are not
   --ca-file FILE   trust the certificate authorities in FILE as well
   -h, --help       print this help
   -v, --version    print the version

@@ -13,13 +13,14 @@ struct LaunchOptions {
     Purpose purpose = Purpose::Start;
     QString problem; ///< what is wrong with the arguments; empty where nothing is
     QStringList links;
-    QString action;              ///< an action of the desktop entry; empty for none
-    bool isService = false;      ///< the desktop starts the application and will say what for
-    bool isSafeMode = false;     ///< with as little as possible of what may keep it from starting
-    QString authorityFile;       ///< a further certificate authority in PEM form, trusted for HTTP and web sockets
-    QString startReportFile;     ///< where to write how long the first frames took
-    QString eventLoopReportFile; ///< where to write how long the main thread's turns took
-    QString screenshotFile;      ///< where to save the first settled page before quitting
+    QString action;                ///< an action of the desktop entry; empty for none
+    bool isService = false;        ///< the desktop starts the application and will say what for
+    bool isSafeMode = false;       ///< with as little as possible of what may keep it from starting
+    bool isPseudoLanguage = false; ///< texts as no language has them, for those who make the window
+    QString authorityFile;         ///< a further certificate authority in PEM form, trusted for HTTP and web sockets
+    QString startReportFile;       ///< where to write how long the first frames took
+    QString eventLoopReportFile;   ///< where to write how long the main thread's turns took
+    QString screenshotFile;        ///< where to save the first settled page before quitting
 };
 
 /// How many arguments stand before "--". What comes after it is data, which nobody may look for options in: neither

@@ -29,7 +29,8 @@ MiraCards::MiraCards(StorefrontAPI& storefront, const MarketStore& market, const
     , m_money(money)
     , m_clock(clock)
 {
-    connect(&market, &MarketStore::revisionChanged, this, &MiraCards::forget);
+    connect(&market, &MarketStore::countryChanged, this, &MiraCards::forget);
+    connect(&market, &MarketStore::languageChanged, this, &MiraCards::askAnew);
     connect(&market, &MarketStore::rateChanged, this, [this] { Q_EMIT changed({}); });
 }
 
@@ -144,6 +145,17 @@ void MiraCards::refresh()
 }
 
 /// In another market everything costs something else.
+void MiraCards::askAnew()
+{
+    m_asking.stop();
+    m_wanted.clear();
+    m_asked.clear();
+    m_failed.clear();
+    for (Known& known : m_known)
+        known.since = m_clock.elapsed() - 2 * freshness; // shown until there is something newer
+    Q_EMIT changed({});
+}
+
 void MiraCards::forget()
 {
     m_asking.stop();

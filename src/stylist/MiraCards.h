@@ -60,6 +60,8 @@ private:
     [[nodiscard]] MiraCard ownCard(const QString& handle, const MiraAttachment* attachment) const;
     void want(const QString& handle);
     [[nodiscard]] QCoro::Task<> ask();
+    /// They are called otherwise in another language, and shown until there is an answer in it.
+    void askAnew();
     void forget();
 
     StorefrontAPI& m_storefront;

@@ -107,7 +107,7 @@ bool MiraRules::isHandle(const QString& text)
 
 QString MiraRules::stylePrompt(const QString& pieceName)
 {
-    return QCoreApplication::translate("Loomstreet", "Help me style this: ") + pieceName;
+    return QCoreApplication::translate("Loomstreet", "Help me style this: %1").arg(pieceName);
 }
 
 QString MiraRules::withoutContext(const QString& body)

@@ -22,11 +22,6 @@ namespace
 const QString placeFile = QStringLiteral("lst_wx_coords");
 const QString weatherFile = QStringLiteral("snap-mira-weather");
 
-QString translate(const char* text)
-{
-    return QCoreApplication::translate("Loomstreet", text);
-}
-
 std::optional<Coordinates> readCoordinates(const JsonReader& json)
 {
     const auto latitude = json.optionalDecimal("latitude");
@@ -80,7 +75,7 @@ QString MiraWeatherStore::text() const
 {
     if (!isKnown())
         return {};
-    const QString degrees = translate("%1 °C").arg(std::lround(m_weather->temperature));
+    const QString degrees = QCoreApplication::translate("Loomstreet", "%1 °C").arg(std::lround(m_weather->temperature));
     return m_weather->city.isEmpty() ? degrees : degrees + QStringLiteral(" · ") + m_weather->city;
 }
 
@@ -115,17 +110,20 @@ QString MiraWeatherStore::failure() const
 {
     if (!m_trouble)
         return {};
-    return std::visit(Overloaded{[](const APIError& error) { return errorDescription(error); },
-                                 [](LocationFailure failure) {
-                                     return failure == LocationFailure::Refused
-                                                ? translate(
-                                                      "LOOMSTREET may not see where you are. Type your city instead.")
-                                                : translate("Your location couldn't be found. Type your city instead.");
-                                 },
-                                 [](UnknownCity) {
-                                     return translate("That city isn't known. Try a bigger one nearby.");
-                                 }},
-                      *m_trouble);
+    return std::visit(
+        Overloaded{[](const APIError& error) { return errorDescription(error); },
+                   [](LocationFailure failure) {
+                       return failure == LocationFailure::Refused
+                                  ? QCoreApplication::translate(
+                                        "Loomstreet", "LOOMSTREET may not see where you are. Type your city instead.")
+                                  : QCoreApplication::translate(
+                                        "Loomstreet", "Your location couldn't be found. Type your city instead.");
+                   },
+                   [](UnknownCity) {
+                       return QCoreApplication::translate("Loomstreet",
+                                                          "That city isn't known. Try a bigger one nearby.");
+                   }},
+        *m_trouble);
 }
 
 bool MiraWeatherStore::isShared() const

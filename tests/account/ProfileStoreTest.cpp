@@ -173,6 +173,29 @@ TEST(ProfileRulesTest, ADayIsReadInTheOrderOfThePlace)
     }
 }
 
+TEST(ProfileRulesTest, MonthAndYearStandInTheOrderOfThePlace)
+{
+    struct Row {
+        const char* place;
+        const char* inSentence;
+        const char* onItsOwn;
+    };
+    for (const Row& row : {
+             Row{"en_US", "April 1991", "April 1991"},
+             Row{"de_AT", "April 1991", "April 1991"},
+             Row{"pl_PL", "kwietnia 1991", "kwiecień 1991"},
+             Row{"pt_BR", "abril de 1991", "abril de 1991"},
+             Row{"hu_HU", "1991. április", "1991. április"},
+             Row{"ja_JP", "1991年4月", "1991年4月"},
+             Row{"ko_KR", "1991년 4월", "1991년 4월"},
+             Row{"th_TH", "เมษายน 1991", "เมษายน 1991"},
+         }) {
+        const QLocale locale(QString::fromLatin1(row.place));
+        EXPECT_EQ(monthText(QDate(1991, 4, 30), locale, MonthForm::InSentence), QString::fromUtf8(row.inSentence));
+        EXPECT_EQ(monthText(QDate(1991, 4, 30), locale, MonthForm::OnItsOwn), QString::fromUtf8(row.onItsOwn));
+    }
+}
+
 TEST(ProfileRulesTest, FieldsAreCheckedBeforeTheyAreSent)
 {
     EXPECT_EQ(checkName(QString(100, QLatin1Char('a'))), ProfileFlaw::None);

@@ -51,4 +51,29 @@ TEST(MoneyFormatTest, PricesAreWrittenAsTheLanguageDoesAndWithTheDigitsOfTheCurr
     }
 }
 
+TEST(MoneyFormatTest, WhereLinesBeginOnTheRightASignStaysWithItsLetters)
+{
+    const auto endsWithMark = [](AppLanguage language, const char* currency) {
+        return MoneyFormat(language)
+            .text({.amount = 48, .currencyCode = QString::fromLatin1(currency)})
+            .endsWith(QChar(0x200e));
+    };
+    EXPECT_TRUE(endsWithMark(AppLanguage::Arabic, "USD"));
+    EXPECT_TRUE(endsWithMark(AppLanguage::Hebrew, "HKD"));
+    EXPECT_FALSE(endsWithMark(AppLanguage::Arabic, "EUR"));
+    EXPECT_FALSE(endsWithMark(AppLanguage::Arabic, "SAR"));
+    EXPECT_FALSE(endsWithMark(AppLanguage::Thai, "USD"));
+}
+
+// Its letters and its sign stay together, and on the side that a price above zero has them on.
+TEST(MoneyFormatTest, ACurrencyStandsOnTheSameSideOfANumberBelowZero)
+{
+    const MoneyFormat arabic(AppLanguage::Arabic);
+    for (const double amount : {31.2, -31.2}) {
+        const QString text = arabic.text({.amount = amount, .currencyCode = QStringLiteral("USD")});
+        EXPECT_TRUE(text.startsWith(QChar(0x200f)) && text.endsWith(QStringLiteral("US$\u200e"))) << amount;
+        EXPECT_EQ(text.contains(QStringLiteral("\u200f\u00a0US$")), amount < 0);
+    }
+}
+
 } // namespace loom

@@ -74,6 +74,15 @@ TEST_F(KeptPiecesModelTest, APriceOfAnotherMarketIsNotShownAndOneOfThisMarketIsT
     EXPECT_EQ(sent(), 1);
     EXPECT_EQ(prices(*model.pieces()), "dollar $80.00 $20.00 less nowNew\nyen $60.00 New\nodd  \n"
                                        "broken $50.00 New\ngone  Not available");
+
+    // In another language they are asked for anew, and shown until they come.
+    const std::string shown = prices(*model.pieces());
+    answer("ProductsByIDs", Answer::body("", 404));
+    answer("Countries", Answer::body("", 404));
+    dollars->setLanguage(AppLanguage::French);
+    EXPECT_EQ(prices(*model.pieces()), shown);
+    waitUntil([&] { return !model.errorText().isEmpty() && !dollars->isLoadingCountries(); }, "there was no answer");
+    EXPECT_EQ(prices(*model.pieces()), shown);
 }
 
 TEST_F(KeptPiecesModelTest, PriceDropsWaitForAListThatIsStillBeingRead)

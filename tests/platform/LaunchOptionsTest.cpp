@@ -57,6 +57,8 @@ TEST(LaunchOptionsTest, WhatFollowsTheDashesIsKeptFromTheLibrariesToo)
     EXPECT_EQ(readLaunchOptions(texts({"loomstreet", "--action", "bag", "--", "--service"})).action,
               QStringLiteral("bag"));
     EXPECT_FALSE(readLaunchOptions(texts({"loomstreet", "--", "--service"})).isService);
+    EXPECT_TRUE(readLaunchOptions(texts({"loomstreet", "--pseudo-language"})).isPseudoLanguage);
+    EXPECT_FALSE(readLaunchOptions(texts({"loomstreet", "--", "--pseudo-language"})).isPseudoLanguage);
     EXPECT_EQ(WindowActivation::timeOf(QStringLiteral("a_TIME1-host_TIME4294967295")), 4294967295U);
     for (const char* const id : {"", "host-77", "host_TIME", "host_TIME-1", "host_TIME4294967296", "host_TIME1x"})
         EXPECT_EQ(WindowActivation::timeOf(QLatin1String(id)), 0U) << id;

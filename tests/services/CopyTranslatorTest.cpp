@@ -2,6 +2,7 @@
 
 #include "ConfigFixture.h"
 #include "base/KeyedText.h"
+#include "services/WindowTranslator.h"
 
 using namespace loom;
 
@@ -67,6 +68,31 @@ TEST_F(CopyTranslatorTest, EnglishDoesNotReplaceATranslation)
     fetch(R"({"copy": {"Home": {"en": "Start"}, "Sale": {"en": "Bargains"}}})");
     EXPECT_EQ(translator.translate("Loomstreet", "Home"), QString());
     EXPECT_EQ(translator.translate("Loomstreet", "Sale"), QStringLiteral("Bargains"));
+}
+
+TEST_F(CopyTranslatorTest, AnOverrideHasOneFormForAllNumbersAndTheSamePlaces)
+{
+    make();
+    WindowTranslator builtIn;
+    builtIn.setLanguage(AppLanguage::German);
+    config->setLanguage(AppLanguage::German);
+    CopyTranslator translator(*config, &builtIn);
+    QCoreApplication::installTranslator(&builtIn);
+    QCoreApplication::installTranslator(&translator);
+    const auto pieces = [](int count) {
+        return QCoreApplication::translate("Loomstreet", "%Ln pieces", nullptr, count);
+    };
+    const QString own = pieces(2);
+    EXPECT_NE(own, QStringLiteral("2 pieces"));
+    fetch(R"({"copy": {"%Ln pieces": {"de": "Stücke: %n"}, "Close": {"en": "Shut"}}})");
+    EXPECT_EQ(pieces(1), QStringLiteral("Stücke: 1"));
+    EXPECT_EQ(pieces(2), QStringLiteral("Stücke: 2"));
+    EXPECT_NE(shown("Close"), "Shut"); // German stands
+    for (const char* const hostile :
+         {"Stücke", "%1 Stücke", "%Ln von %1", "%n %L99", "%Ln %Ln %2", "\u202e%1%2%3%4%5%6%7%8%9"}) {
+        fetch(QByteArray(R"({"copy": {"%Ln pieces": {"de": ")") + hostile + R"("}}})");
+        EXPECT_EQ(pieces(2), own) << hostile;
+    }
 }
 
 } // namespace

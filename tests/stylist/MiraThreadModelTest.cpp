@@ -134,10 +134,24 @@ TEST_F(MiraThreadModelTest, CardsAreOfTheCatalogAndAPieceItDoesNotKnowHasNone)
     EXPECT_EQ(live.at(2).value<MiraCard>().handle, QStringLiteral("linked"));
     EXPECT_EQ(lastVariables().value(QStringLiteral("h3")), QStringLiteral("gone"));
 
-    // Another market asks anew; a catalog that fails leaves the reply's own words, and is asked again with the thread.
+    // In another language they are asked for anew, and shown until they come.
+    const std::string known = cards(told(0, MiraThreadModel::CardsRole));
     answer("ProductsByHandles", Answer::body("", 404));
     answer("Countries", Answer::body("", 404));
+    const std::size_t before = server.requests().size();
     market.setLanguage(AppLanguage::German);
+    EXPECT_EQ(cards(told(0, MiraThreadModel::CardsRole)), known);
+    clock.advance(20ms);
+    waitUntil([&] { return server.requests().size() == before + 2 && !market.isLoadingCountries(); },
+              "they are asked for");
+    settle();
+    EXPECT_EQ(cards(told(0, MiraThreadModel::CardsRole)), known);
+
+    // Another market asks anew; a catalog that fails leaves the reply's own words, and is asked again with the thread.
+    answer("ProductsByHandles", Answer::body("", 404));
+    answer("RateSample US", Answer::body("", 404));
+    answer("RateSample DE", Answer::body("", 404));
+    market.setCountry(QStringLiteral("DE"));
     look(0);
     EXPECT_EQ(cards(told(0, MiraThreadModel::CardsRole)),
               "own=Own title@$40.50 words=Words@about forty linked=linked@ gone=gone@");

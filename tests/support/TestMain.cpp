@@ -2,6 +2,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThreadPool>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
@@ -62,6 +63,10 @@ int main(int argc, char** argv)
     {
         const QCoreApplication application(argc, argv);
         QCoreApplication::setApplicationName(QStringLiteral("LOOMSTREET"));
+        // What depends on a number does so in English as well.
+        QTranslator texts;
+        if (texts.load(QStringLiteral(":/i18n/loomstreet_en.qm")))
+            QCoreApplication::installTranslator(&texts);
         result = RUN_ALL_TESTS();
         // What still waits to be deleted is no leak.
         QThreadPool::globalInstance()->waitForDone();

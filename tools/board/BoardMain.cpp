@@ -17,7 +17,8 @@ int main(int argc, char** argv)
     arguments.addOptions({
         {QStringLiteral("appearance"), QStringLiteral("light or dark"), QStringLiteral("name"),
          QStringLiteral("light")},
-        {QStringLiteral("rtl"), QStringLiteral("Right to left, in Arabic")},
+        {QStringLiteral("language"), QStringLiteral("Whose letters to expect; right to left in Arabic and Hebrew"),
+         QStringLiteral("code"), QStringLiteral("en")},
         {QStringLiteral("text-scale"), QStringLiteral("1.0 to 2.0"), QStringLiteral("factor"), QStringLiteral("1")},
         {QStringLiteral("page"), QStringLiteral("Which part of the board"), QStringLiteral("number"),
          QStringLiteral("0")},
@@ -34,7 +35,7 @@ int main(int argc, char** argv)
     loom::addImageProviders(engine);
     engine.setInitialProperties({
         {QStringLiteral("appearance"), arguments.value(QStringLiteral("appearance"))},
-        {QStringLiteral("rightToLeft"), arguments.isSet(QStringLiteral("rtl"))},
+        {QStringLiteral("language"), arguments.value(QStringLiteral("language"))},
         {QStringLiteral("textScale"), arguments.value(QStringLiteral("text-scale")).toDouble()},
         {QStringLiteral("page"), arguments.value(QStringLiteral("page")).toInt()},
         {QStringLiteral("width"), arguments.value(QStringLiteral("width")).toInt()},

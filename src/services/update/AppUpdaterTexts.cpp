@@ -5,44 +5,36 @@
 namespace loom
 {
 
-namespace
-{
-
-QString translated(const char* english)
-{
-    return QCoreApplication::translate("Loomstreet", english);
-}
-
-} // namespace
-
 QString AppUpdater::title() const
 {
     switch (m_phase) {
     case Phase::Checking:
-        return translated("Checking for updates…");
+        return QCoreApplication::translate("Loomstreet", "Checking for updates…");
     case Phase::UpToDate:
-        return translated("You're up to date");
+        return QCoreApplication::translate("Loomstreet", "You're up to date");
     case Phase::Downloading:
-        return translated("Downloading LOOMSTREET %1").arg(version());
+        return QCoreApplication::translate("Loomstreet", "Downloading LOOMSTREET %1").arg(version());
     case Phase::Verifying:
-        return translated("Checking the download…");
+        return QCoreApplication::translate("Loomstreet", "Checking the download…");
     case Phase::Installing:
-        return translated("Installing LOOMSTREET %1").arg(version());
+        return QCoreApplication::translate("Loomstreet", "Installing LOOMSTREET %1").arg(version());
     case Phase::Failed:
-        return m_trouble && m_trouble->kind == Trouble::Kind::Check ? translated("Couldn't check for updates")
-                                                                    : translated("Couldn't download the update");
+        return m_trouble && m_trouble->kind == Trouble::Kind::Check
+                   ? QCoreApplication::translate("Loomstreet", "Couldn't check for updates")
+                   : QCoreApplication::translate("Loomstreet", "Couldn't download the update");
     case Phase::Ready:
         if (!isInstalledByHand())
-            return translated("Ready to install");
+            return QCoreApplication::translate("Loomstreet", "Ready to install");
         if (m_isImageOpened)
-            return translated("Install the update");
+            return QCoreApplication::translate("Loomstreet", "Install the update");
         break;
     case Phase::Idle:
         break;
     }
     if (m_release)
-        return translated("%1 is ready to install").arg(version());
-    return m_selfUpdateFailed ? translated("LOOMSTREET couldn't update itself") : QString();
+        return QCoreApplication::translate("Loomstreet", "%1 is ready to install").arg(version());
+    return m_selfUpdateFailed ? QCoreApplication::translate("Loomstreet", "LOOMSTREET couldn't update itself")
+                              : QString();
 }
 
 QString AppUpdater::text() const
@@ -53,33 +45,40 @@ QString AppUpdater::text() const
     case Phase::Verifying:
         return {};
     case Phase::UpToDate:
-        return translated("LOOMSTREET %1 is the newest version.").arg(m_identity.version);
+        return QCoreApplication::translate("Loomstreet", "LOOMSTREET %1 is the newest version.")
+            .arg(m_identity.version);
     case Phase::Installing:
-        return translated("LOOMSTREET closes, and the new version takes its place.");
+        return QCoreApplication::translate("Loomstreet", "LOOMSTREET closes, and the new version takes its place.");
     case Phase::Failed:
         return m_trouble ? sentence(*m_trouble) : QString();
     case Phase::Ready:
         if (!isInstalledByHand())
-            return translated("Downloaded. Relaunch to finish, or it installs the next time you quit.");
+            return QCoreApplication::translate(
+                "Loomstreet", "Downloaded. Relaunch to finish, or it installs the next time you quit.");
         if (m_isImageOpened)
-            return translated("In the window that just opened, drag LOOMSTREET onto Applications and choose Replace. "
+            return QCoreApplication::translate(
+                "Loomstreet", "In the window that just opened, drag LOOMSTREET onto Applications and choose Replace. "
                               "Then open LOOMSTREET again.");
         break;
     case Phase::Idle:
         break;
     }
     if (m_selfUpdateFailed)
-        return translated("LOOMSTREET couldn't replace itself on this Mac. Install the new version from the disk image "
+        return QCoreApplication::translate(
+            "Loomstreet", "LOOMSTREET couldn't replace itself on this Mac. Install the new version from the disk image "
                           "instead. It takes a few seconds.");
     if (m_release && !canUpdate())
-        return translated("This copy of LOOMSTREET can't update itself.");
-    return m_offer == UpdateOffer::Mandatory ? translated("The version you have is no longer supported.") : QString();
+        return QCoreApplication::translate("Loomstreet", "This copy of LOOMSTREET can't update itself.");
+    return m_offer == UpdateOffer::Mandatory
+               ? QCoreApplication::translate("Loomstreet", "The version you have is no longer supported.")
+               : QString();
 }
 
 QString AppUpdater::settingsText() const
 {
     if (m_phase == Phase::Ready && !isInstalledByHand())
-        return translated("The update is downloaded. Relaunch LOOMSTREET to finish, or it installs the next time you "
+        return QCoreApplication::translate(
+            "Loomstreet", "The update is downloaded. Relaunch LOOMSTREET to finish, or it installs the next time you "
                           "quit.");
     return m_phase == Phase::Idle && !canUpdate() ? QString() : text(); // that it cannot, the settings say themselves
 }
@@ -88,15 +87,18 @@ QString AppUpdater::sentence(Trouble trouble)
 {
     switch (trouble.kind) {
     case Trouble::Kind::Check:
-        return translated("Couldn't check for updates. Check your connection and try again.");
+        return QCoreApplication::translate("Loomstreet",
+                                           "Couldn't check for updates. Check your connection and try again.");
     case Trouble::Kind::Http:
-        return translated("The download failed (HTTP %1).").arg(trouble.status);
+        return QCoreApplication::translate("Loomstreet", "The download failed (HTTP %1).").arg(trouble.status);
     case Trouble::Kind::Changed:
-        return translated("The download was incomplete or changed on the way. Try again.");
+        return QCoreApplication::translate("Loomstreet",
+                                           "The download was incomplete or changed on the way. Try again.");
     case Trouble::Kind::Unreadable:
-        return translated("The downloaded file couldn't be read.");
+        return QCoreApplication::translate("Loomstreet", "The downloaded file couldn't be read.");
     case Trouble::Kind::NotSigned:
-        return translated("The download isn't signed by LOOMSTREET, so it wasn't opened.");
+        return QCoreApplication::translate("Loomstreet",
+                                           "The download isn't signed by LOOMSTREET, so it wasn't opened.");
     case Trouble::Kind::Stopped:
         break;
     }
@@ -119,13 +121,14 @@ QString AppUpdater::actionText() const
     case Action::None:
         break;
     case Action::Check:
-        return translated("Check for Updates…");
+        return QCoreApplication::translate("Loomstreet", "Check for Updates…");
     case Action::Download:
-        return m_phase == Phase::Failed ? translated("Try again") : translated("Download and Install");
+        return m_phase == Phase::Failed ? QCoreApplication::translate("Loomstreet", "Try again")
+                                        : QCoreApplication::translate("Loomstreet", "Download and Install");
     case Action::Relaunch:
-        return translated("Relaunch to Update");
+        return QCoreApplication::translate("Loomstreet", "Relaunch to Update");
     case Action::OpenImage:
-        return translated("Open Disk Image");
+        return QCoreApplication::translate("Loomstreet", "Open Disk Image");
     }
     return {};
 }

@@ -36,6 +36,15 @@ Item {
     signal retryAsked()
     signal removeAsked()
 
+    // The day that begins and its first time, parted as the day's script does.
+    function headingOf(day: string, time: string): string {
+        if (day === "" || time === "")
+            return day
+        const scripts = Scripts.of(day)
+        const between = scripts & Scripts.Arabic ? "، " : scripts & (Scripts.Han | Scripts.Thai) ? " " : ", "
+        return day + between + Bidi.isolate(time)
+    }
+
     implicitHeight: Math.max(0, extrasTop + (extrasHeight > 0 ? extrasHeight : -gap))
 
     // A list keeps those that have left the view, and gives them another message later.

@@ -9,6 +9,8 @@ Popover {
 
     property var chosen: null // a Date
     property var place: Qt.locale() // whose names months and days have
+    // Who knows in which order the place writes month (from 0) and year says it instead.
+    property var monthTitle: (year, month) => place.standaloneMonthName(month, Locale.LongFormat) + " " + year
     property string level: "year" // or "month", "day"
     property int year: 1990
     property int month: 0 // from 0
@@ -20,6 +22,10 @@ Popover {
 
     signal picked(int year, int month, int day)
 
+    function shownMonth(): string {
+        const say = monthTitle
+        return say(year, month)
+    }
     function begin(day: var, locale: var): void {
         const isKnown = !isNaN(day.getTime())
         chosen = isKnown ? day : null
@@ -40,7 +46,7 @@ Popover {
         return Array.from({ length: 12 }, (_, index) => ({
             value: index,
             text: place.standaloneMonthName(index, Locale.ShortFormat),
-            name: place.standaloneMonthName(index, Locale.LongFormat) + " " + year,
+            name: monthTitle(year, index),
             open: new Date(year, index, 1) < new Date(),
             chosen: year === chosen?.getFullYear() && index === chosen?.getMonth()
         }))
@@ -117,7 +123,7 @@ Popover {
                 opacity: 1
                 text: picker.level === "year" ? picker.firstYear + " – " + (picker.firstYear + picker.yearsAtOnce - 1)
                     : picker.level === "month" ? String(picker.year)
-                                               : picker.place.standaloneMonthName(picker.month, Locale.LongFormat) + " " + picker.year
+                                               : picker.shownMonth()
                 Accessible.description: qsTranslate("Loomstreet", "Back to the year")
                 onClicked: picker.show("year")
             }

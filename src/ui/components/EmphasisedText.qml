@@ -13,8 +13,7 @@ TextLabel {
         return part.replace(/&/g, "&amp;").replace(/</g, "&lt;").replace(/>/g, "&gt;")
     }
 
-    // Letters that join would come apart where the weight changes.
-    readonly property bool emphasised: length > 0 && Scripts.of(plain) !== Scripts.Arabic
+    readonly property bool emphasised: length > 0 && Scripts.canBeParted(plain)
 
     textFormat: emphasised ? Text.StyledText : Text.PlainText
     text: !emphasised ? plain : escaped(plain.slice(0, start)) + "<b>" + escaped(plain.slice(start, start + length)) + "</b>"

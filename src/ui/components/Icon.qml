@@ -9,7 +9,7 @@ Image {
     property color color: Theme.ink
     property int size: 20
     // What points along the reading direction turns with it; clocks, check-marks and hearts do not.
-    property bool mirrors: /^(chevron\.(left|right)|open\.tab|sidebar)$/.test(name)
+    property bool mirrors: /^(chevron\.(left|right)|open\.tab|sidebar|return|truck|chart\.down|speaker)$/.test(name)
 
     width: size
     height: size

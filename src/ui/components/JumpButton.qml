@@ -23,8 +23,7 @@ FloatingSurface {
         size: "small"
         iconName: "arrow.down"
         text: jump.count === 0 ? qsTranslate("Loomstreet", "Jump to latest")
-            : jump.count === 1 ? qsTranslate("Loomstreet", "1 new message")
-                               : qsTranslate("Loomstreet", "%1 new messages").arg(jump.count)
+                               : qsTranslate("Loomstreet", "%Ln new messages", "", jump.count)
         accessibleName: jump.count === 0 ? text : text + ", " + qsTranslate("Loomstreet", "Jump to latest")
         onClicked: jump.clicked()
     }

@@ -15,6 +15,8 @@ Item {
     property TypeStyle type: Theme.type.control
     property bool centred: true
     property bool figures: false
+    // What is too long for one line takes as many as this.
+    property int lines: 1
 
     readonly property real lead: iconName !== "" ? iconSize + row.spacing : 0
     readonly property real tail: noteLabel.visible ? noteLabel.implicitWidth + row.spacing : 0
@@ -57,6 +59,9 @@ Item {
             visible: text !== ""
             width: Math.max(0, Math.min(implicitWidth, labelRow.width - labelRow.lead - labelRow.tail))
             text: labelRow.text
+            wrapMode: labelRow.lines > 1 ? Text.Wrap : Text.NoWrap
+            maximumLineCount: labelRow.lines
+            horizontalAlignment: labelRow.centred && labelRow.iconName === "" ? Text.AlignHCenter : Text.AlignLeft
             type: labelRow.type
             figures: labelRow.figures
             color: labelRow.color

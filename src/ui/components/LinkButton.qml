@@ -23,9 +23,12 @@ Pressable {
             text: control.text
             type: control.type
             color: control.color
+            wrapMode: Text.Wrap
+            font.underline: lineCount > 1
             Accessible.ignored: true
         }
         Rectangle {
+            visible: label.lineCount === 1
             anchors.top: label.bottom
             anchors.left: label.left
             width: label.width

@@ -35,6 +35,7 @@ Pressable {
         text: control.text
         iconName: control.iconName
         iconSize: control.size === "small" ? 16 : 20
+        lines: 2
         busy: control.busy
         color: control.ink
         type: control.size === "small" ? Theme.type.label : Theme.type.control

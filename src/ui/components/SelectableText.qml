@@ -21,6 +21,9 @@ TextEdit {
     font.pixelSize: type.size
     font.weight: type.weight
     font.hintingPreference: Font.PreferNoHinting
+    // A line of a given height stands on four fifths of it, whatever its letters.
+    topPadding: Math.round(type.baseline - type.line * 4 / 5)
+    bottomPadding: -topPadding
     activeFocusOnTab: true
     // Only what is selected shows where one is.
     cursorDelegate: Item {}

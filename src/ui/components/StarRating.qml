@@ -14,8 +14,8 @@ Row {
     spacing: 6
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: note !== "" ? qsTranslate("Loomstreet", "Rated %1 of 5, %2").arg(value).arg(note)
-                                 : qsTranslate("Loomstreet", "Rated %1 of 5").arg(value)
+    Accessible.name: note !== "" ? qsTranslate("Loomstreet", "Rated %L1 of 5, %2").arg(value).arg(note)
+                                 : qsTranslate("Loomstreet", "Rated %L1 of 5").arg(value)
 
     Row {
         anchors.verticalCenter: parent.verticalCenter

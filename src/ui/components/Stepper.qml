@@ -66,7 +66,7 @@ Item {
             height: control.height
             enabled: control.value > control.from
             iconName: "minus"
-            text: qsTranslate("Loomstreet", "Fewer")
+            text: qsTranslate("Loomstreet", "Fewer", "stepper.fewer")
             onClicked: control.step(-1)
         }
         TextLabel {
@@ -89,7 +89,7 @@ Item {
             height: control.height
             enabled: control.value < control.to
             iconName: "plus"
-            text: qsTranslate("Loomstreet", "More")
+            text: qsTranslate("Loomstreet", "More", "stepper.more")
             onClicked: control.step(1)
         }
     }

@@ -38,8 +38,20 @@ FocusScope {
     Row {
         id: row
 
+        // Long words stand closer, and on two lines, before one of them is cut.
+        readonly property real gaps: tabs.titles.length - 1
+        readonly property bool tight: tabs.width < wanted + gaps * Theme.space3
+        property real wanted: 0
+
+        function measure(): void {
+            let sum = 0
+            for (let i = 0; i < repeater.count; ++i)
+                sum += repeater.itemAt(i)?.implicitWidth ?? 0
+            wanted = sum
+        }
+
         anchors.left: parent.left
-        spacing: Theme.space3
+        spacing: tight ? Theme.space1_5 : Theme.space3
 
         Repeater {
             id: repeater
@@ -53,7 +65,10 @@ FocusScope {
                 required property string modelData
 
                 objectName: "tab" + index
-                width: Math.min(implicitWidth, (tabs.width - (tabs.titles.length - 1) * row.spacing) / tabs.titles.length + row.spacing)
+                anchors.bottom: parent?.bottom
+                width: Math.ceil(implicitWidth * Math.min(1, (tabs.width - row.gaps * (row.spacing + 1)) / row.wanted))
+                onImplicitWidthChanged: row.measure()
+                Component.onCompleted: row.measure()
                 text: modelData
                 selected: index === tabs.currentIndex
                 opacity: 1
@@ -65,6 +80,7 @@ FocusScope {
                     text: tab.text
                     type: Theme.type.label
                     color: tab.selected || tab.hovered ? Theme.ink : Theme.muted
+                    wrapMode: Text.Wrap
                     Accessible.ignored: true
                 }
                 background: Item {

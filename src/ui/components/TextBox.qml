@@ -18,7 +18,8 @@ T.TextField {
     // A field keeps its baseline whatever script is typed, as long as it is counted from the top.
     height: naturalHeight
     topPadding: Math.round((height - type.line) / 2) + type.leading
-    bottomPadding: 0
+    // Letters that reach far down stay where they are, rather than be scrolled into what is left.
+    bottomPadding: -type.size
     verticalAlignment: TextInput.AlignTop
     leftPadding: LayoutMirroring.enabled ? endPadding : startPadding
     rightPadding: LayoutMirroring.enabled ? startPadding : endPadding

@@ -74,6 +74,8 @@ Item {
                 width: parent.width
                 text: toast.title
                 type: Theme.type.bodyStrong
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
                 Accessible.ignored: true
             }
             TextLabel {

@@ -15,8 +15,7 @@ PageBase {
     readonly property var supportWay: ({
         id: "support", icon: "headphones", title: qsTranslate("Loomstreet", "Customer Service"),
         note: unreadReplies === 0 ? qsTranslate("Loomstreet", "Orders, returns and sizes")
-            : unreadReplies === 1 ? qsTranslate("Loomstreet", "1 new message")
-                                  : qsTranslate("Loomstreet", "%1 new messages").arg(unreadReplies)
+                                  : qsTranslate("Loomstreet", "%Ln new messages", "", unreadReplies)
     })
 
     title: qsTranslate("Loomstreet", "MyLST")
@@ -110,7 +109,7 @@ PageBase {
                 visible: page.auth.isSignedIn
                 title: qsTranslate("Loomstreet", "For you")
                 ways: [
-                    { id: "wishlist", icon: "heart", title: qsTranslate("Loomstreet", "Wishlist"), note: page.app.wishlist.count === 0 ? qsTranslate("Loomstreet", "Nothing saved yet") : page.app.wishlist.count === 1 ? qsTranslate("Loomstreet", "1 piece") : qsTranslate("Loomstreet", "%1 pieces").arg(page.app.wishlist.count) },
+                    { id: "wishlist", icon: "heart", title: qsTranslate("Loomstreet", "Wishlist"), note: page.app.wishlist.count === 0 ? qsTranslate("Loomstreet", "Nothing saved yet") : qsTranslate("Loomstreet", "%Ln pieces", "", page.app.wishlist.count) },
                     { id: "alerts", icon: "bell", title: qsTranslate("Loomstreet", "Alerts"), note: qsTranslate("Loomstreet", "Back in stock, and lower prices") },
                     { id: "membership", icon: "crown", title: qsTranslate("Loomstreet", "Membership"), note: qsTranslate("Loomstreet", "Your tier and points") },
                     { id: "coupons", icon: "tag", title: qsTranslate("Loomstreet", "Coupons"), note: qsTranslate("Loomstreet", "Yours to use at checkout") }

@@ -14,10 +14,9 @@ Column {
 
     spacing: Theme.space1
 
-    TextLabel {
+    Overline {
         width: parent.width
-        text: group.title
-        type: Theme.type.overline
+        words: group.title
         color: Theme.muted
         Accessible.role: Accessible.Heading
     }

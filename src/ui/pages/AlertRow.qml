@@ -103,8 +103,8 @@ FocusScope {
                     }
                 }
                 // What it waits for, and that the wait is over.
-                Row {
-                    anchors.left: parent.left
+                Flow {
+                    width: parent.width
                     topPadding: 2
                     spacing: Theme.space1_5
 

@@ -67,8 +67,7 @@ PageBase {
                 height: implicitHeight - Theme.space1_5
                 narrow: page.narrow
                 title: page.title
-                note: page.alerts.list.count === 1 ? qsTranslate("Loomstreet", "1 alert")
-                                                   : qsTranslate("Loomstreet", "%1 alerts").arg(page.alerts.list.count)
+                note: qsTranslate("Loomstreet", "%Ln alerts", "", page.alerts.list.count)
             }
             TextLabel {
                 anchors.left: parent.left
@@ -165,8 +164,8 @@ PageBase {
         inFront: page.shown
         anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.space1_5 }
         iconName: "bell"
-        title: removed === 1 ? page.alerts.removedTitle : qsTranslate("Loomstreet", "%1 alerts").arg(removed)
-        text: removed === 1 ? qsTranslate("Loomstreet", "We won't email you about it.") : qsTranslate("Loomstreet", "We won't email you about them.")
+        title: removed === 1 ? page.alerts.removedTitle : qsTranslate("Loomstreet", "%Ln alerts", "", removed)
+        text: qsTranslate("Loomstreet", "We won't email you about them.", "", removed)
         onActivated: page.alerts.undoRemoval()
         onDismissed: page.alerts.forgetRemoval()
     }

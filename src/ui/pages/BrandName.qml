@@ -14,8 +14,7 @@ Pressable {
     implicitHeight: Math.max(Theme.targetRow - Theme.spaceHalf, label.implicitHeight + Theme.space1)
     text: name
     focusPolicy: current || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
-    accessibleName: count === 1 ? qsTranslate("Loomstreet", "%1, 1 piece").arg(name)
-                                : qsTranslate("Loomstreet", "%1, %2 pieces").arg(name).arg(count)
+    accessibleName: qsTranslate("Loomstreet", "%1, %Ln pieces", "", count).arg(name)
 
     contentItem: Item {
         TextLabel {

@@ -42,8 +42,7 @@ Item {
                 width: header.narrow ? parent.width : parent.width - field.width - Theme.space2
                 type: header.narrow ? Theme.type.heading : Theme.type.title
                 title: qsTranslate("Loomstreet", "Designers")
-                note: header.total === 0 ? "" : header.total === 1 ? qsTranslate("Loomstreet", "1 designer")
-                                                                   : qsTranslate("Loomstreet", "%1 designers").arg(header.total)
+                note: header.total === 0 ? "" : qsTranslate("Loomstreet", "%Ln designers", "", header.total)
             }
             FieldInput {
                 id: field

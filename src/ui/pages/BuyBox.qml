@@ -51,12 +51,11 @@ Column {
             visible: (box.reviews.rating ?? 0) > 0
             value: box.reviews.rating ?? 0
             note: {
-                const rating = Number(box.reviews.rating ?? 0).toFixed(1)
+                const rating = Number(box.reviews.rating ?? 0).toLocaleString(Qt.locale(), "f", 1)
                 const count = box.reviews.count
                 if (count === undefined)
                     return rating
-                return count === 1 ? qsTranslate("Loomstreet", "%1  1 review").arg(rating)
-                                   : qsTranslate("Loomstreet", "%1  %2 reviews").arg(rating).arg(count)
+                return rating + "  " + qsTranslate("Loomstreet", "%Ln reviews", "", count)
             }
         }
     }
@@ -78,8 +77,8 @@ Column {
         TextLabel {
             objectName: "sold"
             anchors { right: parent.right; bottom: prices.bottom; bottomMargin: (prices.height - height) / 3 }
-            visible: (box.companions?.unitsSold ?? "") !== "" && prices.width + Theme.space2 + implicitWidth <= box.width
-            text: qsTranslate("Loomstreet", "%1 sold").arg(box.companions?.unitsSold ?? "")
+            visible: (box.companions?.unitsSold ?? 0) > 0 && prices.width + Theme.space2 + implicitWidth <= box.width
+            text: qsTranslate("Loomstreet", "%Ln sold", "", box.companions?.unitsSold ?? 0)
             type: Theme.type.small
             figures: true
             color: Theme.muted
@@ -105,8 +104,8 @@ Column {
             width: box.width
             group: box.product.options[index]
             advice: box.advice
-            hint: isSwatch || box.product.sizeHint === "" || group?.name.toLowerCase() !== "size" ? ""
-                  : qsTranslate("Loomstreet", "Most chosen: %1").arg(box.product.sizeHint)
+            hint: isSwatch || box.product.sizeHint === "" || group?.name !== box.advice?.option ? ""
+                  : qsTranslate("Loomstreet", "Most chosen: %1").arg(Bidi.isolate(box.product.sizeHint))
             onChosen: value => box.product.choose(group.name, value)
         }
     }
@@ -151,6 +150,7 @@ Column {
             id: compare
 
             objectName: "compareProduct"
+            width: Math.min(implicitWidth, ways.width)
             size: "small"
             kind: "quiet"
             iconName: "square.grid.2x2"
@@ -159,6 +159,7 @@ Column {
             onClicked: box.compareAsked()
         }
         PriceAlert {
+            width: Math.min(implicitWidth, ways.width)
             app: box.app
             product: box.product
             session: box.session
@@ -171,7 +172,7 @@ Column {
             width: parent.width
             iconName: "truck"
             title: qsTranslate("Loomstreet", "FREE worldwide shipping")
-            note: qsTranslate("Loomstreet", "On carts of %1 or more").arg(box.product.freeShippingFrom)
+            note: qsTranslate("Loomstreet", "On carts of %1 or more").arg(Bidi.isolate(box.product.freeShippingFrom))
         }
         FactRow {
             objectName: "returns"

@@ -76,7 +76,8 @@ Column {
             objectName: "saveProduct"
             anchors.right: parent.right
             kind: "outlined"
-            extent: add.height
+            extent: Math.max(Theme.targetPrimary, Theme.type.control.line + 2 * add.verticalPadding)
+            height: add.height
             iconName: saved ? "heart.fill" : "heart"
             color: saved ? Theme.accent : Theme.ink
             enabled: buttons.product?.title !== ""

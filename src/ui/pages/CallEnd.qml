@@ -36,8 +36,11 @@ FocusScope {
         wrapMode: Text.Wrap
         Accessible.role: Accessible.AlertMessage
     }
-    Row {
+    // Below each other where one would cut the other short.
+    Flow {
         id: buttons
+
+        readonly property bool stacked: !end.small && again.visible && again.implicitWidth + spacing + close.implicitWidth > width
 
         anchors { left: parent.left; right: parent.right }
         y: end.call.failure !== "" ? Math.ceil(sentence.implicitHeight) + end.gap : 0
@@ -47,7 +50,7 @@ FocusScope {
             id: again
 
             objectName: "callAgain"
-            width: end.small ? implicitWidth : Math.max(implicitWidth, (parent.width - parent.spacing) / 2)
+            width: end.small ? implicitWidth : buttons.stacked ? buttons.width : Math.max(implicitWidth, (buttons.width - buttons.spacing) / 2)
             visible: end.call.canCallAgain
             focus: visible
             kind: end.small ? "secondary" : "primary"
@@ -57,9 +60,11 @@ FocusScope {
             onClicked: end.call.callAgain()
         }
         PushButton {
+            id: close
+
             objectName: "closeEnded"
             kind: end.small ? "quiet" : "secondary"
-            width: end.small ? implicitWidth : again.visible ? parent.width - again.width - parent.spacing : parent.width
+            width: end.small ? implicitWidth : again.visible && !buttons.stacked ? buttons.width - again.width - buttons.spacing : buttons.width
             focus: !again.visible
             size: end.buttonSize
             text: qsTranslate("Loomstreet", "Close")

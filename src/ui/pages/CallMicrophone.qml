@@ -47,6 +47,8 @@ Item {
         text: sign.sentence
         type: Theme.type.caption
         color: sign.open ? Theme.accent : Theme.muted
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
         Accessible.ignored: true
     }
 }

@@ -13,6 +13,7 @@ Pressable {
     property bool worded: false
     property string shortcut
     property bool showsToolTip: true
+    property int mostWords: 104 * Theme.textScale // more take a line more
 
     readonly property bool dangerous: kind === "danger"
     readonly property color fill: {
@@ -23,7 +24,7 @@ Pressable {
         return down ? Theme.pressed : hovered ? Theme.hover : Theme.sunken
     }
 
-    implicitWidth: worded ? Math.max(72, extent, words.implicitWidth) : extent
+    implicitWidth: worded ? Math.max(72, extent, Math.min(words.implicitWidth, mostWords)) : extent
     implicitHeight: worded ? extent + Theme.space1 + words.height : extent
 
     background: Item {
@@ -52,10 +53,13 @@ Pressable {
             id: words
 
             anchors { top: disc.bottom; topMargin: Theme.space1; horizontalCenter: parent.horizontalCenter }
+            width: Math.min(implicitWidth, Math.max(parent.width, control.extent))
             visible: control.worded
             text: control.text
             type: Theme.type.caption
             color: Theme.muted
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignHCenter
             Accessible.ignored: true
         }
     }

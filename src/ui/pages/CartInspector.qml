@@ -117,9 +117,9 @@ FocusScope {
             CartLines {
                 id: lines
 
-                anchors { left: parent.left; right: inspector.beside ? sum.left : parent.right }
-                anchors { top: inspector.beside ? parent.top : shipping.bottom; bottom: offers.top }
-                anchors { leftMargin: inspector.padding; rightMargin: inspector.padding; topMargin: Theme.space1 }
+                anchors { left: parent.left; leftMargin: inspector.padding }
+                anchors { top: inspector.beside ? parent.top : shipping.bottom; topMargin: Theme.space1; bottom: offers.top }
+                width: parent.width - (inspector.beside ? sum.width : 0) - 2 * inspector.padding
                 visible: inspector.hasLines
                 cart: inspector.cart
                 backdrop: inspector.backdrop
@@ -155,9 +155,7 @@ FocusScope {
                     objectName: "lost"
                     width: parent.width
                     sentence: inspector.cart.lostCount === 0 ? ""
-                              : inspector.cart.lostCount === 1
-                                ? qsTranslate("Loomstreet", "Your earlier cart has expired. 1 item was in it.")
-                                : qsTranslate("Loomstreet", "Your earlier cart has expired. %1 items were in it.").arg(inspector.cart.lostCount)
+                              : qsTranslate("Loomstreet", "Your earlier cart has expired. %Ln items were in it.", "", inspector.cart.lostCount)
                     tone: Theme.ink
                     actionText: qsTranslate("Loomstreet", "Put back")
                     busy: inspector.cart.isPuttingBack

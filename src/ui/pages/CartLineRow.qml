@@ -136,6 +136,7 @@ FocusScope {
                 text: row.note
                 type: Theme.type.small
                 color: Theme.warning
+                wrapMode: Text.Wrap
             }
         }
         Item {

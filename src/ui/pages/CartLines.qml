@@ -35,7 +35,7 @@ Item {
         TextLabel {
             objectName: "itemCount"
             width: parent.width
-            topPadding: Theme.space1
+            topPadding: Theme.space1 + evenPadding - type.leading
             text: lines.cart.itemCountText
             type: Theme.type.control
             font.weight: Font.Normal

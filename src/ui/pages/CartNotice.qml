@@ -39,7 +39,7 @@ Item {
         type: Theme.type.small
         color: notice.tone
         wrapMode: Text.Wrap
-        maximumLineCount: 3
+        maximumLineCount: 5
         Accessible.ignored: true
     }
     Row {

@@ -35,7 +35,7 @@ Column {
             type: Theme.type.control
             font.weight: Font.Normal
             wrapMode: Text.Wrap
-            maximumLineCount: 2
+            maximumLineCount: 3
         }
         TextLabel {
             id: goal

@@ -14,18 +14,17 @@ ListingPage {
     readonly property string counted: {
         const total = collection ? collection.totalCount : -1
         const count = total >= 0 ? total : designer.items > 0 ? designer.items : -1
-        return count < 0 ? "" : count === 1 ? qsTranslate("Loomstreet", "1 piece")
-                                            : qsTranslate("Loomstreet", "%1 pieces").arg(count)
+        return count < 0 ? "" : qsTranslate("Loomstreet", "%Ln pieces", "", count)
     }
 
     title: phase === ProductListing.Missing ? qsTranslate("Loomstreet", "Not available")
          : collection?.title || (phase === ProductListing.Failed ? qsTranslate("Loomstreet", "Collection") : "")
     note: designer.newItems > 0 && counted !== ""
-          ? qsTranslate("Loomstreet", "%1 · %2 new in the last 30 days").arg(counted).arg(designer.newItems) : counted
+          ? counted + " · " + qsTranslate("Loomstreet", "%Ln new in the last 30 days", "", designer.newItems) : counted
 
     words: ListingWords {
         missingTitle: qsTranslate("Loomstreet", "This collection isn't available")
-        missingSentence: qsTranslate("Loomstreet", "It may have been renamed or isn't sold in ") + page.app.market.countryName
+        missingSentence: qsTranslate("Loomstreet", "It may have been renamed or isn't sold in %1").arg(page.app.market.countryName)
         emptyTitle: qsTranslate("Loomstreet", "Nothing here yet")
         emptySentence: qsTranslate("Loomstreet", "New pieces arrive every week.")
         filteredTitle: qsTranslate("Loomstreet", "No items match these filters")

@@ -45,7 +45,16 @@ PageBase {
     Flickable {
         id: flick
 
+        // Where it comes to an end on the right, which is where it begins from right to left.
+        readonly property real end: contentWidth - width
+        property real formerEnd: 0
+
         objectName: "flick"
+        onEndChanged: {
+            if (LayoutMirroring.enabled)
+                contentX = Math.max(0, Math.min(contentX + end - formerEnd, end))
+            formerEnd = end
+        }
         anchors.fill: parent
         contentWidth: Math.max(width, page.places * page.columnWidth + (page.places - 1) * page.gap + 2 * page.padding)
         contentHeight: table.height + Theme.space8
@@ -60,11 +69,11 @@ PageBase {
         ListHeader {
             id: head
 
-            x: page.padding
+            anchors { left: parent.left; leftMargin: page.padding }
             width: flick.width - 2 * page.padding
             narrow: page.narrow
             title: page.title
-            note: page.count === 1 ? qsTranslate("Loomstreet", "1 piece") : qsTranslate("Loomstreet", "%1 pieces").arg(page.count)
+            note: qsTranslate("Loomstreet", "%Ln pieces", "", page.count)
         }
         Column {
             id: table

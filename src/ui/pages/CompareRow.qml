@@ -18,10 +18,9 @@ Column {
     width: parent?.width ?? 0
     spacing: Theme.space1
 
-    TextLabel {
+    Overline {
         width: parent.width
-        text: row.title
-        type: Theme.type.overline
+        words: row.title
         color: Theme.muted
         Accessible.role: Accessible.Heading
     }

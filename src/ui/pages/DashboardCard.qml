@@ -13,6 +13,11 @@ Pressable {
     property bool first: false
     // So is the end of the last one.
     property bool last: false
+    // How many lines the sentences beside it take, so that what stands below them is on one line.
+    property int lines: 1
+    readonly property int ownLines: sentence.lineCount
+    // As wide as the way on needs it.
+    readonly property real wayWidth: (text !== "" ? way.implicitWidth + Theme.spaceHalf + arrow.width : 0) + 2 * Theme.space2
     default property alias instead: instead.data
 
     accessibleName: line + ", " + sentence + (text === "" ? "" : ", " + text)
@@ -53,14 +58,23 @@ Pressable {
                     Accessible.ignored: true
                 }
             }
-            TextLabel {
-                objectName: "sentence"
+            Item {
                 width: parent.width
-                text: card.sentence
-                type: Theme.type.panel
-                font.pixelSize: Math.round(19 * Theme.textScale)
-                font.weight: Font.Normal
-                Accessible.ignored: true
+                implicitHeight: sentence.implicitHeight + Math.max(0, card.lines - card.ownLines) * sentence.type.line
+
+                TextLabel {
+                    id: sentence
+
+                    objectName: "sentence"
+                    width: parent.width
+                    text: card.sentence
+                    type: Theme.type.panel
+                    font.pixelSize: Math.round(19 * Theme.textScale)
+                    font.weight: Font.Normal
+                    wrapMode: Text.Wrap
+                    maximumLineCount: 2
+                    Accessible.ignored: true
+                }
             }
             Item {
                 id: instead

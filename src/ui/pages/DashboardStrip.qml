@@ -17,11 +17,18 @@ Row {
 
     readonly property var keys: app.remoteConfig.dashboard
     readonly property bool filled: keys.length > 0 || bagged
-    readonly property int leastWidth: 200 * Theme.textScale
+    readonly property int leastWidth: Math.max(200 * Theme.textScale, Math.min(widestWay, mostWidth))
     readonly property int mostWidth: 340 * Theme.textScale
+    property int widestWay: 0
+    property int lines: 1 // of the longest sentence
     readonly property bool bagged: app.cart.itemCount > 0 && app.cart.hasShipping
     readonly property int bagWidth: bagged ? Math.max(leastWidth, Math.min(Math.round(width * 0.32), 380 * Theme.textScale)) : 0
-    readonly property int perView: Math.max(1, Math.min(keys.length, Math.floor((width - bagWidth) / leastWidth)))
+    readonly property int perView: {
+        const most = Math.floor((width - bagWidth) / leastWidth)
+        // Beside the arrow, too, the ways on are as wide as they need.
+        return most >= keys.length ? Math.max(1, keys.length)
+             : Math.max(1, Math.min(most, Math.floor((width - bagWidth - Theme.targetIcon) / Math.max(1, Math.min(widestWay, mostWidth)))))
+    }
     readonly property bool paged: keys.length > perView
     readonly property int cell: Math.min(mostWidth, Math.floor((width - bagWidth - (paged ? Theme.targetIcon : 0)) / perView))
     // The first card in view; the last page is full, too.
@@ -32,6 +39,17 @@ Row {
     readonly property bool wantsDrops: live && keys.indexOf("wishlist") >= 0 && app.wishlist.count + app.recentlyViewed.count > 0
 
     function turn(): void { first = atEnd ? 0 : Math.min(first + perView, keys.length - perView) }
+    function measure(): void {
+        let most = bagged ? bag.ownLines : 1
+        let widest = 0
+        for (let i = 0; i < cards.count; ++i) {
+            const card = cards.itemAt(i) as DashboardCard
+            most = Math.max(most, card?.ownLines ?? 1)
+            widest = Math.max(widest, Math.ceil(card?.wayWidth ?? 0))
+        }
+        lines = most
+        widestWay = widest
+    }
     function reload(): void {
         if (wantsOrders)
             app.orders.reload()
@@ -51,6 +69,7 @@ Row {
     }
     onPerViewChanged: first = Math.max(0, Math.min(first, keys.length - perView))
     onKeysChanged: first = 0
+    onBaggedChanged: measure()
     Component.onCompleted: words.orders = app.makeOrders(strip, "")
 
     DashboardWords {
@@ -60,7 +79,11 @@ Row {
         router: strip.router
     }
     Repeater {
+        id: cards
+
         model: strip.keys
+        onItemAdded: strip.measure()
+        onItemRemoved: strip.measure()
 
         DashboardCard {
             id: card
@@ -77,6 +100,9 @@ Row {
             line: facts?.line ?? ""
             sentence: facts?.sentence ?? ""
             text: facts?.way ?? ""
+            lines: strip.lines
+            onOwnLinesChanged: strip.measure()
+            onWayWidthChanged: strip.measure()
             onClicked: facts.go()
         }
     }
@@ -90,6 +116,8 @@ Row {
         onClicked: strip.turn()
     }
     DashboardCard {
+        id: bag
+
         objectName: "dashboard.bag"
         width: strip.bagWidth
         visible: strip.bagged
@@ -98,6 +126,8 @@ Row {
         iconName: "bag"
         line: strip.app.cart.itemCountText
         sentence: strip.app.cart.shippingText
+        lines: strip.lines
+        onOwnLinesChanged: strip.measure()
         onClicked: strip.session.isCartOpen = true
 
         Meter {

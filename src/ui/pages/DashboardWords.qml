@@ -52,11 +52,11 @@ QtObject {
         if (cheaper > 0)
             return { icon: "chart.down", line: qsTranslate("Loomstreet", "Price drops"),
                      sentence: qsTranslate("Loomstreet", "Your pieces cost less now"),
-                     way: cheaper === 1 ? qsTranslate("Loomstreet", "1 piece") : qsTranslate("Loomstreet", "%1 pieces").arg(cheaper),
+                     way: qsTranslate("Loomstreet", "%Ln pieces", "", cheaper),
                      go: () => router.openPriceDrops() }
         const count = app.wishlist.count
         const saved = count === 0 ? qsTranslate("Loomstreet", "Keep what you love")
-                    : count === 1 ? qsTranslate("Loomstreet", "1 piece saved") : qsTranslate("Loomstreet", "%1 pieces saved").arg(count)
+                    : qsTranslate("Loomstreet", "%Ln pieces saved", "", count)
         return { icon: "heart", line: qsTranslate("Loomstreet", "Wishlist"), sentence: saved,
                  way: qsTranslate("Loomstreet", "See the wishlist"), go: () => router.selectItem(13) }
     }

@@ -43,8 +43,7 @@ Disclosure {
                 enabled: selected || pieces > 0
                 text: label
                 checkable: false
-                accessibleName: pieces === 1 ? qsTranslate("Loomstreet", "%1, 1 piece").arg(label)
-                                             : qsTranslate("Loomstreet", "%1, %2 pieces").arg(label).arg(pieces)
+                accessibleName: qsTranslate("Loomstreet", "%1, %Ln pieces", "", pieces).arg(label)
                 onClicked: group.filters.toggle(group.filterID, valueID)
                 Accessible.role: Accessible.CheckBox
                 Accessible.checkable: true
@@ -90,8 +89,7 @@ Disclosure {
             opacity: selected || pieces > 0 ? 1 : Theme.alphaDisabled
             text: label
             note: pieces
-            accessibleName: pieces === 1 ? qsTranslate("Loomstreet", "%1, 1 piece").arg(label)
-                                         : qsTranslate("Loomstreet", "%1, %2 pieces").arg(label).arg(pieces)
+            accessibleName: qsTranslate("Loomstreet", "%1, %Ln pieces", "", pieces).arg(label)
             // One without pieces can be passed by the arrows, but not chosen.
             locked: !selected && pieces === 0
             onClicked: {
@@ -112,7 +110,7 @@ Disclosure {
         anchors.left: parent.left
         visible: group.values.hiddenCount > 0 || group.values.isExpanded
         text: group.values.isExpanded ? qsTranslate("Loomstreet", "Show fewer")
-                                      : qsTranslate("Loomstreet", "Show all %1").arg(group.values.total)
+                                      : qsTranslate("Loomstreet", "Show all %Ln", "", group.values.total)
         accessibleName: group.label + ": " + text
         onClicked: group.values.isExpanded = !group.values.isExpanded
     }

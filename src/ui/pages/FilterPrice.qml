@@ -15,7 +15,14 @@ Disclosure {
     function send(): void { filters.setPriceText(from.text, upTo.text) }
 
     objectName: "filter.price"
-    title: filters.currency === "" ? label : label + ", " + filters.currency
+    title: {
+        if (filters.currency === "")
+            return label
+        const language = Qt.locale().name.slice(0, 2)
+        if (language === "ja" || language === "zh")
+            return label + "（" + filters.currency + "）"
+        return label + (language === "ar" ? "، " : ", ") + filters.currency
+    }
     expanded: true
 
     Row {

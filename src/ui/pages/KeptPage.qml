@@ -105,10 +105,9 @@ PageBase {
             title: page.title
             note: page.picking
                   ? page.picked.length > page.most
-                    ? qsTranslate("Loomstreet", "%1 chosen, %2 can be compared").arg(page.picked.length).arg(page.most)
-                    : qsTranslate("Loomstreet", "%1 chosen").arg(page.picked.length)
-                  : page.kept.count === 1 ? qsTranslate("Loomstreet", "1 piece")
-                                          : qsTranslate("Loomstreet", "%1 pieces").arg(page.kept.count)
+                    ? qsTranslate("Loomstreet", "%Ln chosen, %L1 can be compared", "", page.picked.length).arg(page.most)
+                    : qsTranslate("Loomstreet", "%Ln chosen", "", page.picked.length)
+                  : qsTranslate("Loomstreet", "%Ln pieces", "", page.kept.count)
 
             PushButton {
                 objectName: "compare"

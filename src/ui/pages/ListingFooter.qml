@@ -44,7 +44,7 @@ Item {
         objectName: "end"
         anchors.centerIn: parent
         visible: footer.listing ? !footer.listing.hasNextPage && !footer.listing.isLoadingMore : false
-        text: qsTranslate("Loomstreet", "You've seen all ") + footer.count
+        text: qsTranslate("Loomstreet", "You've seen all %Ln", "", footer.count)
         type: Theme.type.small
         figures: true
         color: Theme.muted

@@ -34,6 +34,12 @@ Item {
         font.pixelSize: header.kind.size
         text: header.title
     }
+    FontMetrics {
+        id: letters
+
+        font.family: Theme.type.label.family
+        font.pixelSize: Theme.type.label.size
+    }
     Column {
         id: column
 
@@ -62,7 +68,8 @@ Item {
                     let room = parent.width - words.advanceWidth - Theme.space3
                     let count = 0
                     for (const collection of header.collections) {
-                        room -= Theme.space8 + collection.title.length * Theme.type.label.size * 0.62
+                        room -= Theme.space8 + Math.max(letters.advanceWidth(collection.title),
+                                                        collection.title.length * Theme.type.label.size * 0.62)
                         if (room < 0)
                             break
                         ++count

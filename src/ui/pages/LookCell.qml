@@ -161,8 +161,13 @@ FocusScope {
                 spacing: Theme.spaceHalf
 
                 Item {
+                    id: sizeWords
+
+                    // Beside each other one of them would be cut short.
+                    readonly property bool crowded: recommended.visible && label.width + Theme.space1 + recommended.implicitWidth > width
+
                     width: parent.width
-                    height: label.height
+                    height: label.height + (crowded ? recommended.height : 0)
 
                     TextLabel {
                         id: label
@@ -174,8 +179,11 @@ FocusScope {
                         color: cell.lacksSize ? Theme.danger : Theme.ink
                     }
                     TextLabel {
+                        id: recommended
+
                         objectName: "recommended"
-                        anchors { left: label.right; leftMargin: Theme.space1; right: parent.right; baseline: label.baseline }
+                        anchors { left: sizeWords.crowded ? parent.left : label.right; leftMargin: sizeWords.crowded ? 0 : Theme.space1; right: parent.right }
+                        anchors { baseline: sizeWords.crowded ? undefined : label.baseline; bottom: sizeWords.crowded ? parent.bottom : undefined }
                         visible: cell.recommendedSize !== ""
                         text: qsTranslate("Loomstreet", "Recommended for you: %1").arg(Bidi.isolate(cell.recommendedSize))
                         type: Theme.type.caption
@@ -217,8 +225,8 @@ FocusScope {
             wrapMode: Text.Wrap
             Accessible.role: Accessible.AlertMessage
         }
-        Row {
-            anchors.left: parent.left
+        Flow {
+            width: parent.width
             spacing: Theme.space2
 
             LinkButton {
@@ -267,6 +275,7 @@ FocusScope {
                     }
                     property bool rises: false // there is room above
 
+                    x: cell.LayoutMirroring.enabled && made ? swapLink.width - made.width : 0
                     y: rises && made ? -made.height - Theme.spaceHalf : swapLink.height
                 }
             }

@@ -64,9 +64,8 @@ Item {
                     objectName: "lookCount"
                     width: parent.width
                     text: sum.look.pieces === sum.look.count
-                          ? sum.look.count === 1 ? qsTranslate("Loomstreet", "1 piece")
-                                                 : qsTranslate("Loomstreet", "%1 pieces").arg(sum.look.count)
-                          : qsTranslate("Loomstreet", "%1 of %2 pieces").arg(sum.look.pieces).arg(sum.look.count)
+                          ? qsTranslate("Loomstreet", "%Ln pieces", "", sum.look.count)
+                          : qsTranslate("Loomstreet", "%L1 of %Ln pieces", "", sum.look.count).arg(sum.look.pieces)
                     type: Theme.type.small
                     color: Theme.muted
                 }
@@ -95,7 +94,7 @@ Item {
                 Item {
                     id: slot
 
-                    width: sum.width < 760 ? 200 : 240
+                    width: Math.max(sum.width < 760 ? 200 : 240, action.implicitWidth)
                     height: action.height
                 }
             }

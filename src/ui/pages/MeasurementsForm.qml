@@ -12,7 +12,7 @@ Sheet {
 
     readonly property MeasurementsModel measurements: app.measurements
     readonly property bool metric: measurements.isMetric
-    readonly property string lengthUnit: metric ? qsTranslate("Loomstreet", "cm") : qsTranslate("Loomstreet", "in")
+    readonly property string lengthUnit: metric ? qsTranslate("Loomstreet", "cm") : qsTranslate("Loomstreet", "in", "unit.inch")
     readonly property var fits: measurements.fits
     property bool sending: false
 
@@ -70,7 +70,7 @@ Sheet {
                 TextLabel {
                     id: heading
 
-                    width: parent.width - Theme.space5
+                    anchors { left: parent.left; right: parent.right; rightMargin: Theme.space5 }
                     text: qsTranslate("Loomstreet", "Your measurements")
                     type: Theme.type.heading
                     wrapMode: Text.Wrap
@@ -125,7 +125,7 @@ Sheet {
                         measurements: sheet.measurements
                         field: "inches"
                         width: feet.width
-                        label: qsTranslate("Loomstreet", "Height (%1)").arg(qsTranslate("Loomstreet", "in"))
+                        label: qsTranslate("Loomstreet", "Height (%1)").arg(qsTranslate("Loomstreet", "in", "unit.inch"))
                         onAccepted: sheet.send()
                     }
                 }
@@ -224,36 +224,12 @@ Sheet {
                     onActivated: index => sheet.measurements.fit = sheet.fits[index]
                 }
             }
-            Item {
+            MeasurementsAnswers {
                 width: parent.width
-                height: answers.height
-
-                Row {
-                    id: answers
-
-                    anchors.left: parent.left
-                    spacing: Theme.space1
-
-                    PushButton {
-                        objectName: "sendMeasurements"
-                        kind: "primary"
-                        text: qsTranslate("Loomstreet", "Send to Mira")
-                        onClicked: sheet.send()
-                    }
-                    PushButton {
-                        objectName: "cancelMeasurements"
-                        kind: "quiet"
-                        text: qsTranslate("Loomstreet", "Cancel")
-                        onClicked: sheet.closeAsked()
-                    }
-                }
-                LinkButton {
-                    objectName: "forgetMeasurements"
-                    anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-                    visible: sheet.measurements.isKept
-                    text: qsTranslate("Loomstreet", "Delete from this computer")
-                    onClicked: sheet.measurements.forget()
-                }
+                kept: sheet.measurements.isKept
+                onSendAsked: sheet.send()
+                onCancelAsked: sheet.closeAsked()
+                onForgetAsked: sheet.measurements.forget()
             }
         }
     }

@@ -82,7 +82,7 @@ Column {
             ContextChip {
                 objectName: "context.wardrobe"
                 iconName: "hanger"
-                text: writing.mira.wardrobeCount > 0 ? qsTranslate("Loomstreet", "My pieces · %1").arg(writing.mira.wardrobeCount) : ""
+                text: writing.mira.wardrobeCount > 0 ? qsTranslate("Loomstreet", "My pieces · %L1").arg(writing.mira.wardrobeCount) : ""
                 onClicked: writing.mira.removeWardrobe()
             }
         ]

@@ -27,7 +27,7 @@ Item {
         id: note
 
         anchors { left: button.right; leftMargin: Theme.space1; right: parent.right; verticalCenter: parent.verticalCenter }
-        text: qsTranslate("Loomstreet", "See the look: %1 pieces, each in your size").arg(offer.pieces)
+        text: qsTranslate("Loomstreet", "See the look: %Ln pieces, each in your size", "", offer.pieces)
         type: Theme.type.caption
         color: Theme.muted
         wrapMode: Text.Wrap

@@ -147,7 +147,7 @@ FocusScope {
         anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: (strip.visible ? strip.height : 0) + Theme.space1 }
         width: Math.min(parent.width - 2 * thread.padding, notice.implicitWidth + 2 * Theme.space2)
         height: notice.implicitHeight + 2 * Theme.space1
-        radius: height / 2
+        radius: Math.min(height, Theme.targetMinimum) / 2
         opacity: thread.mira.notice !== "" ? 1 : 0
         visible: opacity > 0
 
@@ -161,6 +161,8 @@ FocusScope {
             width: Math.min(implicitWidth, parent.width - 2 * Theme.space2)
             text: thread.mira.notice
             type: Theme.type.small
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignHCenter
             Accessible.role: Accessible.AlertMessage
         }
     }

@@ -169,8 +169,8 @@ FocusScope {
             maximumLineCount: 2
             Accessible.role: Accessible.AlertMessage
         }
-        Row {
-            anchors.left: parent.left
+        Flow {
+            width: parent.width
             spacing: Theme.space1
 
             PushButton {

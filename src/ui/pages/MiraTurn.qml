@@ -33,7 +33,7 @@ ChatBubble {
     text: model.text
     sentences: model.sentences ?? []
     timeLabel: model.timeLabel
-    heading: model.dayLabel === "" ? "" : model.timeLabel === "" ? model.dayLabel : model.dayLabel + ", " + Bidi.isolate(model.timeLabel)
+    heading: headingOf(model.dayLabel, model.timeLabel)
     speaker: mine ? qsTranslate("Loomstreet", "You") : mira.guideName
     sending: model.state === MiraThreadModel.Sending
     problem: model.state === MiraThreadModel.Unconfirmed ? mira.unconfirmedNote : ""

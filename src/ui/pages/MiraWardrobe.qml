@@ -95,8 +95,8 @@ Sheet {
             objectName: "pickedCount"
             anchors { left: parent.left; right: buttons.left; rightMargin: Theme.space1; verticalCenter: parent.verticalCenter }
             text: sheet.wardrobe.pickedCount < sheet.wardrobe.maximum
-                  ? qsTranslate("Loomstreet", "%1 chosen").arg(sheet.wardrobe.pickedCount)
-                  : qsTranslate("Loomstreet", "%1 chosen, the most there can be").arg(sheet.wardrobe.pickedCount)
+                  ? qsTranslate("Loomstreet", "%Ln chosen", "", sheet.wardrobe.pickedCount)
+                  : qsTranslate("Loomstreet", "%Ln chosen, the most there can be", "", sheet.wardrobe.pickedCount)
             type: Theme.type.small
             figures: true
             color: Theme.muted

@@ -43,7 +43,7 @@ Flickable {
         TextLabel {
             objectName: "welcome"
             width: parent.width
-            topPadding: Theme.space1
+            topPadding: Theme.space1 + evenPadding - type.leading
             text: qsTranslate("Loomstreet", "What are you dressing for?")
             type: Theme.type.section
             wrapMode: Text.Wrap

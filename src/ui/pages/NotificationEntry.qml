@@ -25,7 +25,7 @@ FocusScope {
 
     implicitHeight: heading.height + row.height
 
-    TextLabel {
+    Overline {
         id: heading
 
         x: entry.inset
@@ -34,8 +34,7 @@ FocusScope {
         visible: entry.begins
         verticalAlignment: Text.AlignBottom
         bottomPadding: Theme.spaceHalf
-        text: entry.ListView.section
-        type: Theme.type.overline
+        words: entry.ListView.section
         color: Theme.muted
         Accessible.role: Accessible.Heading
     }

@@ -65,6 +65,8 @@ Pressable {
                     anchors { left: parent.left; right: when.left; rightMargin: Theme.space1_5 }
                     text: row.title
                     type: row.isUnread ? Theme.type.bodyStrong : Theme.type.body
+                    wrapMode: Text.Wrap
+                    maximumLineCount: 2
                     Accessible.ignored: true
                 }
                 TextLabel {

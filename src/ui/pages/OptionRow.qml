@@ -24,19 +24,20 @@ Column {
 
     Item {
         width: parent.width
-        height: name.height
+        height: name.height + Math.max(0, recommendation.height - Theme.targetMinimum)
 
         TextLabel {
             id: name
 
-            anchors.left: parent.left
+            anchors { left: parent.left; bottom: parent.bottom }
             text: row.group?.name ?? ""
             type: Theme.type.label
         }
         TextLabel {
             objectName: "selected"
-            anchors { left: name.right; leftMargin: Theme.space1; right: recommendation.left; rightMargin: Theme.space1 }
-            visible: text !== ""
+            anchors { left: name.right; leftMargin: Theme.space1; right: recommendation.left; rightMargin: Theme.space1; top: name.top }
+            // A hint that does not fit is left out.
+            visible: text !== "" && (row.isSwatch || implicitWidth <= width)
             text: row.isSwatch ? row.group?.selected ?? "" : row.hint
             type: Theme.type.small
             color: Theme.muted

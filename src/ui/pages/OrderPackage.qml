@@ -8,11 +8,11 @@ Pressable {
     id: row
 
     required property var modelData
-    readonly property string name: [modelData.carrier, Bidi.isolate(modelData.number)].filter(text => text !== "").join("  ·  ")
+    readonly property string name: Bidi.joined([modelData.carrier, Bidi.isolate(modelData.number)])
     readonly property string latest: {
         const event = modelData.events[0]
         // What says the same once more is left out.
-        return !event ? "" : event.text === modelData.status ? event.when : event.text + "  ·  " + event.when
+        return !event ? "" : event.text === modelData.status ? event.when : Bidi.joined([event.text, event.when])
     }
 
     objectName: "package." + modelData.number
@@ -35,8 +35,8 @@ Pressable {
 
             TextLabel {
                 width: parent.width
-                text: row.modelData.expected === "" ? row.modelData.status
-                      : row.modelData.status + "  ·  " + qsTranslate("Loomstreet", "Expected %1").arg(row.modelData.expected)
+                text: Bidi.joined([row.modelData.status, row.modelData.expected === "" ? ""
+                                                         : qsTranslate("Loomstreet", "Expected %1").arg(row.modelData.expected)])
                 type: Theme.type.label
                 wrapMode: Text.Wrap
                 font.underline: row.hovered

@@ -29,7 +29,7 @@ PageBase {
 
     component Heading: TextLabel {
         width: parent?.width ?? 0
-        topPadding: type.leading + Theme.space1
+        topPadding: evenPadding + Theme.space1
         type: Theme.type.section
         Accessible.role: Accessible.Heading
     }
@@ -104,7 +104,7 @@ PageBase {
                 width: parent.width
                 visible: packages.count > 0
 
-                Heading { text: packages.count === 1 ? qsTranslate("Loomstreet", "Package") : qsTranslate("Loomstreet", "Packages") }
+                Heading { text: qsTranslate("Loomstreet", "Packages", "", packages.count) }
                 Repeater {
                     id: packages
 

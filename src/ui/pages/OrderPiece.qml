@@ -9,9 +9,8 @@ Pressable {
     id: piece
 
     required property var modelData
-    readonly property string note: [Bidi.isolate(modelData.variant),
-                                    modelData.quantity > 1 ? qsTranslate("Loomstreet", "Quantity %1").arg(modelData.quantity) : ""]
-                                       .filter(text => text !== "").join("  ·  ")
+    readonly property string note: Bidi.joined([Bidi.isolate(modelData.variant),
+                                                modelData.quantity > 1 ? qsTranslate("Loomstreet", "Quantity %L1").arg(modelData.quantity) : ""])
 
     signal opened(int mode)
 

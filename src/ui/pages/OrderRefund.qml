@@ -7,7 +7,7 @@ Item {
     id: row
 
     required property var modelData
-    readonly property string facts: [modelData.date, Bidi.isolate(modelData.rmaNo), modelData.reason].filter(text => text !== "").join("  ·  ")
+    readonly property string facts: Bidi.joined([modelData.date, Bidi.isolate(modelData.rmaNo), modelData.reason])
 
     implicitHeight: words.implicitHeight + 2 * Theme.space2 + Theme.strokeHairline
 

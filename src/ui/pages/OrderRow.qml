@@ -75,7 +75,7 @@ FocusScope {
                 }
                 TextLabel {
                     width: parent.width
-                    text: row.facts.filter(text => text !== "").join("  ·  ")
+                    text: Bidi.joined(row.facts)
                     type: Theme.type.small
                     figures: true
                     color: Theme.muted

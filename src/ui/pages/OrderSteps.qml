@@ -16,7 +16,7 @@ Item {
     implicitHeight: 12 + Theme.space1 + row.height
 
     Accessible.role: Accessible.ProgressBar
-    Accessible.name: qsTranslate("Loomstreet", "Step %1 of %2: %3").arg(current + 1).arg(texts.length).arg(texts[current] ?? "")
+    Accessible.name: qsTranslate("Loomstreet", "Step %L1 of %L2: %3").arg(current + 1).arg(texts.length).arg(texts[current] ?? "")
 
     Row {
         id: row

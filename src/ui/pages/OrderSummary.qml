@@ -47,10 +47,9 @@ Column {
             Accessible.ignored: true
         }
     }
-    component Heading: TextLabel {
+    component Heading: Overline {
         width: parent?.width ?? 0
         bottomPadding: -topPadding + Theme.spaceHalf
-        type: Theme.type.overline
         color: Theme.muted
         Accessible.role: Accessible.Heading
     }
@@ -59,7 +58,7 @@ Column {
         width: parent.width
         spacing: Theme.spaceHalf
 
-        Heading { text: qsTranslate("Loomstreet", "Summary") }
+        Heading { words: qsTranslate("Loomstreet", "Summary") }
         Repeater {
             model: summary.order?.sums ?? []
 
@@ -82,7 +81,7 @@ Column {
         width: parent.width
         visible: address.text !== ""
 
-        Heading { text: qsTranslate("Loomstreet", "Delivery address") }
+        Heading { words: qsTranslate("Loomstreet", "Delivery address") }
         TextLabel {
             id: address
 

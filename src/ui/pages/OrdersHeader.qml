@@ -38,7 +38,7 @@ Item {
                 checkable: true
                 checked: header.orders?.showsHidden ?? false
                 on: checked
-                text: qsTranslate("Loomstreet", "Hidden") + "  ·  " + (header.orders?.hiddenCount ?? 0)
+                text: qsTranslate("Loomstreet", "Hidden", "orders.hidden") + "  ·  " + (header.orders?.hiddenCount ?? 0)
                 onClicked: header.orders.showsHidden = !header.orders.showsHidden
             }
             PushButton {
@@ -68,8 +68,8 @@ Item {
             Accessible.name: qsTranslate("Loomstreet", "Which orders")
 
             Repeater {
-                model: [qsTranslate("Loomstreet", "All"), qsTranslate("Loomstreet", "On the way"),
-                        qsTranslate("Loomstreet", "Delivered"), qsTranslate("Loomstreet", "Returns & refunds")]
+                model: [qsTranslate("Loomstreet", "All"), qsTranslate("Loomstreet", "On the way", "orders.filter"),
+                        qsTranslate("Loomstreet", "Delivered", "orders.filter"), qsTranslate("Loomstreet", "Returns & refunds")]
 
                 Chip {
                     required property int index

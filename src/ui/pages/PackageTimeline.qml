@@ -38,7 +38,7 @@ Column {
         TextLabel {
             objectName: "number"
             width: parent.width
-            text: [timeline.modelData.carrier, Bidi.isolate(timeline.modelData.number)].filter(text => text !== "").join("  ·  ")
+            text: Bidi.joined([timeline.modelData.carrier, Bidi.isolate(timeline.modelData.number)])
             type: Theme.type.small
             figures: true
             color: Theme.muted
@@ -76,7 +76,7 @@ Column {
                 required property int index
                 required property var modelData
                 readonly property bool newest: index === 0
-                readonly property string facts: [modelData.place, modelData.when].filter(text => text !== "").join("  ·  ")
+                readonly property string facts: Bidi.joined([modelData.place, modelData.when])
 
                 width: timeline.width
                 height: words.height + Theme.space2

@@ -49,8 +49,7 @@ PageBase {
             width: grid.room
             narrow: page.narrow
             title: page.title
-            note: grid.count === 1 ? qsTranslate("Loomstreet", "1 piece costs less than when you saw it")
-                                   : qsTranslate("Loomstreet", "%1 pieces cost less than when you saw them").arg(grid.count)
+            note: qsTranslate("Loomstreet", "%Ln pieces cost less than when you saw them", "", grid.count)
         }
     }
     CollectionSkeleton {

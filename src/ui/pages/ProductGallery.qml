@@ -86,7 +86,7 @@ FocusScope {
             width: measure.thumbWidth
             height: small.implicitHeight
             focusPolicy: Qt.NoFocus
-            accessibleName: qsTranslate("Loomstreet", "Picture %1 of %2").arg(index + 1).arg(gallery.pictures.length)
+            accessibleName: qsTranslate("Loomstreet", "Picture %L1 of %L2").arg(index + 1).arg(gallery.pictures.length)
             onClicked: gallery.show(index)
 
             contentItem: Picture {
@@ -147,7 +147,7 @@ FocusScope {
             width: gallery.pictureWidth
             height: main.height
             address: modelData
-            description: qsTranslate("Loomstreet", "%1, picture %2").arg(gallery.product.title).arg(index + 1)
+            description: qsTranslate("Loomstreet", "%1, picture %L2").arg(gallery.product.title).arg(index + 1)
             onDecodedNowChanged: if (decodedNow && index < gallery.perView) ++main.decoded
 
             function enlarge(): void {

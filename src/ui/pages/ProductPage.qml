@@ -72,7 +72,8 @@ PageBase {
         id: left
 
         objectName: "left"
-        anchors { left: parent.left; right: page.narrow ? parent.right : buy.left; top: strip.visible ? strip.bottom : parent.top; bottom: parent.bottom }
+        anchors { left: parent.left; top: strip.visible ? strip.bottom : parent.top; bottom: parent.bottom }
+        width: parent.width - (page.narrow ? 0 : buy.width)
         visible: page.hasContent
         contentHeight: body.height + 2 * page.gap
         boundsBehavior: Flickable.StopAtBounds
@@ -111,7 +112,7 @@ PageBase {
                 readonly property bool beside: columns > 1
 
                 width: parent.width
-                columns: reviews.visible && sizes.visible && width >= 640 ? 2 : 1
+                columns: reviews.visible && sizes.visible && width >= 640 * Theme.textScale ? 2 : 1
                 columnSpacing: Theme.space4
                 rowSpacing: Theme.space4
 

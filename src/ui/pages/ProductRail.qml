@@ -54,7 +54,12 @@ Column {
         id: later
 
         interval: 0
-        onTriggered: rail.stay()
+        onTriggered: {
+            rail.stay()
+            // From right to left the list came to lie by its first card before that had its place.
+            if (row.LayoutMirroring.enabled)
+                row.positionViewAtIndex(rail.first, ListView.Beginning)
+        }
     }
 
     SectionHeader {

@@ -21,21 +21,29 @@ Column {
         Row {
             id: who
 
+            readonly property real room: width - (stars.visible ? stars.width + spacing : 0)
+
             anchors.left: parent.left
             width: parent.width - date.width - Theme.space1
             spacing: Theme.space1
-            clip: true
 
             StarRating {
+                id: stars
+
                 anchors.verticalCenter: parent.verticalCenter
                 visible: value > 0
                 value: entry.review.rating ?? 0
             }
             TextLabel {
+                id: name
+
+                width: Math.min(implicitWidth, who.room)
                 text: entry.review.user ?? ""
                 type: Theme.type.captionStrong
             }
             TextLabel {
+                width: Math.max(0, Math.min(implicitWidth, who.room - name.width - who.spacing))
+                visible: width >= Math.min(implicitWidth, 4 * type.size)
                 text: [entry.review.country, entry.review.sku].filter(part => part).join(" · ")
                 type: Theme.type.caption
                 color: Theme.muted
@@ -66,9 +74,8 @@ Column {
     TextLabel {
         width: parent.width
         visible: (entry.review.appendReview ?? "") !== ""
-        text: (entry.review.appendDays === 1 ? qsTranslate("Loomstreet", "After a day: %1")
-                                             : qsTranslate("Loomstreet", "After %1 days: %2").arg(entry.review.appendDays ?? 0))
-              .arg(entry.review.appendReview ?? "")
+        text: qsTranslate("Loomstreet", "After %Ln days: %1", "", entry.review.appendDays ?? 0)
+              .arg(Bidi.isolate(entry.review.appendReview ?? ""))
         type: Theme.type.small
         color: Theme.muted
         wrapMode: Text.Wrap
@@ -86,7 +93,7 @@ Column {
 
             width: entry.width
             leftPadding: Theme.space2
-            text: qsTranslate("Loomstreet", "The store answered: %1").arg(modelData)
+            text: qsTranslate("Loomstreet", "The store answered: %1").arg(Bidi.isolate(modelData))
             type: Theme.type.small
             color: Theme.muted
             wrapMode: Text.Wrap

@@ -42,7 +42,8 @@ Column {
                 const count = reviews.summary.count ?? 0
                 if (rating <= 0)
                     return reviews.summary.totalLabel ?? ""
-                return count > 0 ? qsTranslate("Loomstreet", "%1 of %2").arg(rating.toFixed(1)).arg(count) : rating.toFixed(1)
+                const shown = rating.toLocaleString(Qt.locale(), "f", 1)
+                return count > 0 ? shown + "  ·  " + qsTranslate("Loomstreet", "%Ln reviews", "", count) : shown
             }
         }
     }

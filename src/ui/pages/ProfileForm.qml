@@ -137,6 +137,7 @@ FocusScope {
                                 made.close()
                                 return
                             }
+                            made.monthTitle = (year, month) => form.profile.monthTitle(year, month + 1)
                             made.begin(form.profile.birthdayDate, Qt.locale(form.profile.place))
                             made.open()
                         }

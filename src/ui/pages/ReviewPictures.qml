@@ -25,7 +25,7 @@ Row {
 
             width: Theme.cardMessageThumb.width
             height: Theme.cardMessageThumb.height
-            accessibleName: qsTranslate("Loomstreet", "Enlarge picture %1").arg(index + 1)
+            accessibleName: qsTranslate("Loomstreet", "Enlarge picture %L1").arg(index + 1)
             onClicked: row.opened(index)
 
             contentItem: Picture { address: one.modelData }

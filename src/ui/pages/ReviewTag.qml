@@ -10,7 +10,7 @@ Rectangle {
     property int count: 0
 
     implicitWidth: words.implicitWidth + 2 * Theme.space1_5
-    implicitHeight: 28
+    implicitHeight: Math.max(28, words.implicitHeight + Theme.spaceHalf)
     radius: height / 2
     color: "transparent"
     border { width: Theme.strokeHairline; color: Theme.hairline }

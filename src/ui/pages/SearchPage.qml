@@ -8,7 +8,7 @@ ListingPage {
     readonly property SearchModel search: context.model
     readonly property string query: search?.query ?? ""
     // The curly marks of a quotation, which stay as they are in every language.
-    readonly property string quoted: "“" + query + "”"
+    readonly property string quoted: qsTranslate("Loomstreet", "“%1”").arg(query)
     readonly property DesignerCount designer: DesignerCount {
         context: page.context
         listing: page.search
@@ -30,15 +30,14 @@ ListingPage {
     blank: query === ""
     heading: {
         const count = search ? search.totalCount : -1
-        return count < 0 ? quoted : count === 1 ? qsTranslate("Loomstreet", "1 result for “") + query + "”"
-                                                : qsTranslate("Loomstreet", "%1 results for “").arg(count) + query + "”"
+        return count < 0 ? quoted : qsTranslate("Loomstreet", "%Ln results for “%1”", "", count).arg(query)
     }
     lined: !blank
     summary: {
         const understood = search?.summary ?? ""
         if (designer.newItems === 0)
             return understood
-        const news = qsTranslate("Loomstreet", "%1 new in the last 30 days").arg(designer.newItems)
+        const news = qsTranslate("Loomstreet", "%Ln new in the last 30 days", "", designer.newItems)
         return understood === "" ? news : understood + " · " + news
     }
     collections: search ? search.collections : []
@@ -46,10 +45,10 @@ ListingPage {
     words: ListingWords {
         emptyIcon: "magnifyingglass"
         emptyTitle: page.blank ? qsTranslate("Loomstreet", "What are you looking for?")
-                               : qsTranslate("Loomstreet", "No results for “") + page.query + "”"
+                               : qsTranslate("Loomstreet", "No results for “%1”").arg(page.query)
         emptySentence: page.blank ? "" : qsTranslate("Loomstreet", "Check the spelling, try a broader word, or browse New In.")
         filteredTitle: qsTranslate("Loomstreet", "Nothing matches these filters")
-        filteredSentence: qsTranslate("Loomstreet", "Remove a filter or two to see more of “") + page.query + "”"
+        filteredSentence: qsTranslate("Loomstreet", "Remove a filter or two to see more of “%1”").arg(page.query)
         ways: [
             { text: qsTranslate("Loomstreet", "New In"), go: () => page.router.selectItem(1) },
             { text: qsTranslate("Loomstreet", "Explore"), go: () => page.router.selectItem(0) }

@@ -31,6 +31,7 @@ Column {
             id: heading
 
             anchors { left: parent.left; right: units.visible ? units.left : parent.right; verticalCenter: parent.verticalCenter }
+            anchors.rightMargin: units.visible ? Theme.space2 : 0
             title: qsTranslate("Loomstreet", "Size table")
         }
         SegmentedControl {
@@ -40,7 +41,7 @@ Column {
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             visible: tables.product ? tables.product.hasSizeUnits : false
             name: qsTranslate("Loomstreet", "Unit of sizes")
-            segments: [qsTranslate("Loomstreet", "cm"), qsTranslate("Loomstreet", "in")]
+            segments: [qsTranslate("Loomstreet", "cm"), qsTranslate("Loomstreet", "in", "unit.inch")]
             currentIndex: tables.product && tables.product.isMetric ? 0 : 1
             onActivated: index => tables.product.isMetric = index === 0
         }

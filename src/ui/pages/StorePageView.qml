@@ -23,6 +23,7 @@ FocusScope {
         anchors.fill: parent
         focus: true
         visible: failure === ""
+        language: holder.app ? holder.app.market.language : "en"
         storeAddress: holder.app ? holder.app.storeWebAddress : ""
         backgroundColor: Theme.paper
         onLinkActivated: link => holder.linkActivated(link)

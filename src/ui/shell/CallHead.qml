@@ -15,7 +15,7 @@ Item {
 
     readonly property bool connected: call.isConnected
 
-    implicitHeight: 44
+    implicitHeight: Math.max(44, microphone.implicitHeight + Theme.space1)
 
     MouseArea {
         anchors.fill: parent
@@ -43,6 +43,8 @@ Item {
         Accessible.name: qsTranslate("Loomstreet", "Duration of the call: %1").arg(text)
     }
     CallMicrophone {
+        id: microphone
+
         anchors { left: duration.right; leftMargin: duration.text === "" ? 0 : Theme.space1_5; right: buttons.left; rightMargin: Theme.space1; verticalCenter: parent.verticalCenter }
         call: head.call
         worded: true

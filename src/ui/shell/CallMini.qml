@@ -91,7 +91,7 @@ FocusScope {
             text: form.call.failure !== "" ? form.call.failure : now.text
             type: Theme.type.caption
             wrapMode: Text.Wrap
-            maximumLineCount: 3
+            maximumLineCount: 4
             Accessible.role: Accessible.AlertMessage
         }
     }

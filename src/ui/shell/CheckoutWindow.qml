@@ -21,7 +21,7 @@ Window {
     // A page that died is left behind with everything it held.
     function makePage(): void {
         page.source = ""
-        page.setSource("CheckoutPage.qml", { checkout: checkout })
+        page.setSource("CheckoutPage.qml", { checkout: checkout, language: app.market.language })
     }
 
     objectName: "checkoutWindow"
@@ -100,6 +100,8 @@ Window {
                     color: window.checkout.isSecure ? Theme.accent : Theme.danger
                 }
                 TextLabel {
+                    id: connection
+
                     objectName: "connection"
                     anchors { left: lock.right; leftMargin: Theme.space1; right: parent.right; rightMargin: Theme.space2; verticalCenter: parent.verticalCenter }
                     text: window.checkout.connectionText
@@ -111,7 +113,8 @@ Window {
 
                 anchors { right: parent.right; rightMargin: Theme.space2; verticalCenter: parent.verticalCenter }
                 width: visible ? implicitWidth : 0
-                visible: window.width >= 760
+                // Only where it leaves room for where one is.
+                visible: window.width >= Math.max(760, implicitWidth + connection.implicitWidth + Theme.space4 + 112)
                 text: qsTranslate("Loomstreet", "Secure checkout on Shopify  ·  Your cart stays as it is")
                 type: Theme.type.small
                 color: Theme.muted

@@ -89,7 +89,7 @@ ModalScope {
         next: lightbox.open && lightbox.several ? lightbox.images[(lightbox.index + 1) % lightbox.images.length] : ""
         previous: lightbox.open && lightbox.several ? lightbox.images[(lightbox.index + lightbox.images.length - 1) % lightbox.images.length] : ""
         description: {
-            const place = lightbox.several ? qsTranslate("Loomstreet", "Picture %1 of %2").arg(lightbox.index + 1).arg(lightbox.images.length) : ""
+            const place = lightbox.several ? qsTranslate("Loomstreet", "Picture %L1 of %L2").arg(lightbox.index + 1).arg(lightbox.images.length) : ""
             return [lightbox.request?.title ?? "", place].filter(text => text !== "").join(", ")
         }
         onTouched: lightbox.playing = false

@@ -143,7 +143,9 @@ Window {
             rail: window.narrow || window.session.isSidebarCollapsed
         }
         Rectangle {
-            anchors { left: sidebar.right; right: parent.right; top: menuBar.bottom; bottom: parent.bottom }
+            // Its width follows no neighbour's edge: all of it would be laid out anew while they change sides.
+            anchors { right: parent.right; top: menuBar.bottom; bottom: parent.bottom }
+            width: parent.width - sidebar.width
             color: Theme.paper
             Keys.onPressed: event => content.takeKey(event)
 
@@ -161,7 +163,8 @@ Window {
             TabPages {
                 id: pages
 
-                anchors { left: parent.left; right: preview.left; top: bar.bottom; bottom: parent.bottom }
+                anchors { left: parent.left; top: bar.bottom; bottom: parent.bottom }
+                width: parent.width - preview.width - (dock.covers ? 0 : dock.width)
                 enabled: !dock.covers
                 app: window.app
                 session: window.session

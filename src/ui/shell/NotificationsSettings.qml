@@ -61,12 +61,11 @@ SettingsPage {
     Column {
         width: page.width
 
-        TextLabel {
+        Overline {
             width: parent.width
             height: Theme.layoutSidebarHeading
             verticalAlignment: Text.AlignVCenter
-            text: qsTranslate("Loomstreet", "What about")
-            type: Theme.type.overline
+            words: qsTranslate("Loomstreet", "What about")
             color: Theme.muted
             Accessible.role: Accessible.Heading
         }

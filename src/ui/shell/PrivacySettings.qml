@@ -15,19 +15,18 @@ SettingsPage {
         objectName: "sharesUsage"
         width: page.width
         text: qsTranslate("Loomstreet", "Help the store choose what to show")
-        note: qsTranslate("Loomstreet", "Tells it which pages and pieces are looked at, put in the bag and bought, and when the application ended unexpectedly, without your name. Off, only what is essential is sent.")
+        note: qsTranslate("Loomstreet", "Tells it which pages are opened, which pieces are looked at, put in the bag and bought, and when the application ended unexpectedly, without your name. Off, only what is essential is sent.")
         checked: page.settings.sharesUsage
         onToggled: page.settings.sharesUsage = checked
     }
     Column {
         width: page.width
 
-        TextLabel {
+        Overline {
             width: parent.width
             height: Theme.layoutSidebarHeading
             verticalAlignment: Text.AlignVCenter
-            text: qsTranslate("Loomstreet", "Either way")
-            type: Theme.type.overline
+            words: qsTranslate("Loomstreet", "Either way")
             color: Theme.muted
             Accessible.role: Accessible.Heading
         }

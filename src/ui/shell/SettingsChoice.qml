@@ -16,12 +16,11 @@ Column {
     Accessible.role: Accessible.Grouping
     Accessible.name: title
 
-    TextLabel {
+    Overline {
         width: parent.width
         height: Theme.layoutSidebarHeading
         verticalAlignment: Text.AlignVCenter
-        text: choice.title
-        type: Theme.type.overline
+        words: choice.title
         color: Theme.muted
         Accessible.role: Accessible.Heading
     }

@@ -22,8 +22,10 @@ Pressable {
             id: words
 
             anchors { left: parent.left; verticalCenter: parent.verticalCenter }
+            width: Math.min(implicitWidth, parent.width / 2)
             text: row.text
             type: Theme.type.label
+            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
         TextLabel {

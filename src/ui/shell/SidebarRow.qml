@@ -29,11 +29,10 @@ FocusScope {
 
         anchors { left: parent.left; leftMargin: 20 }
         active: row.heading !== "" && !row.rail
-        sourceComponent: TextLabel {
+        sourceComponent: Overline {
             height: Theme.layoutSidebarHeading
             verticalAlignment: Text.AlignVCenter
-            text: row.heading // qmllint disable unqualified
-            type: Theme.type.overline
+            words: row.heading // qmllint disable unqualified
             color: Theme.muted
             Accessible.role: Accessible.Heading
         }
@@ -77,6 +76,8 @@ FocusScope {
                 visible: !row.rail
                 text: row.title
                 type: Theme.type.label
+                wrapMode: row.rail ? Text.NoWrap : Text.WordWrap
+                maximumLineCount: 2
                 font.weight: row.selected ? Font.DemiBold : type.weight
                 Accessible.ignored: true
             }

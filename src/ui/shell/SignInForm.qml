@@ -123,7 +123,7 @@ Column {
             objectName: "resendIn"
             visible: !resend.visible
             text: form.signIn.isSendingCode ? qsTranslate("Loomstreet", "Sending…")
-                                            : qsTranslate("Loomstreet", "Send again in %1 s").arg(form.signIn.secondsToResend)
+                                            : qsTranslate("Loomstreet", "Send again in %L1 s").arg(form.signIn.secondsToResend)
             type: Theme.type.caption
             figures: true
             color: Theme.muted

@@ -71,12 +71,11 @@ Item {
         onWheel: wheel => { wheel.accepted = true }
     }
 
-    component Heading: TextLabel {
+    component Heading: Overline {
         height: panel.headingHeight
         leftPadding: Theme.space1_5
         rightPadding: Theme.space1_5
         verticalAlignment: Text.AlignVCenter
-        type: Theme.type.overline
         color: Theme.muted
         Accessible.role: Accessible.Heading
     }
@@ -92,7 +91,7 @@ Item {
         Heading {
             anchors.left: parent.left
             visible: panel.typing
-            text: panel.suggestions.isLink ? qsTranslate("Loomstreet", "Link") : qsTranslate("Loomstreet", "Search")
+            words: panel.suggestions.isLink ? qsTranslate("Loomstreet", "Link") : qsTranslate("Loomstreet", "Search")
         }
         Repeater {
             model: panel.suggestions.queries
@@ -117,7 +116,7 @@ Item {
             anchors.left: parent.left
             y: panel.headingHeight + 4 * panel.rowHeight + Theme.space1
             visible: panel.suggestions.collections.filled > 0
-            text: qsTranslate("Loomstreet", "Collections")
+            words: qsTranslate("Loomstreet", "Collections")
         }
         Repeater {
             model: panel.suggestions.collections
@@ -138,7 +137,7 @@ Item {
             anchors.left: parent.left
             y: panel.typing ? panel.typedHeight : 0
             visible: panel.suggestions.recents.filled > 0
-            text: qsTranslate("Loomstreet", "Recent")
+            words: qsTranslate("Loomstreet", "Recent")
         }
         Repeater {
             model: panel.suggestions.recents
@@ -171,8 +170,9 @@ Item {
         Heading {
             anchors.left: parent.left
             leftPadding: 0
+            rightPadding: 0
             visible: panel.suggestions.pieces.filled > 0
-            text: panel.typing ? qsTranslate("Loomstreet", "Pieces") : qsTranslate("Loomstreet", "Seen and saved")
+            words: panel.typing ? qsTranslate("Loomstreet", "Pieces") : qsTranslate("Loomstreet", "Seen and saved")
         }
         Repeater {
             model: panel.suggestions.pieces
@@ -214,6 +214,8 @@ Item {
         }
         Hairline { anchors { left: parent.left; right: parent.right; top: parent.top } }
         PushButton {
+            id: byImage
+
             objectName: "searchByImage"
             anchors { left: parent.left; leftMargin: Theme.space1; verticalCenter: parent.verticalCenter }
             kind: "quiet"
@@ -229,6 +231,7 @@ Item {
             anchors { right: parent.right; rightMargin: Theme.space2; verticalCenter: parent.verticalCenter }
             spacing: Theme.space1
             visible: panel.width >= 520
+            opacity: byImage.width + width + 2 * Theme.space3 <= footer.width ? 1 : 0
 
             component Words: TextLabel {
                 anchors.verticalCenter: parent?.verticalCenter

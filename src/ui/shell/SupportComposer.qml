@@ -52,7 +52,7 @@ Column {
         width: parent.width
         focus: true
         mostLines: Window.height < 640 ? 4 : 8
-        name: qsTranslate("Loomstreet", "Write to %1").arg(qsTranslate("Loomstreet", "Customer Service"))
+        name: qsTranslate("Loomstreet", "Write to Customer Service")
         placeholderText: qsTranslate("Loomstreet", "Write a message")
         canSend: writing.support.canSend
         onEdited: text => { writing.support.draft = text }

@@ -40,7 +40,7 @@ FocusScope {
         visible: count > 0
         focus: true
         model: thread.support.thread
-        name: qsTranslate("Loomstreet", "Conversation with %1").arg(qsTranslate("Loomstreet", "Customer Service"))
+        name: qsTranslate("Loomstreet", "Conversation with Customer Service")
         topMargin: Theme.space2
         spacing: Theme.space2
         end: gap

@@ -17,7 +17,7 @@ ChatBubble {
     mine: model.isMine
     text: model.text
     timeLabel: model.timeLabel
-    heading: model.dayLabel === "" ? "" : model.timeLabel === "" ? model.dayLabel : model.dayLabel + ", " + Bidi.isolate(model.timeLabel)
+    heading: headingOf(model.dayLabel, model.timeLabel)
     speaker: mine ? qsTranslate("Loomstreet", "You") : model.agent !== "" ? model.agent : qsTranslate("Loomstreet", "Customer Service")
     sending: model.state === SupportThreadModel.Sending
     problem: model.problem

@@ -80,6 +80,7 @@ Item {
 
         resting: Breadcrumb {
             anchors.left: parent.left
+            room: parent.width
             crumbs: (bar.router?.trail ?? []).map(title => title === "" ? "…" : title)
             onActivated: index => bar.router.backTo(index)
         }
@@ -168,6 +169,7 @@ Item {
             iconName: "menu"
             text: qsTranslate("Loomstreet", "Menu")
             on: menu.made?.visible ?? false
+            showsToolTip: !on
             onClicked: menu.toggle()
 
             // Made when it is first asked for.

@@ -16,7 +16,7 @@ UndoBanner {
     objectName: "undoToast"
     open: removed > 0
     iconName: "trash"
-    title: removed === 1 ? kept.removedTitle : qsTranslate("Loomstreet", "%1 pieces").arg(removed)
+    title: removed === 1 ? kept.removedTitle : qsTranslate("Loomstreet", "%Ln pieces", "", removed)
     text: qsTranslate("Loomstreet", "Removed from: %1").arg(listName)
     onActivated: kept.undoRemoval()
     onDismissed: kept.forgetRemoval()

@@ -164,11 +164,9 @@ Column {
         spacing: Theme.space1
 
         Hairline { width: parent.width }
-        TextLabel {
+        Overline {
             width: parent.width
-            topPadding: Theme.spaceHalf
-            text: notes.name
-            type: Theme.type.overline
+            words: notes.name
             color: Theme.muted
             Accessible.role: Accessible.Heading
         }

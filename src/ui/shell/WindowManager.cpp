@@ -4,8 +4,8 @@
 #include "app/SystemAppearance.h"
 #include "base/Log.h"
 
-#include <QAbstractItemModel>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -37,27 +37,6 @@ QQuickWindow* createWindow(QQmlEngine& engine, const QString& type, const QVaria
     }
     context.release()->setParent(window);
     return window;
-}
-
-/// Has the items of lists ask their models again, which look texts up for them.
-void askAgain(const QObject& owner)
-{
-    for (QAbstractItemModel* const list : owner.findChildren<QAbstractItemModel*>()) {
-        if (const int count = list->rowCount(); count > 0)
-            Q_EMIT list->dataChanged(list->index(0, 0), list->index(count - 1, 0));
-    }
-}
-
-/// Evaluates every binding of a window anew. The engine does so only with those that look a text up themselves, and
-/// many show one that a model has looked up for them. A context does it with all below it when it is given an object,
-/// even none.
-void evaluateAgain(QQuickWindow* window)
-{
-    if (!window)
-        return;
-    if (auto* const context = window->findChild<QQmlContext*>({}, Qt::FindDirectChildrenOnly))
-        context->setContextObject(nullptr);
-    askAgain(*window);
 }
 
 void applyStyle(QQuickWindow* window)
@@ -195,14 +174,30 @@ void WindowManager::applyWindowStyle()
 void WindowManager::retranslate()
 {
     m_model.retranslate();
-    m_engine.retranslate();
+    m_retranslation.begin(allWindows());
+}
+
+void WindowManager::holdDirection()
+{
+    m_retranslation.holdDirection(allWindows());
+}
+
+QList<QQuickWindow*> WindowManager::allWindows() const
+{
+    QList<QQuickWindow*> windows;
+    const auto add = [&windows](QQuickWindow* window) {
+        if (window && !windows.contains(window))
+            windows.append(window);
+    };
+    add(qobject_cast<QQuickWindow*>(QGuiApplication::focusWindow()));
     for (const auto& window : std::as_const(m_windows))
-        evaluateAgain(window);
+        add(window);
     for (const auto& window : std::as_const(m_checkouts))
-        evaluateAgain(window);
-    evaluateAgain(m_settings);
-    evaluateAgain(m_mira);
-    evaluateAgain(m_call);
+        add(window);
+    add(m_settings);
+    add(m_mira);
+    add(m_call);
+    return windows;
 }
 
 QQuickWindow* WindowManager::windowOf(const WindowSession& session) const

@@ -2,6 +2,8 @@
 
 #include "app/WindowHost.h"
 
+#include "ui/shell/Retranslation.h"
+
 #include <QHash>
 #include <QObject>
 #include <QPointer>
@@ -38,8 +40,11 @@ public:
     [[nodiscard]] bool hasVisibleWindow() const override;
     void applyWindowStyle() override;
 
-    /// What the windows say may be said otherwise now.
+    /// What the windows say may be said otherwise now. It is, over the next turns of the event loop.
     void retranslate();
+    /// The windows are about to be read in the other direction: their parts follow, over those turns.
+    void holdDirection();
+    [[nodiscard]] bool isRetranslating() const { return m_retranslation.isRunning(); }
 
     /// How windows ask to come to the front, where the desktop wants to know more than that they do.
     void setActivate(std::function<void(QWindow& window)> activate) { m_activate = std::move(activate); }
@@ -57,6 +62,8 @@ public:
 
 private:
     [[nodiscard]] QQuickWindow* create(const QString& type, QVariantMap properties);
+    /// The one that the shopper looks at first.
+    [[nodiscard]] QList<QQuickWindow*> allWindows() const;
     void bringForward(QWindow* window) const;
 
     QQmlEngine& m_engine;
@@ -68,6 +75,7 @@ private:
     QPointer<QQuickWindow> m_settings;
     QPointer<QQuickWindow> m_mira;
     QPointer<QQuickWindow> m_call;
+    Retranslation m_retranslation;
 };
 
 } // namespace loom

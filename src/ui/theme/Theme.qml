@@ -13,7 +13,7 @@ QtObject {
     property bool systemDark: false
     property bool reducedMotion: false
     property real textScale: 1.0
-    property bool arabicScript: false
+    property string language: Qt.uiLanguage // of the window, by its code
 
     readonly property bool dark: appearance === "dark" || (appearance !== "light" && systemDark)
 
@@ -64,11 +64,13 @@ QtObject {
     // Type. Families are those that registerFonts() makes known, with their fallbacks.
     readonly property string fontDisplay: type.title.family
     readonly property string fontText: type.body.family
-    readonly property string fontFigures: "Loomstreet Figures"
+    readonly property string fontFigures: type.figuresFamily
     readonly property TypeScale type: TypeScale {
         factor: theme.textScale
-        arabicScript: theme.arabicScript
+        language: theme.language
     }
+    // What the window says, not what others are called: a name's capitals are those of its own language.
+    function inCapitals(words: string): string { return Scripts.inCapitals(words, language) }
 
     // Space.
     readonly property int space0: 0

@@ -1,5 +1,9 @@
 #include "ui/theme/TypeScale.h"
 
+#include "ui/theme/Lettering.h"
+
+#include <QElapsedTimer>
+
 #include <algorithm>
 
 namespace loom
@@ -9,6 +13,7 @@ namespace
 {
 
 constexpr double largestFactor = 2;
+constexpr int slice = 6; // milliseconds
 
 } // namespace
 
@@ -18,15 +23,35 @@ void TypeScale::setFactor(double factor)
     if (bounded == m_factor)
         return;
     m_factor = bounded;
-    apply();
+    const Lettering& lettering = letteringOf(m_language);
+    for (TypeStyle* style : m_styles)
+        style->apply(m_factor, lettering);
+    m_waiting.clear();
+    Q_EMIT changed();
 }
 
-void TypeScale::setArabicScript(bool arabicScript)
+void TypeScale::setLanguage(const QString& language)
 {
-    if (arabicScript == m_arabicScript)
+    if (language == m_language)
         return;
-    m_arabicScript = arabicScript;
-    apply();
+    const bool areOtherLetters = &letteringOf(language) != &letteringOf(m_language);
+    m_language = language;
+    Q_EMIT languageChanged();
+    if (!areOtherLetters)
+        return;
+    m_waiting = m_styles;
+    applyForAWhile();
+}
+
+QString TypeScale::figuresFamily() const
+{
+    const QString family = QStringLiteral("Loomstreet Figures");
+    return letteringOf(m_language).families ? family + u' ' + m_language : family;
+}
+
+void TypeScale::timerEvent(QTimerEvent* /*event*/)
+{
+    applyForAWhile();
 }
 
 TypeStyle* TypeScale::style(const TypeTokens& tokens)
@@ -35,11 +60,17 @@ TypeStyle* TypeScale::style(const TypeTokens& tokens)
     return m_styles.last();
 }
 
-void TypeScale::apply()
+void TypeScale::applyForAWhile()
 {
-    for (TypeStyle* style : m_styles)
-        style->apply(m_factor, m_arabicScript);
-    Q_EMIT changed();
+    const Lettering& lettering = letteringOf(m_language);
+    QElapsedTimer spent;
+    spent.start();
+    while (!m_waiting.isEmpty() && spent.elapsed() < slice)
+        m_waiting.takeLast()->apply(m_factor, lettering);
+    if (m_waiting.isEmpty())
+        m_next.stop();
+    else if (!m_next.isActive())
+        m_next.start(0, this);
 }
 
 } // namespace loom

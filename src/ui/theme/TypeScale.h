@@ -2,7 +2,9 @@
 
 #include "ui/theme/TypeStyle.h"
 
+#include <QBasicTimer>
 #include <QList>
+#include <QString>
 
 namespace loom
 {
@@ -10,13 +12,31 @@ namespace loom
 /// Garamond for titles, in the lining figures of the derived family.
 inline constexpr TypeFace displayFace{.name = "display",
                                       .family = "Loomstreet Display",
+                                      .languageFamily = "Loomstreet Display ",
                                       .ascent = 0.726,
                                       .descent = 0.274,
+                                      .hebrewAscent = 0.896,
                                       .arabicAscent = 1.069,
-                                      .hanAscent = 1.151};
+                                      .devanagariAscent = 0.93,
+                                      .thaiAscent = 1.064,
+                                      .hanAscent = 1.151,
+                                      .markAscent = 0.726,
+                                      .isolateAscent = 1.069,
+                                      .narrowSpaceAscent = 1.069};
 /// Inter for everything else.
-inline constexpr TypeFace textFace{
-    .name = "text", .family = "Inter", .ascent = 0.96875, .descent = 0.2415, .arabicAscent = 1.374, .hanAscent = 1.16};
+inline constexpr TypeFace textFace{.name = "text",
+                                   .family = "Inter",
+                                   .languageFamily = "Loomstreet Text ",
+                                   .ascent = 0.96875,
+                                   .descent = 0.2415,
+                                   .hebrewAscent = 1.068,
+                                   .arabicAscent = 1.374,
+                                   .devanagariAscent = 0.96875,
+                                   .thaiAscent = 1.061,
+                                   .hanAscent = 1.16,
+                                   .markAscent = 1.374,
+                                   .isolateAscent = 1.069,
+                                   .narrowSpaceAscent = 0.96875};
 
 /// All styles of type: `Theme.type`. Garamond never below 18 and never bold.
 class TypeScale : public QObject
@@ -24,7 +44,8 @@ class TypeScale : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double factor READ factor WRITE setFactor NOTIFY changed FINAL)
-    Q_PROPERTY(bool arabicScript READ arabicScript WRITE setArabicScript NOTIFY changed FINAL)
+    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged FINAL)
+    Q_PROPERTY(QString figuresFamily READ figuresFamily NOTIFY languageChanged FINAL)
     Q_PROPERTY(loom::TypeStyle* hero MEMBER m_hero CONSTANT FINAL)
     Q_PROPERTY(loom::TypeStyle* title MEMBER m_title CONSTANT FINAL)
     Q_PROPERTY(loom::TypeStyle* heading MEMBER m_heading CONSTANT FINAL)
@@ -51,19 +72,29 @@ public:
 
     [[nodiscard]] double factor() const { return m_factor; }
     void setFactor(double factor);
-    [[nodiscard]] bool arabicScript() const { return m_arabicScript; }
-    void setArabicScript(bool arabicScript);
+    /// That of the window, by its code: its letters ask for other lines, families and sizes. Where many labels stand,
+    /// the styles follow over the next turns of the event loop.
+    [[nodiscard]] QString language() const { return m_language; }
+    void setLanguage(const QString& language);
+    /// The family whose figures are all equally wide.
+    [[nodiscard]] QString figuresFamily() const;
 
 Q_SIGNALS:
     void changed();
+    void languageChanged();
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     TypeStyle* style(const TypeTokens& tokens);
-    void apply();
+    void applyForAWhile();
 
     double m_factor = 1;
-    bool m_arabicScript = false;
+    QString m_language;
     QList<TypeStyle*> m_styles;
+    QList<TypeStyle*> m_waiting; ///< the last is next
+    QBasicTimer m_next;
     TypeStyle* m_hero = style({.face = &displayFace, .size = 56, .line = 60, .weight = 400, .tracking = -0.01});
     TypeStyle* m_title = style({.face = &displayFace, .size = 40, .line = 44, .weight = 400, .tracking = -0.005});
     TypeStyle* m_heading = style({.face = &displayFace, .size = 30, .line = 36, .weight = 400});

@@ -7,6 +7,7 @@ Item {
     id: holder
 
     required property var checkout
+    required property string language
 
     readonly property alias view: web
 
@@ -18,6 +19,7 @@ Item {
 
         offTheRecord: true
         httpCacheType: WebEngineProfile.MemoryHttpCache
+        httpAcceptLanguage: holder.language === "en" ? "en" : holder.language + ",en"
         httpUserAgent: holder.checkout.userAgent
         onDownloadRequested: download => download.cancel()
     }

@@ -9,6 +9,7 @@ GuardedWebView {
     required property string storeAddress
     property url address
     property real restoredScrollY: 0
+    property string language: "en"
 
     readonly property string failure: lastFailure
     property string lastFailure
@@ -24,6 +25,8 @@ GuardedWebView {
                 && request.navigationType !== WebEngineNavigationRequest.FormSubmittedNavigation)
     }
 
+    onLanguageChanged: if (url.toString() !== "") reload()
+
     // Nothing loads before the guard stands.
     url: guard.isReady ? address : ""
     profile: WebEngineProfile {
@@ -31,6 +34,7 @@ GuardedWebView {
 
         offTheRecord: true
         httpCacheType: WebEngineProfile.MemoryHttpCache
+        httpAcceptLanguage: view.language === "en" ? "en" : view.language + ",en"
         onDownloadRequested: download => download.cancel()
     }
 

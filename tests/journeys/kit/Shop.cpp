@@ -58,7 +58,13 @@ Shop::Shop(const Sandbox& sandbox, const Circumstances& circumstances)
                .voiceAudio = circumstances.voiceAudio ? *circumstances.voiceAudio : m_voiceAudio,
                .muteKey = m_muteKey})
     , m_windows(m_engine, m_model, m_appearance)
+    , m_copy(*m_model.remoteConfig(), &m_language.translator())
 {
+    m_language.follow(*m_model.market());
+    QCoreApplication::installTranslator(&m_copy);
+    QObject::connect(&m_copy, &CopyTranslator::changed, &m_windows, &WindowManager::retranslate);
+    QObject::connect(&m_language, &WindowLanguage::changed, &m_windows, &WindowManager::retranslate);
+    QObject::connect(&m_language, &WindowLanguage::directionChanging, &m_windows, &WindowManager::holdDirection);
     m_location.canLocate = false;
     prepareEngine(m_engine, m_pictures);
     m_model.setWindowHost(&m_windows);

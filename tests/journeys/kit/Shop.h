@@ -7,6 +7,7 @@
 #include "commerce/CartAPI.h"
 #include "kit/Sandbox.h"
 #include "kit/WindowDriver.h"
+#include "services/CopyTranslator.h"
 #include "support/FakeDesktopNotifications.h"
 #include "support/FakeGlobalKey.h"
 #include "support/FakeLocation.h"
@@ -14,8 +15,10 @@
 #include "support/FakeRandom.h"
 #include "support/FakeVoiceAudio.h"
 #include "ui/shell/PictureLoading.h"
+#include "ui/shell/WindowLanguage.h"
 #include "ui/shell/WindowManager.h"
 
+#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QTemporaryDir>
 
@@ -26,9 +29,14 @@ namespace loom
 class FakeAppearance final : public SystemAppearance
 {
 public:
+    FakeAppearance() { connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &SystemAppearance::changed); }
+
     [[nodiscard]] bool isDark() const override { return false; }
     [[nodiscard]] bool reducesMotion() const override { return true; }
-    [[nodiscard]] bool isRightToLeft() const override { return m_isRightToLeft; }
+    [[nodiscard]] bool isRightToLeft() const override
+    {
+        return m_isRightToLeft || QGuiApplication::layoutDirection() == Qt::RightToLeft;
+    }
     [[nodiscard]] double textScale() const override { return 1; }
 
     void setRightToLeft(bool isRightToLeft)
@@ -104,8 +112,10 @@ private:
     QList<QUrl> m_openedInBrowser;
     PictureLoading m_pictures;
     QQmlEngine m_engine;
+    WindowLanguage m_language;
     AppModel m_model;
     WindowManager m_windows;
+    CopyTranslator m_copy;
 };
 
 } // namespace loom

@@ -5,6 +5,7 @@
 #include "app/SystemAppearance.h"
 #include "ui/shell/WindowManager.h"
 
+#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -16,9 +17,11 @@ namespace loom
 class PlainAppearance final : public SystemAppearance
 {
 public:
+    PlainAppearance() { connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &SystemAppearance::changed); }
+
     [[nodiscard]] bool isDark() const override { return false; }
     [[nodiscard]] bool reducesMotion() const override { return true; }
-    [[nodiscard]] bool isRightToLeft() const override { return false; }
+    [[nodiscard]] bool isRightToLeft() const override { return QGuiApplication::layoutDirection() == Qt::RightToLeft; }
     [[nodiscard]] double textScale() const override { return 1; }
 };
 

@@ -1,4 +1,6 @@
 #include "ui/theme/Fonts.h"
+#include "ui/theme/Scripts.h"
+#include "ui/theme/TypeScale.h"
 
 #include <QFont>
 #include <QFontInfo>
@@ -62,14 +64,103 @@ TEST_F(FontsTest, FiguresAreEquallyWideInEveryWeightAndPunctuationStaysTheirs)
               QRawFont::fromFont(font(figures, 28, 600)).styleName());
 }
 
-TEST_F(FontsTest, LettersBesideFiguresAreIntersAndArabicAndHanHaveTheirOwn)
+TEST_F(FontsTest, LettersBesideFiguresAreInters)
 {
-    const QFont used = font(figures, 14, 400);
-    EXPECT_EQ(familiesOf(QStringLiteral("128 pieces"), used), (QStringList{QStringLiteral("Inter"), figures}));
-    EXPECT_EQ(familiesOf(QString::fromUtf8("فستان"), used), QStringList{QStringLiteral("Noto Sans Arabic")});
-    EXPECT_EQ(familiesOf(QString::fromUtf8("فستان"), font(display, 40, 400)),
-              QStringList{QStringLiteral("Noto Naskh Arabic")});
-    EXPECT_EQ(familiesOf(QString::fromUtf8("東京"), used), QStringList{QStringLiteral("Noto Sans CJK SC")});
+    EXPECT_EQ(familiesOf(QStringLiteral("128 pieces"), font(figures, 14, 400)),
+              (QStringList{QStringLiteral("Inter"), figures}));
+}
+
+struct Sample {
+    int script;
+    QString text;
+    QString sans;
+    QString serif;
+};
+
+QList<Sample> samples(const QString& han)
+{
+    const QString sansHan = QStringLiteral("Noto Sans CJK ") + han;
+    const QString serifHan = QStringLiteral("Noto Serif CJK ") + han;
+    return {
+        {Scripts::Plain, QString::fromUtf8("Đặt ưỡ Φόρεμα їґ şğ"), QStringLiteral("Inter"), display},
+        {Scripts::Hebrew, QString::fromUtf8("שמלה"), QStringLiteral("Noto Sans Hebrew"),
+         QStringLiteral("Noto Serif Hebrew")},
+        {Scripts::Arabic, QString::fromUtf8("فستان"), QStringLiteral("Noto Sans Arabic"),
+         QStringLiteral("Noto Naskh Arabic")},
+        {Scripts::Devanagari, QString::fromUtf8("पोशाक"), QStringLiteral("Noto Sans Devanagari"),
+         QStringLiteral("Noto Serif Devanagari")},
+        {Scripts::Thai, QString::fromUtf8("ชุดเดรส"), QStringLiteral("Noto Sans Thai"),
+         QStringLiteral("Noto Serif Thai")},
+        {Scripts::Han, QString::fromUtf8("直骨化"), sansHan, serifHan},
+        {Scripts::Han, QString::fromUtf8("ワンピース"), sansHan, serifHan},
+        {Scripts::Han, QString::fromUtf8("원피스"), sansHan, serifHan},
+    };
+}
+
+TEST_F(FontsTest, EveryScriptHasASansAndASerifAndHanIsThatOfTheWindowsLanguage)
+{
+    TypeScale scale;
+    const auto family = [](QString name) {
+        return name.remove(QStringLiteral(" 12")).toLower();
+    };
+    // There and back: what was looked up for one language must not be found for the next.
+    for (const auto& [language, han] : {std::pair{"en", "SC"},
+                                        {"ja", "JP"},
+                                        {"zh-Hans", "SC"},
+                                        {"ko", "KR"},
+                                        {"zh-Hant", "TC"},
+                                        {"hi", "SC"},
+                                        {"ja", "JP"}}) {
+        scale.setLanguage(QString::fromLatin1(language));
+        const auto* const body = scale.property("body").value<TypeStyle*>();
+        const auto* const title = scale.property("title").value<TypeStyle*>();
+        for (const Sample& sample : samples(QString::fromLatin1(han))) {
+            const auto drawn = [&](const QString& with, int size) {
+                return family(familiesOf(QString(sample.text).remove(u' '), font(with, size, 400)).join(u','));
+            };
+            EXPECT_EQ(drawn(body->family(), 14), sample.sans.toLower()) << language;
+            EXPECT_EQ(drawn(scale.figuresFamily(), 14), sample.sans.toLower()) << language;
+            EXPECT_EQ(drawn(title->family(), 40), sample.serif.toLower()) << language;
+        }
+    }
+}
+
+TEST_F(FontsTest, WhatIsKnownOfTheFamiliesIsWhatTheyMeasure)
+{
+    TypeScale scale;
+    scale.setLanguage(QStringLiteral("hi"));
+    for (const char* const name : {"body", "title"}) {
+        const auto* const style = scale.property(name).value<TypeStyle*>();
+        const double own = QFontMetricsF(font(style->family(), 1000, 400)).ascent() / 1000;
+        QList<Sample> all = samples(QStringLiteral("SC"));
+        all.append({Scripts::Marks, QStringLiteral("\u200f48\u200e"), {}, {}});
+        all.append({Scripts::Isolates, QStringLiteral("\u206848\u2069"), {}, {}});
+        all.append({Scripts::NarrowSpace, QStringLiteral("L\u202f?"), {}, {}});
+        for (const Sample& sample : all) {
+            EXPECT_EQ(Scripts().of(sample.text), sample.script) << sample.text.toStdString();
+            QTextLayout layout(sample.text + u'L', font(style->family(), 1000, 400));
+            layout.beginLayout();
+            const QTextLine line = layout.createLine();
+            layout.endLayout();
+            EXPECT_NEAR(line.ascent() / 1000 - own, style->rise(sample.script), 0.002)
+                << name << " " << sample.text.toStdString();
+        }
+    }
+}
+
+TEST_F(FontsTest, LinesHoldTheirTallestLetters)
+{
+    for (const auto& [language, text] : {std::pair{"th", "กี่ปั๊มญู"}, {"hi", "र्कैंहृदय"}, {"vi", "ẬẪữợ"}, {"ja", "鬱驚"}}) {
+        TypeScale scale;
+        scale.setLanguage(QString::fromLatin1(language));
+        for (const char* const name : {"hero", "section", "body", "label", "caption", "overline"}) {
+            const auto* const style = scale.property(name).value<TypeStyle*>();
+            const QFont used = font(style->family(), 100, style->weight());
+            EXPECT_LE(QFontMetricsF(used).tightBoundingRect(QString::fromUtf8(text)).height() * style->size() / 100,
+                      style->line())
+                << language << " " << name;
+        }
+    }
 }
 
 } // namespace
