@@ -150,7 +150,7 @@ TEST_F(BrowsingJourney, APieceIsLookedAtFromAllSides)
 
     // Reviews, a few at first, and their pictures.
     QQuickItem* const reviews = window.await(QStringLiteral("reviews"));
-    window.awaitText(QStringLiteral("4.7 of 212"), reviews);
+    window.awaitText(QString::fromUtf8("4.7  ·  212 reviews"), reviews);
     EXPECT_EQ(window.findAll(QStringLiteral("review"), reviews).size(), 3);
     window.click(window.await(QStringLiteral("more"), reviews));
     waitUntil([&] { return window.findAll(QStringLiteral("review"), reviews).size() > 3; }, "all reviews are there");

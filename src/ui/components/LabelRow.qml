@@ -20,13 +20,15 @@ Item {
 
     readonly property real lead: iconName !== "" ? iconSize + row.spacing : 0
     readonly property real tail: noteLabel.visible ? noteLabel.implicitWidth + row.spacing : 0
+    readonly property real room: Math.max(0, width - lead - tail)
+    readonly property bool wraps: lines > 1 && Math.floor(label.implicitWidth) > room && room > 0
 
     onBusyChanged: if (busy) spinner.setSource("LabelSpinner.qml", { row: labelRow })
     Component.onCompleted: if (busy) spinner.setSource("LabelSpinner.qml", { row: labelRow })
 
     // The spinner stands in the icon's place, or else in the padding around: the width stays as it is.
     implicitWidth: lead + label.implicitWidth + tail
-    implicitHeight: Math.max(label.implicitHeight, iconName !== "" ? iconSize : 0)
+    implicitHeight: Math.max(wraps ? wrapped.height : label.implicitHeight, iconName !== "" ? iconSize : 0)
 
     Row {
         id: row
@@ -56,16 +58,32 @@ Item {
 
             objectName: "label"
             anchors.verticalCenter: parent.verticalCenter
-            visible: text !== ""
-            width: Math.max(0, Math.min(implicitWidth, labelRow.width - labelRow.lead - labelRow.tail))
+            visible: text !== "" && !labelRow.wraps
+            width: Math.min(implicitWidth, labelRow.room)
             text: labelRow.text
-            wrapMode: labelRow.lines > 1 ? Text.Wrap : Text.NoWrap
-            maximumLineCount: labelRow.lines
-            horizontalAlignment: labelRow.centred && labelRow.iconName === "" ? Text.AlignHCenter : Text.AlignLeft
             type: labelRow.type
             figures: labelRow.figures
             color: labelRow.color
             Accessible.ignored: true
+        }
+        // Apart: how wide a text would be is known of one line alone.
+        Loader {
+            id: wrapped
+
+            anchors.verticalCenter: parent.verticalCenter
+            active: labelRow.wraps
+            visible: active
+            sourceComponent: TextLabel {
+                width: labelRow.room
+                text: labelRow.text
+                wrapMode: Text.Wrap
+                maximumLineCount: labelRow.lines
+                horizontalAlignment: labelRow.centred && labelRow.iconName === "" ? Text.AlignHCenter : Text.AlignLeft
+                type: labelRow.type
+                figures: labelRow.figures
+                color: labelRow.color
+                Accessible.ignored: true
+            }
         }
         TextLabel {
             id: noteLabel
