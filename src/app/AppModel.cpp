@@ -205,7 +205,7 @@ AppModel::~AppModel() = default;
 
 void AppModel::connectStores()
 {
-    connect(&m_market, &MarketStore::revisionChanged, &m_cart, &CartStore::syncBuyerCountry);
+    connect(&m_market, &MarketStore::countryChanged, &m_cart, &CartStore::syncBuyerCountry);
     connect(&m_market, &MarketStore::languageChanged, &m_cart, &CartStore::refresh); // what its pieces are called
     // What grew old while nobody looked is asked for again when somebody does.
     connect(&m_session, &AppSession::isActiveChanged, this, [this] {

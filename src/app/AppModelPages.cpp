@@ -91,9 +91,11 @@ HomeModel* AppModel::makeHome(QObject* owner)
 RecoRail* AppModel::makeRecommendations(QObject* owner, const QString& kind, const QString& handle,
                                         const QString& title)
 {
-    return new RecoRail(
-        {.kind = recoKindFrom(kind).value_or(RecoAPI::Kind::ForYou), .handle = handle, .title = title, .label = {}},
-        recoServices(), owner);
+    const RecoAPI::Kind known = recoKindFrom(kind).value_or(RecoAPI::Kind::ForYou);
+    // A rail of our own says what it is called in the language of the window.
+    const bool isNamed = known == RecoAPI::Kind::Collection;
+    return new RecoRail({.kind = known, .handle = handle, .title = isNamed ? title : QString(), .label = {}},
+                        recoServices(), owner);
 }
 
 ProductCompanions* AppModel::makeCompanions(QObject* owner, const QString& handle)

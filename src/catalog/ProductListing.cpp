@@ -70,8 +70,10 @@ void ProductListing::enterMarket()
     const bool hadBounds = selection().priceMin || selection().priceMax;
     if (isNewCountry && hadBounds)
         setPrice({}, {});
-    else if (isBegun)
+    else if (isBegun) {
+        m_isToldAnew = !isNewCountry && m_products.count() > 0;
         reload();
+    }
 }
 
 void ProductListing::load()
@@ -100,9 +102,17 @@ QCoro::Task<> ProductListing::loadFirst()
     m_loadingMore.stop();
     const QString loadedKey = key();
     const QString loadedChoices = choices();
+    const bool isToldAnew = std::exchange(m_isToldAnew, false);
     auto page = co_await fetch(std::nullopt, run.stop());
     if (run.isStopped())
         co_return;
+    if (page && isToldAnew) {
+        // Whoever has scrolled down stays there; and another language counts the same.
+        m_countedChoices = loadedChoices;
+        page = co_await filled(std::move(*page), static_cast<std::size_t>(m_products.count()), run.stop());
+        if (run.isStopped())
+            co_return;
+    }
     m_loadMoreFailure.reset();
     if (!page) {
         m_failure = page.error().error();
@@ -134,7 +144,7 @@ QCoro::Task<> ProductListing::loadFirst()
     }
     if (!m_hasNextPage)
         m_totalCount = m_products.count();
-    else if (!page->totalCount)
+    else if (!page->totalCount && !(isToldAnew && m_totalCount))
         static_cast<void>(count());
 }
 
@@ -151,6 +161,20 @@ QCoro::Task<> ProductListing::loadNext()
     auto failure = co_await append(run.stop());
     if (!run.isStopped())
         m_loadMoreFailure = std::move(failure);
+}
+
+QCoro::Task<ListingPage> ProductListing::filled(ListingPage page, std::size_t count, std::stop_token stop)
+{
+    const std::size_t pages = count / std::max<std::size_t>(page.products.size(), 1) + maximumPassedOver;
+    for (std::size_t i = 0; i < pages && page.hasNextPage && page.products.size() < count; ++i) {
+        auto next = co_await fetch(page.endCursor, stop);
+        if (stop.stop_requested() || !next || next->endCursor == page.endCursor)
+            break; // it goes on from here as the shopper does
+        std::ranges::move(next->products, std::back_inserter(page.products));
+        page.hasNextPage = next->hasNextPage;
+        page.endCursor = std::move(next->endCursor);
+    }
+    co_return page;
 }
 
 QCoro::Task<std::optional<APIError>> ProductListing::append(std::stop_token stop)

@@ -118,6 +118,8 @@ private:
     [[nodiscard]] QString choices() const;
     [[nodiscard]] QCoro::Task<> loadFirst();
     [[nodiscard]] QCoro::Task<> loadNext();
+    /// Takes further pages into the first until there are as many products, or no more to be had.
+    [[nodiscard]] QCoro::Task<ListingPage> filled(ListingPage page, std::size_t count, std::stop_token stop);
     /// Appends pages until one has added something or the list ends; gives what stopped it, if anything did.
     [[nodiscard]] QCoro::Task<std::optional<APIError>> append(std::stop_token stop);
     [[nodiscard]] QCoro::Task<> count();
@@ -136,6 +138,7 @@ private:
     QString m_countedChoices; ///< that it is the number for
     std::optional<APIError> m_failure;
     std::optional<APIError> m_loadMoreFailure;
+    bool m_isToldAnew = false; ///< the next load is of what is shown, in another language
     int m_version = 0;
     QString m_loadedKey;
     Work m_loading;

@@ -145,10 +145,9 @@ const ProductVariant* shownVariant(const Product& product, const Selection& sele
 
 QString optionMissingText(const QString& option)
 {
-    const QLocale locale;
     // German alone writes its nouns with capitals.
     return QCoreApplication::translate("Loomstreet", "Choose a %1 first.")
-        .arg(locale.language() == QLocale::German ? option : locale.toLower(option));
+        .arg(QLocale().language() == QLocale::German ? option : option.toLower());
 }
 
 } // namespace loom

@@ -95,7 +95,7 @@ void CheckoutModel::loadStarted(const QUrl& url)
     // The engine tells of loads that were refused as well.
     if (m_phase == Phase::Failed || m_phase == Phase::Completed || m_isClosed || !isAllowed(url))
         return;
-    m_errorText.clear();
+    m_reason.clear();
     Q_EMIT changed();
     static_cast<void>(watchLoad());
 }
@@ -105,7 +105,7 @@ QCoro::Task<> CheckoutModel::watchLoad()
     const Work::Run run = m_loading.begin();
     co_await m_services.clock.sleep(loadTimeout, run.stop());
     if (!run.isStopped())
-        die(QCoreApplication::translate("Loomstreet", "The page took too long to load."));
+        die(QStringLiteral(QT_TRANSLATE_NOOP("Loomstreet", "The page took too long to load.")));
 }
 
 bool CheckoutModel::loadFinished(const QUrl& url)
@@ -131,7 +131,7 @@ bool CheckoutModel::loadStopped(const QUrl& url)
         return loadFinished(url);
     m_loading.stop();
     if (m_phase == Phase::Opening)
-        die(QCoreApplication::translate("Loomstreet", "The page leads out of the checkout."));
+        die(QStringLiteral(QT_TRANSLATE_NOOP("Loomstreet", "The page leads out of the checkout.")));
     return false;
 }
 
@@ -164,7 +164,13 @@ void CheckoutModel::rendererGone()
 {
     m_loading.stop();
     if (m_phase != Phase::Completed)
-        die(QCoreApplication::translate("Loomstreet", "The page stopped working."));
+        die(QStringLiteral(QT_TRANSLATE_NOOP("Loomstreet", "The page stopped working.")));
+}
+
+QString CheckoutModel::errorText() const
+{
+    // The engine's own reasons are in no table, and stay as they are.
+    return m_reason.isEmpty() ? QString() : QCoreApplication::translate("Loomstreet", m_reason.toUtf8().constData());
 }
 
 void CheckoutModel::die(const QString& reason)
@@ -175,7 +181,7 @@ void CheckoutModel::die(const QString& reason)
         rebuild();
         return;
     }
-    m_errorText = reason;
+    m_reason = reason;
     setPhase(Phase::Failed);
 }
 
@@ -187,7 +193,7 @@ void CheckoutModel::rebuild()
     m_shown = m_address;
     m_isAtStart = true;
     m_refusedLink.clear();
-    m_errorText.clear();
+    m_reason.clear();
     ++m_generation;
     Q_EMIT addressChanged();
     setPhase(Phase::Opening);

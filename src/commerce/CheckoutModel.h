@@ -70,7 +70,7 @@ public:
     [[nodiscard]] int generation() const { return m_generation; }
     [[nodiscard]] bool isSecure() const { return m_shown.scheme() == QLatin1String("https"); }
     [[nodiscard]] QString connectionText() const;
-    [[nodiscard]] const QString& errorText() const { return m_errorText; }
+    [[nodiscard]] QString errorText() const;
     /// The host to which the page wanted to go and may not; empty when it is none that a browser could go to.
     [[nodiscard]] QString refusedHost() const { return m_refusedLink.host(); }
     [[nodiscard]] QString completionText() const;
@@ -126,7 +126,7 @@ private:
     QUrl m_shown;
     QUrl m_refusedLink;
     bool m_isAtStart = true; ///< the address to begin at may be any of the cart's own
-    QString m_errorText;
+    QString m_reason;        ///< why there is no page, in English
     QString m_number;
     int m_generation = 0;
     bool m_wasRebuilt = false;

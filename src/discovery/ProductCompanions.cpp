@@ -17,6 +17,7 @@ ProductCompanions::ProductCompanions(QString handle, const RecoServices& service
     , m_alsoViewed(services)
     , m_outfit(services)
     , m_similar(services.money, services.clock)
+    , m_language(services.market.context().language)
     , m_loading([this] { Q_EMIT changed(); })
 {
     m_alsoViewed.setExcluded({m_handle});
@@ -24,7 +25,8 @@ ProductCompanions::ProductCompanions(QString handle, const RecoServices& service
     connect(&m_alsoViewed, &RecoCards::shownChanged, this, &ProductCompanions::exclude);
     // What the catalog recommends is priced by the market, what the store recommends is converted.
     connect(&services.market, &MarketStore::revisionChanged, this, [this] {
-        if (m_similar.count() > 0)
+        const bool areToldAnew = std::exchange(m_language, m_services.market.context().language) != m_language;
+        if (m_similar.count() > 0 || (areToldAnew && m_isLoaded))
             reload();
     });
 }

@@ -67,6 +67,7 @@ private:
     RecoCards m_alsoViewed;
     RecoCards m_outfit;
     ProductListModel m_similar;
+    AppLanguage m_language; ///< of what is shown
     std::optional<qint64> m_unitsSold;
     bool m_isLoaded = false;
     bool m_isAwaited = true;

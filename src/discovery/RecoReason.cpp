@@ -45,26 +45,29 @@ constexpr std::array<Rule, 9> rules{{
     {"style_pick", QT_TRANSLATE_NOOP3("Loomstreet", "%1 style pick", "reco.reason.style_pick"), Parameter::Style},
 }};
 
-/// Of "%1"; -1 where there is none.
-qsizetype placeOfParameter(QStringView pattern)
+/// Where "%1" or "%L1" begins and how long it is; the former -1 where there is none.
+std::pair<qsizetype, qsizetype> placeOfParameter(QStringView pattern)
 {
-    for (qsizetype i = pattern.indexOf(u'%'); i >= 0 && i + 1 < pattern.size(); i = pattern.indexOf(u'%', i + 1)) {
-        if (pattern[i + 1] == u'1')
-            return i;
+    for (qsizetype i = pattern.indexOf(u'%'); i >= 0; i = pattern.indexOf(u'%', i + 1)) {
+        const QStringView rest = pattern.sliced(i + 1);
+        if (rest.startsWith(u'1'))
+            return {i, 2};
+        if (rest.startsWith(u"L1"))
+            return {i, 3};
     }
-    return -1;
+    return {-1, 0};
 }
 
 QString filled(const KeyedText& text, const QString& parameter)
 {
     QString pattern = text.translated();
-    const qsizetype place = placeOfParameter(pattern);
+    const auto [place, length] = placeOfParameter(pattern);
     if (place < 0)
         return pattern;
     const QStringView around(pattern);
     QString whole;
     whole.reserve(pattern.size() + parameter.size());
-    whole.append(around.first(place)).append(parameter).append(around.sliced(place + 2));
+    whole.append(around.first(place)).append(parameter).append(around.sliced(place + length));
     return withHanSpacing(std::move(whole));
 }
 

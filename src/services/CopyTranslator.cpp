@@ -4,6 +4,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace loom
 {
 
@@ -84,8 +86,14 @@ QString CopyTranslator::translate(const char* context, const char* sourceText, c
     if (!text && found->english &&
         (!m_builtIn || m_builtIn->translate(context, sourceText, disambiguation, n).isEmpty()))
         text = found->english;
-    // A number without its place, or a place without what belongs there, is worse than the window's own words.
-    return text && placesIn(*text) == placesIn(QString::fromUtf8(sourceText)) ? *text : QString();
+    // A number without its place, a place without what belongs there, or a line where there is room for none, is worse
+    // than the window's own words.
+    const auto isControl = [](QChar character) {
+        return character.category() == QChar::Other_Control;
+    };
+    return text && std::ranges::none_of(*text, isControl) && placesIn(*text) == placesIn(QString::fromUtf8(sourceText))
+               ? *text
+               : QString();
 }
 
 } // namespace loom

@@ -38,17 +38,30 @@ bool mayHoldText(QMetaType type)
     }
 }
 
+/// Whether a shopper may have typed what an object shows, which its binding knows nothing of.
+bool isTypedIn(const QObject& object)
+{
+    const QVariant readOnly = object.property("readOnly");
+    return readOnly.isValid() && !readOnly.toBool();
+}
+
 /// Evaluates the bindings of an object that may hold a text.
 void evaluateTexts(QObject& object)
 {
     const QQmlData* const data = QQmlData::get(&object);
     if (!data || data->wasDeleted(&object))
         return;
+    // What is on its way out has lost what its bindings look at.
+    const QQmlContextData* const context = data->context ? data->context : data->outerContext;
+    if (!context || !context->isValid())
+        return;
+    const bool keepsText = isTypedIn(object);
     // One may take itself or its neighbours out.
     QVarLengthArray<QQmlAbstractBinding::Ptr, 16> bindings;
     for (QQmlAbstractBinding* binding = data->bindings; binding; binding = binding->nextBinding()) {
         const QMetaProperty property = object.metaObject()->property(binding->targetPropertyIndex().coreIndex());
-        if (binding->kind() == QQmlAbstractBinding::QmlBinding && mayHoldText(property.metaType()))
+        if (binding->kind() == QQmlAbstractBinding::QmlBinding && mayHoldText(property.metaType()) &&
+            !(keepsText && qstrcmp(property.name(), "text") == 0))
             bindings.append(QQmlAbstractBinding::Ptr(binding));
     }
     const QPointer<QObject> alive(&object);
