@@ -3138,7 +3138,7 @@
     <message>
         <source>Loved by shoppers like you</source>
         <comment>reco.reason.similar_shoppers</comment>
-        <translation>Plébiscité par des profils comme le vôtre</translation>
+        <translation>Apprécié par des profils proches</translation>
     </message>
     <message>
         <source>Based on what you&apos;ve been browsing</source>
@@ -3153,7 +3153,7 @@
     <message>
         <source>Matches your search for %1</source>
         <comment>reco.reason.matches_search</comment>
-        <translation>Correspond à votre recherche&#xa0;: %1</translation>
+        <translation>Pour votre recherche&#xa0;: %1</translation>
     </message>
     <message>
         <source>Because you love %1</source>

@@ -3108,7 +3108,7 @@
     <message>
         <source>Loved by shoppers like you</source>
         <comment>reco.reason.similar_shoppers</comment>
-        <translation>Disukai orang yang seselera denganmu</translation>
+        <translation>Disukai yang seselera denganmu</translation>
     </message>
     <message>
         <source>Based on what you&apos;ve been browsing</source>

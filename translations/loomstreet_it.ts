@@ -3150,7 +3150,7 @@
     <message>
         <source>Matches your search for %1</source>
         <comment>reco.reason.matches_search</comment>
-        <translation>In linea con la tua ricerca: %1</translation>
+        <translation>Per la tua ricerca: %1</translation>
     </message>
     <message>
         <source>Because you love %1</source>

@@ -3164,7 +3164,7 @@
     <message>
         <source>Loved by shoppers like you</source>
         <comment>reco.reason.similar_shoppers</comment>
-        <translation>Apreciat de cei cu gusturi ca ale tale</translation>
+        <translation>Pe gustul celor ca tine</translation>
     </message>
     <message>
         <source>Based on what you&apos;ve been browsing</source>

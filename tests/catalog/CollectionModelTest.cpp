@@ -256,6 +256,31 @@ TEST_F(CollectionModelTest, FiltersNarrowFromTheFirstPageAndTheLastChoiceWins)
     EXPECT_EQ(model->selection().priceMin, std::nullopt);
 }
 
+TEST_F(CollectionModelTest, AnotherLanguageComesAsFarAsItWasShown)
+{
+    answer(products, page("ab", "c1"));
+    answer(counting, counted(5));
+    model->load();
+    settleAll(2);
+    answer(products, page("cd", "c2"));
+    loadMore();
+
+    answer("Countries", Answer::body("", 404));
+    answer(products, page("ba", "c1"));
+    answer(products, envelope(page("dc", "c2")).pauseAfter(0));
+    market.setLanguage(AppLanguage::German);
+    server.waitForRequests(6);
+    EXPECT_EQ(shown(), "abcd");
+    server.proceed();
+    settleAll(6); // the number of pieces is no text
+    EXPECT_EQ(shown(), "badc");
+    EXPECT_EQ(model->totalCount(), 5);
+    answer(products, page("e"));
+    loadMore();
+    EXPECT_EQ(lastVariables().value(QStringLiteral("after")), QStringLiteral("c2"));
+    EXPECT_EQ(shown(), "badce");
+}
+
 TEST_F(CollectionModelTest, AModelMayGoAtAnyTime)
 {
     answer(products, Answer::silence());

@@ -131,6 +131,24 @@ TEST_F(WindowLanguageTest, OnlyTheLastOfSeveralChangesCounts)
     EXPECT_EQ(textsOf(window), english);
 }
 
+TEST_F(WindowLanguageTest, WhatIsTypedStays)
+{
+    QQuickWindow& window = open({});
+    model->keySession()->selected()->openTracking();
+    QQuickItem* field = nullptr;
+    waitUntil(
+        [&] {
+            field = find(QStringLiteral("number"), window.contentItem());
+            return field != nullptr;
+        },
+        "the field is there");
+    const QString label = field->property("label").toString();
+    field->setProperty("text", QStringLiteral("LP123456789"));
+    speak(AppLanguage::German);
+    EXPECT_EQ(field->property("text").toString(), QStringLiteral("LP123456789"));
+    EXPECT_NE(field->property("label").toString(), label);
+}
+
 TEST_F(WindowLanguageTest, WhoeverHearsOfTheChangeFindsItDone)
 {
     QString title;
