@@ -28,14 +28,33 @@ bool isRightToLeft(QChar letter)
     return letter.direction() == QChar::DirR || letter.direction() == QChar::DirAL;
 }
 
+/// With what is put in apart from the sentence around it: a price, a brand's name or an address keeps its own order.
+QString isolated(const QString& text)
+{
+    constexpr QChar firstStrongIsolate(0x2068);
+    constexpr QChar popDirectionalIsolate(0x2069);
+    QString whole;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const qsizetype number = text.mid(i, 2) == QLatin1String("%L") ? i + 2 : i + 1;
+        const bool isPlace = text[i] == u'%' && number < text.size() && text[number].isDigit();
+        if (!isPlace) {
+            whole += text[i];
+            continue;
+        }
+        whole += firstStrongIsolate + text.sliced(i, number + 1 - i) + popDirectionalIsolate;
+        i = number;
+    }
+    return whole;
+}
+
 /// A line runs the way of its first letter: one of a name that such a text begins with, or that is put there, would
 /// turn the sentence around it.
-QString keptRightToLeft(QString text)
+QString keptRightToLeft(const QString& text)
 {
+    if (!std::ranges::any_of(text, isRightToLeft))
+        return text;
     constexpr QChar rightToLeftMark(0x200f);
-    if (!text.isEmpty() && !isRightToLeft(text.front()) && std::ranges::any_of(text, isRightToLeft))
-        text.prepend(rightToLeftMark);
-    return text;
+    return isRightToLeft(text.front()) ? isolated(text) : rightToLeftMark + isolated(text);
 }
 
 } // namespace

@@ -73,6 +73,8 @@ TEST_F(WindowTranslatorTest, ASentenceThatBeginsWithANameKeepsItsDirection)
         ASSERT_TRUE(translator.setLanguage(language));
         EXPECT_TRUE(more().isRightToLeft()) << more().toStdString();
         EXPECT_FALSE(close().startsWith(QChar(0x200f)));
+        // A name is apart from what stands around it.
+        EXPECT_TRUE(more().contains(QString::fromUtf8("\u2068Silk dress\u2069"))) << more().toStdString();
     }
 }
 
