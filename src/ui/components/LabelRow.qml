@@ -73,17 +73,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             active: labelRow.wraps
             visible: active
-            sourceComponent: TextLabel {
-                width: labelRow.room
-                text: labelRow.text
-                wrapMode: Text.Wrap
-                maximumLineCount: labelRow.lines
-                horizontalAlignment: labelRow.centred && labelRow.iconName === "" ? Text.AlignHCenter : Text.AlignLeft
-                type: labelRow.type
-                figures: labelRow.figures
-                color: labelRow.color
-                Accessible.ignored: true
-            }
+            Component.onCompleted: setSource("LabelLines.qml", { row: labelRow })
         }
         TextLabel {
             id: noteLabel
